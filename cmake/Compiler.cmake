@@ -1,0 +1,26 @@
+# The language level, warnings and sanitizers that every target of ours is built with.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC OFF)
+
+add_library(vantrell_options INTERFACE)
+target_compile_options(
+    vantrell_options INTERFACE -Wall -Wextra -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
+                               -Woverloaded-virtual -Werror
+)
+target_compile_definitions(
+    vantrell_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
+                               QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+)
+if(VANTRELL_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+if(VANTRELL_TIDY)
+    set(CMAKE_CXX_CLANG_TIDY clang-tidy-16 --quiet)
+endif()
+find_program(VANTRELL_MOLD mold)
+if(VANTRELL_MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_link_options(-fuse-ld=mold)
+endif()

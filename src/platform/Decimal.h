@@ -1,0 +1,79 @@
+#pragma once
+
+#include <compare>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vantrell {
+
+/// An exact decimal number: a coefficient of up to 38 significant digits and a power of ten.
+///
+/// Sums, differences and products are exact while they fit in 38 digits; a longer result, like a quotient,
+/// is rounded half away from zero at 38 digits. Results of a size beyond 10^6144 stay at the largest number,
+/// and results below 10^-6144 become 0. There is no way in from a floating-point number but
+/// `fromShortestText`, and none out but `toDouble`.
+///
+///     Decimal::parse("1.40")->text()                 "1.4"
+///     (*Decimal::parse("1.4") * Decimal(3)).text()   "4.2"
+class Decimal {
+  public:
+    static constexpr int maxDigits = 38;
+
+    constexpr Decimal() = default;
+    /// Exactly `value`.
+    constexpr Decimal(std::int64_t value);  // NOLINT(google-explicit-constructor)
+    /// `coefficient` times ten to `exponent`.
+    [[nodiscard]] static Decimal scaled(std::int64_t coefficient, int exponent);
+
+    /// Reads an optional sign, ASCII digits with at most one point, and an optional exponent ("-1.5e3",
+    /// ".70", "5."). Digits past the 38th are rounded. Absent for any other text, and for sizes beyond
+    /// 10^999; a size below 10^-999 is 0.
+    [[nodiscard]] static std::optional<Decimal> parse(std::string_view text);
+
+    /// The number that the shortest text which reads back as `value` stands for: 1.3641 becomes exactly
+    /// 1.3641. Absent if `value` is not finite.
+    [[nodiscard]] static std::optional<Decimal> fromShortestText(double value);
+
+    /// Plain digits with "." and no exponent, no trailing zeros and no grouping: "-12.5", "0", "1000".
+    [[nodiscard]] std::string text() const;
+
+    /// The nearest double; for sorting and charting only.
+    [[nodiscard]] double toDouble() const;
+
+    [[nodiscard]] constexpr bool isZero() const { return coefficient_ == 0; }
+    [[nodiscard]] constexpr bool isNegative() const { return coefficient_ < 0; }
+
+    /// Coefficient and exponent with no trailing zeros in the coefficient, if the coefficient fits in 64
+    /// bits.
+    struct Parts {
+        std::int64_t coefficient;
+        int exponent;
+    };
+    [[nodiscard]] std::optional<Parts> parts() const;
+
+    [[nodiscard]] Decimal operator-() const;
+    Decimal& operator+=(const Decimal& other);
+    Decimal& operator-=(const Decimal& other);
+    [[nodiscard]] friend Decimal operator+(const Decimal& left, const Decimal& right);
+    [[nodiscard]] friend Decimal operator-(const Decimal& left, const Decimal& right);
+    [[nodiscard]] friend Decimal operator*(const Decimal& left, const Decimal& right);
+    /// `right` must not be zero.
+    [[nodiscard]] friend Decimal operator/(const Decimal& left, const Decimal& right);
+
+    /// By value: 1.40 equals 1.4.
+    [[nodiscard]] friend bool operator==(const Decimal& left, const Decimal& right) = default;
+    [[nodiscard]] friend std::strong_ordering operator<=>(const Decimal& left, const Decimal& right);
+
+  private:
+    // Always without trailing zeros in the coefficient, and with exponent 0 for zero, so that equal numbers
+    // have equal members.
+    __extension__ using Coefficient = __int128;
+    Coefficient coefficient_ = 0;
+    std::int32_t exponent_ = 0;
+};
+
+}  // namespace vantrell

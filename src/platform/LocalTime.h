@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/Instant.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vantrell {
+
+/// A named time zone with its whole history of offsets; a cheap value to copy.
+class TimeZone {
+  public:
+    /// Absent for a name that the time zone database doesn't know.
+    [[nodiscard]] static std::optional<TimeZone> named(std::string_view id);
+    /// The zone that the machine is set to now (the TZ variable first); UTC if it can't be told.
+    [[nodiscard]] static TimeZone ofHost();
+
+    [[nodiscard]] std::string id() const;
+    /// The day that a calendar on the wall in this zone shows at `instant`.
+    [[nodiscard]] CivilDate dateAt(Instant instant) const;
+    /// Noon of `day` in this zone; where noon is skipped by a change of the clocks, the moment after the gap.
+    [[nodiscard]] Instant noonOf(CivilDate day) const;
+
+  private:
+    struct Zone;
+    explicit TimeZone(std::shared_ptr<const Zone> zone);
+    std::shared_ptr<const Zone> zone_;
+};
+
+/// Which zone the user is in. Asked afresh each time, so that a change while the program runs is followed.
+class LocalTime {
+  public:
+    virtual ~LocalTime() = default;
+    [[nodiscard]] virtual TimeZone zone() const = 0;
+};
+
+/// The zone of the machine.
+class HostLocalTime final : public LocalTime {
+  public:
+    [[nodiscard]] TimeZone zone() const override { return TimeZone::ofHost(); }
+};
+
+}  // namespace vantrell

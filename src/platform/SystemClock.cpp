@@ -1,0 +1,29 @@
+#include "platform/SystemClock.h"
+
+#include <QTimer>
+#include <qcoro/qcorosignal.h>
+
+namespace vantrell {
+
+Instant SystemClock::now() const {
+    return std::chrono::floor<std::chrono::microseconds>(std::chrono::system_clock::now());
+}
+
+std::chrono::microseconds SystemClock::monotonic() const {
+    return std::chrono::floor<std::chrono::microseconds>(std::chrono::steady_clock::now().time_since_epoch());
+}
+
+QCoro::Task<> SystemClock::sleep(std::chrono::microseconds duration, CancelToken cancel) {
+    if (cancel.isCancelled() || duration <= std::chrono::microseconds::zero()) {
+        co_return;
+    }
+    QTimer timer;
+    timer.setSingleShot(true);
+    timer.setTimerType(Qt::PreciseTimer);
+    timer.start(std::chrono::ceil<std::chrono::milliseconds>(duration));
+    // The timer is made to fire rather than deleted: a frame whose awaited object is gone never resumes.
+    const auto registration = cancel.onCancel([&timer] { timer.start(0); });
+    co_await qCoro(&timer, &QTimer::timeout);
+}
+
+}  // namespace vantrell

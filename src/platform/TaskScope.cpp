@@ -1,0 +1,30 @@
+#include "platform/TaskScope.h"
+
+#include <exception>
+#include <utility>
+
+#include <QtGlobal>
+
+namespace vantrell {
+
+TaskScope::~TaskScope() {
+    if (pending_ != 0) {
+        qFatal("%d tasks outlive their scope", pending_);
+    }
+}
+
+void TaskScope::spawn(QCoro::Task<> task) {
+    ++pending_;
+    run(std::move(task));
+}
+
+QCoro::Task<> TaskScope::run(QCoro::Task<> task) {
+    try {
+        co_await std::move(task);
+    } catch (const std::exception& error) {
+        qFatal("an exception escaped a task: %s", error.what());
+    }
+    --pending_;
+}
+
+}  // namespace vantrell

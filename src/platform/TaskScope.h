@@ -1,0 +1,27 @@
+#pragma once
+
+#include <qcoro/qcorotask.h>
+
+namespace vantrell {
+
+/// The one door through which a coroutine is started without being awaited. It counts what is under way;
+/// an exception that escapes a started task is a bug and ends the program.
+class TaskScope {
+  public:
+    TaskScope() = default;
+    ~TaskScope();
+    TaskScope(const TaskScope&) = delete;
+    TaskScope& operator=(const TaskScope&) = delete;
+
+    /// The scope must outlive the task: whoever owns both cancels what the task waits for first.
+    void spawn(QCoro::Task<> task);
+
+    [[nodiscard]] int pending() const { return pending_; }
+
+  private:
+    QCoro::Task<> run(QCoro::Task<> task);
+
+    int pending_ = 0;
+};
+
+}  // namespace vantrell

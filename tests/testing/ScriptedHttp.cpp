@@ -1,0 +1,27 @@
+#include "testing/ScriptedHttp.h"
+
+#include <gtest/gtest.h>
+
+namespace vantrell::testing {
+
+QCoro::Task<HttpResult> ScriptedHttp::get(HttpRequest request, CancelToken cancel) {
+    requests.push_back(request);
+    if (whileWaiting) {
+        whileWaiting(request);
+    }
+    if (cancel.isCancelled()) {
+        co_return HttpFailure{"cancelled"};
+    }
+    if (respond) {
+        co_return respond(request);
+    }
+    if (answers.empty()) {
+        ADD_FAILURE() << "no answer is scripted for " << request.url;
+        co_return HttpFailure{"no answer is scripted"};
+    }
+    auto answer = std::move(answers.front());
+    answers.pop_front();
+    co_return answer;
+}
+
+}  // namespace vantrell::testing
