@@ -1,0 +1,97 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace vantrell {
+
+/// What SQLite answered when something failed: its result code and its own words.
+class SqliteError : public std::runtime_error {
+  public:
+    SqliteError(int code, const std::string& description);
+    [[nodiscard]] int code() const { return code_; }
+
+  private:
+    int code_;
+};
+
+/// One prepared statement. Parameters and columns count from 0.
+class SqliteStatement {
+  public:
+    void bind(int index, std::int64_t value);
+    void bind(int index, double value);
+    /// The bytes must stay where they are until the statement is reset.
+    void bind(int index, std::string_view text);
+    void bindNull(int index);
+
+    /// True while there is a row to read. Throws SqliteError.
+    [[nodiscard]] bool step();
+    /// For statements without rows: steps once and resets, so that the next values can be bound.
+    void run();
+    void reset();
+
+    [[nodiscard]] std::int64_t integer(int column) const;
+    [[nodiscard]] double real(int column) const;
+    /// Valid until the next step or reset.
+    [[nodiscard]] std::string_view text(int column) const;
+    [[nodiscard]] bool isNull(int column) const;
+    [[nodiscard]] bool isText(int column) const;
+
+  private:
+    friend class SqliteDatabase;
+    struct Finalizer {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+    explicit SqliteStatement(sqlite3_stmt* statement) : statement_(statement) {}
+
+    std::unique_ptr<sqlite3_stmt, Finalizer> statement_;
+};
+
+/// One connection to one SQLite file. Every operation throws SqliteError when it fails.
+class SqliteDatabase {
+  public:
+    enum class Mode {
+        readWrite,  ///< creates the file if there is none
+        peek,       ///< reads what is there without locks and without recovery: never changes a byte
+    };
+
+    /// `vfs` names one of SQLite's file layers; empty means the default.
+    SqliteDatabase(const std::string& path, Mode mode, const std::string& vfs = {});
+
+    void execute(const std::string& sql);
+    [[nodiscard]] SqliteStatement prepare(std::string_view sql);
+    /// The first column of the first row as an integer; 0 without a row.
+    [[nodiscard]] std::int64_t integer(std::string_view sql);
+    [[nodiscard]] bool inTransaction() const;
+    /// True where the file can be read but not written.
+    [[nodiscard]] bool isReadOnly() const;
+
+  private:
+    struct Closer {
+        void operator()(sqlite3* database) const;
+    };
+    std::unique_ptr<sqlite3, Closer> database_;
+};
+
+/// A transaction that is rolled back unless it was committed.
+class SqliteTransaction {
+  public:
+    explicit SqliteTransaction(SqliteDatabase& database);
+    ~SqliteTransaction();
+    SqliteTransaction(const SqliteTransaction&) = delete;
+    SqliteTransaction& operator=(const SqliteTransaction&) = delete;
+
+    void commit();
+
+  private:
+    SqliteDatabase& database_;
+    bool open_ = true;
+};
+
+}  // namespace vantrell
