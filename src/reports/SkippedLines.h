@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vantrell {
+
+/// A sample of the lines of a report that could not be used, for the user to read.
+struct SkippedLines {
+    std::string text;
+    bool full = false;  ///< 2,000 characters are reached
+};
+
+/// Adds `line` on a line of its own, with two spaces for each tab, unless the sample is full. The line that
+/// fills it is kept whole.
+void appendSkippedLine(std::string_view line, SkippedLines& skippedLines);
+
+}  // namespace vantrell
