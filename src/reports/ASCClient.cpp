@@ -1,0 +1,122 @@
+#include "reports/ASCClient.h"
+
+#include "platform/Utf8.h"
+#include "reports/APIToken.h"
+#include "reports/ClassifyResponse.h"
+#include "reports/Gunzip.h"
+
+#include <exception>
+#include <utility>
+#include <variant>
+
+namespace vantrell {
+namespace {
+
+constexpr std::chrono::seconds tokenReserve{60};
+
+std::string defaultVersion(ReportFrequency frequency) {
+    return frequency == ReportFrequency::daily ? "1_1" : "1_0";
+}
+
+HttpRequest reportRequest(std::string url, const std::string& token) {
+    HttpRequest request;
+    request.url = std::move(url);
+    request.headers = {{"Accept", "application/a-gzip, application/json"},
+                       {"Authorization", "Bearer " + token}};
+    request.redirects = Redirects::refuse;
+    request.idleTimeout = std::chrono::seconds(90);
+    request.totalTimeout = std::chrono::minutes(15);
+    request.maxBodyBytes = std::size_t{64} << 20U;
+    request.maxErrorBodyBytes = std::size_t{1} << 20U;
+    return request;
+}
+
+ReportResponse reportResponse(HttpResponse answer) {
+    if (!answer.status) {
+        return response::Failure{"no HTTP response"};
+    }
+    if (*answer.status != 200) {
+        return classifyResponse(*answer.status, answer.body);
+    }
+    try {
+        return response::Success{repairedUtf8(gunzipIfNeeded(std::move(answer.body)))};
+    } catch (const GunzipError& error) {
+        return response::Failure{error.what()};
+    }
+}
+
+}  // namespace
+
+ASCClient::ASCClient(HttpClient& http, const Clock& clock, std::string origin)
+    : http_(http), clock_(clock), origin_(std::move(origin)) {}
+
+void ASCClient::setCredentials(APICredentials credentials) {
+    credentials_ = std::move(credentials);
+    cachedToken_.reset();
+}
+
+QCoro::Task<ReportResponse> ASCClient::fetchSales(ReportFrequency frequency, std::string reportDate,
+                                                  std::optional<std::string> version, CancelToken cancel) {
+    const std::string path = "/v1/salesReports";
+    const std::string asked = version.value_or(defaultVersion(frequency));
+    ReportResponse first = co_await send(path, salesQuery(frequency, reportDate, asked), cancel);
+    const auto* const refused = std::get_if<response::WrongVersion>(&first);
+    if (refused == nullptr || version) {
+        co_return first;
+    }
+    co_return co_await send(path, salesQuery(frequency, reportDate, refused->latest), cancel);
+}
+
+QCoro::Task<ReportResponse> ASCClient::fetchFinance(std::string fiscalPeriod, CancelToken cancel) {
+    std::vector<QueryItem> query{{"filter[vendorNumber]", credentials_.vendorNumber},
+                                 {"filter[reportType]", "FINANCIAL"},
+                                 {"filter[regionCode]", "ZZ"},
+                                 {"filter[reportDate]", std::move(fiscalPeriod)}};
+    co_return co_await send("/v1/financeReports", std::move(query), std::move(cancel));
+}
+
+std::vector<QueryItem> ASCClient::salesQuery(ReportFrequency frequency, const std::string& reportDate,
+                                             const std::string& version) const {
+    return {{"filter[vendorNumber]", credentials_.vendorNumber},
+            {"filter[reportType]", "SALES"},
+            {"filter[reportSubType]", "SUMMARY"},
+            {"filter[frequency]", std::string(rawText(frequency))},
+            {"filter[reportDate]", reportDate},
+            {"filter[version]", version}};
+}
+
+QCoro::Task<ReportResponse> ASCClient::send(std::string path, std::vector<QueryItem> queryItems,
+                                            CancelToken cancel) {
+    auto url = requestUrl(origin_, path, queryItems);
+    if (!url) {
+        co_return response::Failure{"could not build request URL"};
+    }
+    HttpRequest request;
+    try {
+        request = reportRequest(*std::move(url), currentToken());
+    } catch (const std::exception& error) {
+        co_return response::AuthFailure{error.what()};
+    }
+    HttpResult result = co_await http_.get(std::move(request), std::move(cancel));
+    if (auto* const answer = std::get_if<HttpResponse>(&result)) {
+        co_return reportResponse(std::move(*answer));
+    }
+    co_return response::Failure{std::get<HttpFailure>(std::move(result)).description};
+}
+
+std::string ASCClient::currentToken() {
+    if (cachedToken_ && isFresh(*cachedToken_)) {
+        return cachedToken_->value;
+    }
+    const Instant now = clock_.now();
+    std::string token = makeAPIToken(credentials_, now);
+    cachedToken_ = CachedToken{std::move(token), now + tokenLifetime, clock_.monotonic()};
+    return cachedToken_->value;
+}
+
+bool ASCClient::isFresh(const CachedToken& token) const {
+    const auto age = clock_.monotonic() - token.signedAt;
+    return token.expires > clock_.now() + tokenReserve && age < tokenLifetime - tokenReserve;
+}
+
+}  // namespace vantrell

@@ -1,0 +1,224 @@
+#include "platform/KeyPair.h"
+#include "reports/ASCClient.h"
+#include "testing/ManualClock.h"
+#include "testing/ScriptedHttp.h"
+
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+namespace vantrell {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr const char* versionRefused =
+    R"({"errors":[{"detail":"The latest version for this report is 1_0."}]})";
+
+class ASCClientTest : public ::testing::Test {
+  protected:
+    ASCClientTest() { client.setCredentials(credentials); }
+
+    ReportResponse sales(ReportFrequency frequency, std::string date,
+                         std::optional<std::string> version = std::nullopt, CancelToken cancel = {}) {
+        return QCoro::waitFor(
+            client.fetchSales(frequency, std::move(date), std::move(version), std::move(cancel)));
+    }
+
+    ReportResponse dailySales() { return sales(ReportFrequency::daily, "2026-11-21"); }
+
+    /// The values of one query item over all requests, in order.
+    std::vector<std::string> asked(const std::string& item) const {
+        std::vector<std::string> values;
+        for (const auto& request : http.requests) {
+            const std::string name = "filter%5B" + item + "%5D=";
+            const auto start = request.url.find(name) + name.size();
+            values.push_back(request.url.substr(start, request.url.find('&', start) - start));
+        }
+        return values;
+    }
+
+    std::string bearer(std::size_t request) const { return http.requests.at(request).headers.at(1).value; }
+
+    testing::ScriptedHttp http;
+    testing::ManualClock clock;
+    ASCClient client{http, clock, "https://reports.example"};
+    APICredentials credentials{"issuer", "key", generateKeyPair().privatePEM, "60419372"};
+};
+
+TEST_F(ASCClientTest, AsksForSalesWithAllItemsInOrder) {
+    http.answer(200, "Provider\n");
+    EXPECT_TRUE(dailySales() == ReportResponse(response::Success{"Provider\n"}));
+    ASSERT_EQ(http.requests.size(), 1U);
+    HttpRequest expected;
+    expected.url =
+        "https://reports.example/v1/"
+        "salesReports?filter%5BvendorNumber%5D=60419372&filter%5BreportType%5D=SALES"
+        "&filter%5BreportSubType%5D=SUMMARY&filter%5Bfrequency%5D=DAILY&filter%5BreportDate%5D=2026-11-21"
+        "&filter%5Bversion%5D=1_1";
+    expected.headers = {{"Accept", "application/a-gzip, application/json"},
+                        {"Authorization", "Bearer " + client.currentToken()}};
+    expected.redirects = Redirects::refuse;
+    expected.idleTimeout = 90s;
+    expected.totalTimeout = 15min;
+    expected.maxBodyBytes = 67'108'864;
+    expected.maxErrorBodyBytes = 1'048'576;
+    EXPECT_TRUE(http.requests[0] == expected) << http.requests[0].url;
+}
+
+TEST_F(ASCClientTest, AsksForFinanceOfAllRegionsWithoutAVersion) {
+    http.answer(200, "text");
+    EXPECT_TRUE(QCoro::waitFor(client.fetchFinance("2026-11", {})) ==
+                ReportResponse(response::Success{"text"}));
+    ASSERT_EQ(http.requests.size(), 1U);
+    EXPECT_EQ(http.requests[0].url,
+              "https://reports.example/v1/financeReports?filter%5BvendorNumber%5D=60419372"
+              "&filter%5BreportType%5D=FINANCIAL&filter%5BregionCode%5D=ZZ&filter%5BreportDate%5D=2026-11");
+}
+
+TEST_F(ASCClientTest, EachFrequencyHasItsOwnFilterAndUsualVersion) {
+    http.respond = [](const HttpRequest&) { return HttpResponse{200, ""}; };
+    using enum ReportFrequency;
+    for (const auto frequency : {daily, weekly, monthly, yearly}) {
+        static_cast<void>(sales(frequency, "2026"));
+    }
+    EXPECT_EQ(asked("frequency"), (std::vector<std::string>{"DAILY", "WEEKLY", "MONTHLY", "YEARLY"}));
+    EXPECT_EQ(asked("version"), (std::vector<std::string>{"1_1", "1_0", "1_0", "1_0"}));
+}
+
+TEST_F(ASCClientTest, ARefusedVersionIsReplacedByTheOneThatTheServiceNames) {
+    http.answer(400, versionRefused);
+    http.answer(200, "text");
+    EXPECT_TRUE(dailySales() == ReportResponse(response::Success{"text"}));
+    http.answer(200, "text");
+    static_cast<void>(dailySales());
+    EXPECT_EQ(asked("version"), (std::vector<std::string>{"1_1", "1_0", "1_1"})) << "nothing is remembered";
+    EXPECT_EQ(asked("reportDate"), (std::vector<std::string>(3, "2026-11-21")));
+}
+
+TEST_F(ASCClientTest, ThereIsNoThirdAttempt) {
+    http.answer(400, versionRefused);
+    http.answer(400, "version 1_2, please");
+    EXPECT_TRUE(dailySales() ==
+                ReportResponse(response::WrongVersion{"1_2", "HTTP 400: version 1_2, please"}));
+    EXPECT_EQ(asked("version"), (std::vector<std::string>{"1_1", "1_0"}));
+}
+
+TEST_F(ASCClientTest, AVersionThatTheCallerNamesIsKept) {
+    http.answer(400, versionRefused);
+    EXPECT_TRUE(
+        std::holds_alternative<response::WrongVersion>(sales(ReportFrequency::daily, "2026-11-21", "1_3")));
+    EXPECT_EQ(asked("version"), std::vector<std::string>{"1_3"});
+}
+
+TEST_F(ASCClientTest, EveryOtherAnswerIsReportedAfterOneRequest) {
+    const std::string damaged =
+        std::string("\x1F\x8B\x08\x00\x00\x00\x00\x00\x00\x00", 10) + std::string(20, '\xFF');
+    const struct {
+        const char* name;
+        HttpResult answer;
+        ReportResponse expected;
+    } cases[] = {
+        {"invalid UTF-8 is repaired", HttpResponse{200, "a\xFF"}, response::Success{"a\uFFFD"}},
+        {"damaged gzip", HttpResponse{200, damaged},
+         response::Failure{"The report is damaged: it could not be unpacked."}},
+        {"no content is no success", HttpResponse{204, ""}, response::Failure{"HTTP 204: "}},
+        {"a redirect", HttpResponse{302, "moved"}, response::Failure{"HTTP 302: moved"}},
+        {"refused", HttpResponse{403, "no"}, response::AuthFailure{"HTTP 403: no"}},
+        {"slow down", HttpResponse{429, "wait"}, response::RateLimited{"HTTP 429: wait"}},
+        {"not HTTP", HttpResponse{std::nullopt, "220 ftp"}, response::Failure{"no HTTP response"}},
+        {"no network", HttpFailure{"The host was not found."}, response::Failure{"The host was not found."}},
+    };
+    for (const auto& [name, answer, expected] : cases) {
+        http.requests.clear();
+        http.answers = {answer};
+        const ReportResponse actual = dailySales();
+        EXPECT_TRUE(actual == expected) << name << ": " << diagnosticText(actual);
+        EXPECT_EQ(http.requests.size(), 1U) << name;
+    }
+}
+
+TEST_F(ASCClientTest, AnUnreadableKeyIsReportedWithoutTraffic) {
+    credentials.privateKeyPEM = "<html>";
+    client.setCredentials(credentials);
+    const response::AuthFailure refused{
+        "The .p8 private key could not be read: the file is not valid PEM or base64"};
+    EXPECT_TRUE(dailySales() == ReportResponse(refused));
+    EXPECT_TRUE(QCoro::waitFor(client.fetchFinance("2026-11", {})) == ReportResponse(refused));
+    EXPECT_TRUE(http.requests.empty());
+}
+
+TEST_F(ASCClientTest, AnOriginThatIsNoneIsReportedWithoutTraffic) {
+    for (const char* const origin :
+         {"", "reports.example", "ftp://reports.example", "https://reports.example/v1"}) {
+        ASCClient lost(http, clock, origin);
+        lost.setCredentials(credentials);
+        EXPECT_TRUE(QCoro::waitFor(lost.fetchFinance("2026-11", {})) ==
+                    ReportResponse(response::Failure{"could not build request URL"}))
+            << origin;
+    }
+    EXPECT_TRUE(http.requests.empty());
+}
+
+TEST_F(ASCClientTest, ValuesCannotAddItemsToTheQuery) {
+    credentials.vendorNumber = "1&filter[version]=9_9 #+/?%é";
+    client.setCredentials(credentials);
+    http.answer(200, "");
+    static_cast<void>(dailySales());
+    EXPECT_EQ(asked("vendorNumber"),
+              std::vector<std::string>{"1%26filter%5Bversion%5D%3D9_9%20%23%2B%2F%3F%25%C3%A9"});
+}
+
+TEST_F(ASCClientTest, ATokenIsUsedForLessThanNineteenMinutes) {
+    http.respond = [](const HttpRequest&) { return HttpResponse{200, ""}; };
+    static_cast<void>(dailySales());
+    clock.advance(18min + 59s);
+    static_cast<void>(dailySales());
+    clock.advance(1s);
+    static_cast<void>(dailySales());
+    EXPECT_EQ(bearer(0), bearer(1));
+    EXPECT_NE(bearer(1), bearer(2));
+}
+
+TEST_F(ASCClientTest, NoChangeOfTheWallClockMakesATokenTooOld) {
+    const std::string first = client.currentToken();
+    clock.advance(10min);
+    clock.setNow(clock.now() - 24h);
+    EXPECT_EQ(client.currentToken(), first);
+    clock.advance(9min);
+    const std::string second = client.currentToken();
+    EXPECT_NE(second, first);
+    clock.setNow(clock.now() + 24h);
+    EXPECT_NE(client.currentToken(), second) << "by the wall clock it has expired";
+}
+
+TEST_F(ASCClientTest, NewCredentialsNeverTravelWithAnOldToken) {
+    http.answer(400, versionRefused);
+    http.answer(200, "");
+    http.whileWaiting = [this](const HttpRequest&) {
+        credentials.vendorNumber += "0";
+        credentials.privateKeyPEM = generateKeyPair().privatePEM;
+        client.setCredentials(credentials);
+    };
+    static_cast<void>(dailySales());
+    EXPECT_EQ(asked("vendorNumber"), (std::vector<std::string>{"60419372", "604193720"}));
+    EXPECT_NE(bearer(0), bearer(1));
+}
+
+TEST_F(ASCClientTest, ARefusedTokenStaysInUse) {
+    http.answer(401, "");
+    http.answer(200, "");
+    static_cast<void>(dailySales());
+    static_cast<void>(dailySales());
+    EXPECT_EQ(bearer(0), bearer(1));
+}
+
+TEST_F(ASCClientTest, CancellingEndsTheFetchAsAFailure) {
+    CancelSource source;
+    http.whileWaiting = [&source](const HttpRequest&) { source.cancel(); };
+    EXPECT_TRUE(sales(ReportFrequency::daily, "2026-11-21", std::nullopt, source.token()) ==
+                ReportResponse(response::Failure{"cancelled"}));
+}
+
+}  // namespace
+}  // namespace vantrell
