@@ -1,8 +1,8 @@
 #pragma once
 
+#include "data/RatesText.h"
 #include "platform/Instant.h"
 
-#include <map>
 #include <string>
 
 namespace vantrell {
@@ -11,7 +11,7 @@ namespace vantrell {
 struct RateSet {
     std::string base = "USD";
     Instant fetchedAt = distantPast;
-    std::map<std::string, double, std::less<>> rates;
+    Rates rates;
 
     bool operator==(const RateSet&) const = default;
 };

@@ -1,0 +1,76 @@
+#include "data/CredentialsKeychain.h"
+
+#include "platform/Overloaded.h"
+
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace vantrell {
+namespace {
+
+constexpr std::string_view service = "Vantrell.appstoreconnect";
+constexpr std::string_view account = "credentials";
+
+constexpr std::array<std::pair<const char*, std::string APICredentials::*>, 4> members{
+    {{"issuerID", &APICredentials::issuerID},
+     {"keyID", &APICredentials::keyID},
+     {"privateKeyPEM", &APICredentials::privateKeyPEM},
+     {"vendorNumber", &APICredentials::vendorNumber}}};
+
+// Qt writes the members in the order of their names, which is the order of the fields.
+std::string json(const APICredentials& credentials) {
+    QJsonObject object;
+    for (const auto& [name, field] : members) {
+        object.insert(QString::fromLatin1(name), QString::fromStdString(credentials.*field));
+    }
+    return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
+}
+
+std::optional<APICredentials> parsed(const std::string& text) {
+    const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromStdString(text));
+    APICredentials credentials;
+    for (const auto& [name, field] : members) {
+        const QJsonValue value = document.object().value(QString::fromLatin1(name));
+        if (!value.isString()) {
+            return std::nullopt;
+        }
+        credentials.*field = value.toString().toStdString();
+    }
+    return credentials;
+}
+
+}  // namespace
+
+std::string keychainErrorText(const SecretError& error) {
+    return error.description.empty() ? "Keychain error " + std::to_string(error.code) : error.description;
+}
+
+LoadedCredentials CredentialsKeychain::load() {
+    return std::visit(Overloaded{[](const std::string& secret) {
+                                     return LoadedCredentials{parsed(secret), std::nullopt};
+                                 },
+                                 [](const SecretAbsent&) { return LoadedCredentials{}; },
+                                 [](const SecretUnreadable& unreadable) {
+                                     return LoadedCredentials{std::nullopt, unreadable.reason};
+                                 }},
+                      secrets_.read(service, account));
+}
+
+void CredentialsKeychain::store(const APICredentials& credentials) {
+    const std::string item = json(credentials);
+    // A failed removal is no failure: there may have been nothing to remove.
+    secrets_.remove(service, account);
+    if (const auto error = secrets_.add(service, account, item)) {
+        throw CredentialsError(error->code, keychainErrorText(*error));
+    }
+}
+
+void CredentialsKeychain::remove() {
+    secrets_.remove(service, account);
+}
+
+}  // namespace vantrell

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "data/APICredentials.h"
+#include "platform/SecretStore.h"
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace vantrell {
+
+/// The secret service refused to keep the credentials.
+class CredentialsError : public std::runtime_error {
+  public:
+    CredentialsError(int code, const std::string& description)
+        : std::runtime_error(description), code_(code) {}
+    [[nodiscard]] int code() const { return code_; }
+
+  private:
+    int code_;
+};
+
+/// The wording of a failure, or "Keychain error " and the code where the service gave none.
+[[nodiscard]] std::string keychainErrorText(const SecretError& error);
+
+struct LoadedCredentials {
+    std::optional<APICredentials> credentials;  ///< absent also for a damaged item
+    std::optional<std::string> problem;  ///< why the secret service could not be read, in its own words
+};
+
+/// Keeps the credentials as one item of the secret service, and nowhere else: a JSON object of four texts.
+class CredentialsKeychain {
+  public:
+    explicit CredentialsKeychain(SecretStore& secrets) : secrets_(secrets) {}
+
+    [[nodiscard]] LoadedCredentials load();
+    /// Replaces what is there; throws CredentialsError. If that happens the old item may be gone.
+    void store(const APICredentials& credentials);
+    /// A failure is silent: what can't be removed can't be told from what isn't there.
+    void remove();
+
+  private:
+    SecretStore& secrets_;
+};
+
+}  // namespace vantrell

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "data/LineMappings.h"
+#include "data/RecordMappings.h"
+#include "data/StoreError.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vantrell {
+
+/// The records of the store with their pending changes. Every reader sees a change at once; `save` makes all
+/// of them durable in one transaction or none. After a save that failed they wait for the next one.
+///
+/// Main thread only. Reading lines from disk throws SqliteError; all else is in memory and can't fail.
+class ModelContext {
+  public:
+    /// Reads everything but the lines; throws SqliteError.
+    explicit ModelContext(SqliteDatabase& database);
+    ModelContext(const ModelContext&) = delete;
+    ModelContext& operator=(const ModelContext&) = delete;
+
+    [[nodiscard]] RecordTable<SalesReport>& salesReports() { return salesReports_; }
+    [[nodiscard]] RecordTable<FinanceReport>& financeReports() { return financeReports_; }
+    [[nodiscard]] RecordTable<RateSet>& rateSets() { return rateSets_; }
+    [[nodiscard]] RecordTable<SyncLogEntry>& syncLog() { return syncLog_; }
+
+    /// Removes all rows of that sales report and puts `rows` in their place, in this order.
+    void replaceSalesRows(const std::string& frequencyRaw, const std::string& reportDate,
+                          const std::vector<ParsedSalesRow>& rows);
+    /// Likewise for a finance report.
+    void replaceFinanceRows(const std::string& region, const std::string& fiscalPeriod,
+                            const std::vector<ParsedFinanceRow>& rows);
+
+    /// The stored lines by report, in the order of frequency, report date and file, with texts as numbers of
+    /// `texts`. A batch never changes: other lines for the same report come as another batch.
+    [[nodiscard]] LineTable<SalesLine>& salesLines() { return salesLines_; }
+    [[nodiscard]] LineTable<FinanceLine>& financeLines() { return financeLines_; }
+    [[nodiscard]] const TextDictionary& texts() const { return texts_; }
+
+    /// Whole records, in the order of the store; for exports and checks, since they are large.
+    [[nodiscard]] std::vector<SalesRow> fetchSalesRows();
+    [[nodiscard]] std::vector<FinanceRow> fetchFinanceRows();
+
+    [[nodiscard]] bool hasChanges() const;
+    /// Absent when everything pending is on disk.
+    [[nodiscard]] std::optional<StoreError> save();
+
+  private:
+    void write();
+    void committed();
+
+    SqliteDatabase& database_;
+    TextDictionary texts_;
+    RecordTable<SalesReport> salesReports_;
+    RecordTable<FinanceReport> financeReports_;
+    RecordTable<RateSet> rateSets_;
+    RecordTable<SyncLogEntry> syncLog_;
+    LineTable<SalesLine> salesLines_;
+    LineTable<FinanceLine> financeLines_;
+};
+
+}  // namespace vantrell

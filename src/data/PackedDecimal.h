@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/Decimal.h"
+#include "platform/Sqlite.h"
+
+#include <string>
+
+namespace vantrell {
+
+/// How an exact decimal lies in a column: as the integer `coefficient * 16 + places` where up to 15 decimal
+/// places and 59 bits suffice, which is nearly always, and as exact text otherwise.
+///
+/// `scratch` keeps the text alive until the statement has run.
+void bindDecimal(SqliteStatement& statement, int index, const Decimal& value, std::string& scratch);
+
+/// What can't be read as a number is 0.
+[[nodiscard]] Decimal readDecimal(const SqliteStatement& statement, int column);
+
+/// An SQL expression that gives the exact decimal text of such a column: "-12.5".
+[[nodiscard]] std::string decimalTextSQL(const std::string& column);
+
+}  // namespace vantrell

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/Sqlite.h"
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace vantrell {
+
+/// The number of a text in the store's dictionary; 0 is the empty text.
+using TextID = std::uint32_t;
+
+/// The distinct texts of all stored lines, by number. A text that was given a number keeps it for ever; new
+/// ones are written with the save that first uses them. Held whole in memory.
+class TextDictionary {
+  public:
+    /// Reads what is stored; throws SqliteError.
+    explicit TextDictionary(SqliteDatabase& database);
+    TextDictionary(const TextDictionary&) = delete;
+    TextDictionary& operator=(const TextDictionary&) = delete;
+
+    [[nodiscard]] TextID intern(std::string_view text);
+    /// The empty text for a number that was never given. Valid as long as the dictionary.
+    [[nodiscard]] std::string_view text(TextID id) const;
+
+    /// Inserts the texts that aren't stored yet, inside the caller's transaction; throws SqliteError.
+    void write();
+    /// To be called when that transaction was committed.
+    void committed() { saved_ = texts_.size(); }
+
+  private:
+    SqliteDatabase& database_;
+    std::deque<std::string> texts_;
+    std::unordered_map<std::string_view, TextID> ids_;
+    std::size_t saved_ = 0;
+};
+
+}  // namespace vantrell
