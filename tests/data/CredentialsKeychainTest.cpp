@@ -1,0 +1,72 @@
+#include "data/CredentialsKeychain.h"
+#include "platform/MemorySecretStore.h"
+
+#include <gtest/gtest.h>
+
+namespace vantrell {
+namespace {
+
+constexpr const char* service = "Vantrell.appstoreconnect";
+constexpr const char* account = "credentials";
+const APICredentials sample{"issuer", "key", "-----BEGIN\n\"pem\"\r\n/+=", "6041"};
+
+TEST(CredentialsKeychain, KeepsFourTextsInOneItemInTheirOrder) {
+    MemorySecretStore secrets;
+    CredentialsKeychain keychain(secrets);
+    keychain.store({"old", "old", "old", "old"});
+    keychain.store(sample);
+    EXPECT_EQ(keychain.load().credentials, sample);
+    const auto item = std::get<std::string>(secrets.read(service, account));
+    EXPECT_LT(item.find("issuerID"), item.find("keyID"));
+    EXPECT_LT(item.find("keyID"), item.find("privateKeyPEM"));
+    EXPECT_LT(item.find("privateKeyPEM"), item.find("vendorNumber"));
+    keychain.remove();
+    EXPECT_EQ(keychain.load().credentials, std::nullopt);
+}
+
+TEST(CredentialsKeychain, ReadsADamagedItemAsAbsentWithoutAProblem) {
+    struct Case {
+        const char* name;
+        const char* item;
+    };
+    const std::vector<Case> cases = {
+        {"a member is missing", R"({"issuerID":"a","keyID":"b","privateKeyPEM":"c"})"},
+        {"a member is no text", R"({"issuerID":"a","keyID":"b","privateKeyPEM":"c","vendorNumber":6041})"},
+        {"no object", R"(["a","b","c","d"])"},
+        {"no JSON", "{"},
+        {"empty", ""},
+    };
+    for (const Case& row : cases) {
+        MemorySecretStore secrets;
+        ASSERT_FALSE(secrets.add(service, account, row.item));
+        const LoadedCredentials loaded = CredentialsKeychain(secrets).load();
+        EXPECT_EQ(loaded.credentials, std::nullopt) << row.name;
+        EXPECT_EQ(loaded.problem, std::nullopt) << row.name;
+    }
+}
+
+TEST(CredentialsKeychain, TellsALockedServiceFromNoItem) {
+    MemorySecretStore secrets;
+    secrets.setUnreadable("The keyring is locked");
+    EXPECT_EQ(CredentialsKeychain(secrets).load().problem, "The keyring is locked");
+}
+
+TEST(CredentialsKeychain, ThrowsTheServicesWordingOrTheCode) {
+    MemorySecretStore secrets;
+    CredentialsKeychain keychain(secrets);
+    for (const auto& [error, text] : std::vector<std::pair<SecretError, std::string>>{
+             {{-25308, "User interaction is not allowed."}, "User interaction is not allowed."},
+             {{-34018, ""}, "Keychain error -34018"}}) {
+        secrets.failNextAdd(error);
+        try {
+            keychain.store(sample);
+            ADD_FAILURE() << "nothing was thrown for " << text;
+        } catch (const CredentialsError& thrown) {
+            EXPECT_EQ(thrown.what(), text);
+            EXPECT_EQ(thrown.code(), error.code);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace vantrell

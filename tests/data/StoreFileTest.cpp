@@ -1,0 +1,162 @@
+#include "platform/Sqlite.h"
+#include "testing/StoreFixture.h"
+
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+namespace vantrell {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::StoreFixture;
+
+std::string bytesOf(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void write(const fs::path& file, const std::string& bytes) {
+    std::ofstream(file, std::ios::binary) << bytes;
+}
+
+void withSQL(const fs::path& file, const std::string& sql) {
+    SqliteDatabase(file, SqliteDatabase::Mode::readWrite).execute(sql);
+}
+
+TEST(StoreFile, OfSomebodyElseStopsTheStartAndIsNotTouched) {
+    struct Case {
+        const char* name;
+        std::function<void(const fs::path&)> prepare;
+        const char* text;
+    };
+    const std::vector<Case> cases = {
+        {"another application's",
+         [](const fs::path& file) { withSQL(file, "PRAGMA application_id = 77; CREATE TABLE t (a)"); },
+         "the file belongs to another application"},
+        {"a database of no application", [](const fs::path& file) { withSQL(file, "CREATE TABLE t (a)"); },
+         "the file belongs to another application"},
+        {"a newer version's",
+         [](const fs::path& file) {
+             StoreFixture().open();
+             auto made = ModelContainer::open({file, CloudDatabase::none, {}});
+             made = StoreError{};
+             withSQL(file, "PRAGMA user_version = 2");
+         },
+         "the store was written by a newer version of Vantrell"},
+        {"no database", [](const fs::path& file) { write(file, std::string(5000, 'x')); },
+         "file is not a database"},
+        {"a text", [](const fs::path& file) { write(file, "hello"); }, "file is not a database"},
+    };
+    for (const Case& row : cases) {
+        StoreFixture store;
+        row.prepare(store.file());
+        const std::string before = bytesOf(store.file());
+        EXPECT_EQ(store.open(), nullptr) << row.name;
+        EXPECT_EQ(store.error(), row.text) << row.name;
+        EXPECT_EQ(bytesOf(store.file()), before) << row.name;
+        EXPECT_FALSE(fs::exists(store.file().string() + "-journal")) << row.name;
+    }
+}
+
+TEST(StoreFile, InUseByAnotherProcessCanNotBeOpened) {
+    StoreFixture store;
+    ASSERT_NE(store.open(), nullptr);
+    const pid_t child = fork();
+    if (child == 0) {
+        auto opened = ModelContainer::open({store.file(), CloudDatabase::none, {}});
+        const auto* error = std::get_if<StoreError>(&opened);
+        _exit(error != nullptr && error->description == "the store is in use by another process" ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+TEST(StoreFile, IsForTheUserAlone) {
+    testing::TemporaryFolder folder;
+    const fs::path file = folder / "data/vantrell/store.sqlite";
+    auto opened = ModelContainer::open({file, CloudDatabase::none, {}});
+    ASSERT_TRUE(std::holds_alternative<std::unique_ptr<ModelContainer>>(opened));
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(fs::status(file.parent_path()).permissions(), fs::perms::owner_all);
+}
+
+TEST(StoreFile, ThatIsEmptyIsANewStore) {
+    StoreFixture store;
+    write(store.file(), "");
+    EXPECT_NE(store.open(), nullptr) << store.error();
+}
+
+TEST(StoreFile, IsNotMirroredOnThisPlatform) {
+    testing::TemporaryFolder folder;
+    auto opened = ModelContainer::open({folder / "a.sqlite", CloudDatabase::automatic, {}});
+    EXPECT_TRUE(std::holds_alternative<StoreError>(opened));
+    EXPECT_FALSE(fs::exists(folder / "a.sqlite"));
+}
+
+TEST(StoreFile, ShowsEachRecordTypeAsAViewWithItsProperties) {
+    struct Case {
+        const char* view;
+        const char* columns;
+    };
+    const std::vector<Case> cases = {
+        {"SalesReport", "accountID frequencyRaw reportDate statusRaw rowCount message fetchedAt "},
+        {"SalesRow",
+         "accountID frequencyRaw reportDate beginDate endDate sku title version productType parentSKU units "
+         "proceedsPerUnit proceedsCurrency customerPrice customerCurrency country appleID promoCode "
+         "subscription period device platforms proceedsReason client orderType "},
+        {"FinanceReport",
+         "accountID region fiscalPeriod statusRaw rowCount message fetchedAt startDate endDate "},
+        {"FinanceRow",
+         "accountID region fiscalPeriod startDate endDate vendorIdentifier title productType quantity "
+         "partnerShare extendedPartnerShare partnerShareCurrency saleOrReturn appleID country promoCode "
+         "customerPrice customerCurrency "},
+        {"RateSet", "base fetchedAt rates "},
+        {"SyncLogEntry", "date key outcome message "},
+    };
+    StoreFixture store;
+    store.open();
+    store.close();
+    SqliteDatabase database(store.file(), SqliteDatabase::Mode::peek);
+    for (const Case& row : cases) {
+        std::string columns;
+        auto names = database.prepare("SELECT name FROM pragma_table_info('" + std::string(row.view) + "')");
+        while (names.step()) {
+            columns += std::string(names.text(0)) + " ";
+        }
+        EXPECT_EQ(columns, row.columns) << row.view;
+    }
+}
+
+TEST(StoreFile, ShowsDatesAndTextsReadably) {
+    StoreFixture store;
+    ModelContext* context = store.open();
+    context->replaceSalesRows("DAILY", "2026-08-14", {testing::fullSalesRow()});
+    context->salesReports().insert({.reportDate = "never"});
+    context->syncLog().insert({.date = testing::noon(2026, 8, 15) + std::chrono::microseconds(1234)});
+    ASSERT_EQ(context->save(), std::nullopt);
+    store.close();
+    SqliteDatabase database(store.file(), SqliteDatabase::Mode::peek);
+    auto row =
+        database.prepare("SELECT beginDate, title, proceedsPerUnit, customerPrice, units FROM SalesRow");
+    ASSERT_TRUE(row.step());
+    EXPECT_EQ(row.text(0), "2026-08-14T12:00:00Z");
+    EXPECT_EQ(row.text(1), testing::fullSalesRow().title);
+    EXPECT_EQ(row.text(2), "1.4");
+    EXPECT_EQ(row.text(3), "-1.99");
+    EXPECT_EQ(row.integer(4), -3);
+    auto report = database.prepare("SELECT fetchedAt FROM SalesReport");
+    ASSERT_TRUE(report.step());
+    EXPECT_EQ(report.text(0), "0001-01-01T00:00:00.000000Z");
+    auto entry = database.prepare("SELECT date FROM SyncLogEntry");
+    ASSERT_TRUE(entry.step());
+    EXPECT_EQ(entry.text(0), "2026-08-15T12:00:00.001234Z");
+}
+
+}  // namespace
+}  // namespace vantrell

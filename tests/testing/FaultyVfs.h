@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+struct sqlite3_vfs;
+
+namespace vantrell::testing {
+
+/// A file layer for SQLite that passes everything on to the real one until it is told to fail a write, as a
+/// full or broken disk does. Register it under a name and open the store through that name.
+class FaultyVfs {
+  public:
+    explicit FaultyVfs(std::string name);
+    ~FaultyVfs();
+    FaultyVfs(const FaultyVfs&) = delete;
+    FaultyVfs& operator=(const FaultyVfs&) = delete;
+
+    [[nodiscard]] const std::string& name() const { return name_; }
+
+    /// Every write from the `count`-th on fails with the SQLite result `result`; 0 lets all succeed again.
+    void failWritesFrom(int count, int result);
+    /// Every read fails with an I/O error.
+    void failReads(bool fail) { failReads_ = fail; }
+    /// How many writes were asked for since `failWritesFrom`.
+    [[nodiscard]] int writes() const { return writes_; }
+
+    // For the file layer's own functions.
+    [[nodiscard]] int countWrite();
+    [[nodiscard]] bool readsFail() const { return failReads_; }
+    [[nodiscard]] sqlite3_vfs* real() const { return real_; }
+
+  private:
+    struct Layer;
+    std::string name_;
+    sqlite3_vfs* real_;
+    std::unique_ptr<Layer> layer_;
+    int failFrom_ = 0;
+    int result_ = 0;
+    int writes_ = 0;
+    bool failReads_ = false;
+};
+
+}  // namespace vantrell::testing
