@@ -14,7 +14,8 @@ class TimeZone {
   public:
     /// Absent for a name that the time zone database doesn't know.
     [[nodiscard]] static std::optional<TimeZone> named(std::string_view id);
-    /// The zone that the machine is set to now (the TZ variable first); UTC if it can't be told.
+    /// The zone that the machine is set to now (the TZ variable first); UTC if it can't be told. Can take
+    /// milliseconds. A TZ that spells out rules instead of a name counts with its standard offset alone.
     [[nodiscard]] static TimeZone ofHost();
 
     [[nodiscard]] std::string id() const;
@@ -36,10 +37,20 @@ class LocalTime {
     [[nodiscard]] virtual TimeZone zone() const = 0;
 };
 
-/// The zone of the machine.
+/// The zone of the machine. Looks at every call whether the setting changed, and finds the zone anew only
+/// then. One thread only.
 class HostLocalTime final : public LocalTime {
   public:
-    [[nodiscard]] TimeZone zone() const override { return TimeZone::ofHost(); }
+    HostLocalTime();
+    ~HostLocalTime() override;
+    HostLocalTime(const HostLocalTime&) = delete;
+    HostLocalTime& operator=(const HostLocalTime&) = delete;
+
+    [[nodiscard]] TimeZone zone() const override;
+
+  private:
+    struct Known;
+    std::unique_ptr<Known> known_;
 };
 
 }  // namespace vantrell
