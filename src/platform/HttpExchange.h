@@ -1,0 +1,71 @@
+#pragma once
+
+#include "platform/HttpClient.h"
+
+#include <coroutine>
+
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QObject>
+#include <QSslError>
+#include <QTimer>
+#include <QUrl>
+
+class QNetworkAccessManager;
+
+namespace vantrell {
+
+/// One request from its first byte to its result, over as many hops as its redirects take. Lives in the
+/// frame of the coroutine that waits for it.
+class HttpExchange {
+  public:
+    /// `blank` is what every hop is made from. `network` must outlive the wait: whoever owns it calls `end`
+    /// first.
+    HttpExchange(QNetworkAccessManager& network, QNetworkRequest blank, HttpRequest request);
+    ~HttpExchange();
+    HttpExchange(const HttpExchange&) = delete;
+    HttpExchange& operator=(const HttpExchange&) = delete;
+
+    /// Ends the wait at once, before this returns, and with it perhaps the life of this object.
+    void end(HttpFailure failure);
+
+    struct Wait {
+        HttpExchange& exchange;
+        [[nodiscard]] bool await_ready() const noexcept { return exchange.result_.has_value(); }
+        void await_suspend(std::coroutine_handle<> handle) noexcept { exchange.waiting_ = handle; }
+        HttpResult await_resume() { return std::move(*exchange.result_); }
+    };
+    [[nodiscard]] Wait result() { return {*this}; }
+
+  private:
+    void send();
+    void heard();
+    void takeHeaders();
+    void takeBytes();
+    void conclude();
+    bool follow(int status);
+    [[nodiscard]] std::optional<int> status() const;
+    [[nodiscard]] std::size_t maxBodyBytes() const;
+    void finish(HttpResult result);
+    QNetworkReply* takeReply();
+    void resume();
+
+    QNetworkAccessManager& network_;
+    const QNetworkRequest blank_;
+    const HttpRequest request_;
+    QUrl url_;
+    bool leftOrigin_ = false;
+    int hops_ = 0;
+    QNetworkReply* reply_ = nullptr;
+    std::string body_;
+    std::size_t announcedBytes_ = 0;
+    QList<QSslError> certificateErrors_;
+    std::optional<HttpResult> result_;
+    std::coroutine_handle<> waiting_;
+    QTimer idle_;
+    QTimer total_;
+    // The last member: no slot and no posted call reaches an object that is half gone.
+    QObject context_;
+};
+
+}  // namespace vantrell

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <QTcpServer>
+#include <QTcpSocket>
+
+namespace vantrell::testing {
+
+/// A server on 127.0.0.1 that sends whatever bytes a test wants it to, as no real server library would.
+class RawServer {
+  public:
+    /// Called with the connection once the head of a request has arrived.
+    using Answer = std::function<void(QTcpSocket&)>;
+
+    explicit RawServer(Answer answer);
+    /// Serves on `server`, which may encrypt, in place of a plain one.
+    RawServer(std::unique_ptr<QTcpServer> server, Answer answer);
+
+    [[nodiscard]] std::string url(const std::string& path, const std::string& scheme = "http",
+                                  const std::string& host = "127.0.0.1") const;
+
+    /// The head of every request so far, in order.
+    std::vector<std::string> requests;
+
+  private:
+    void serve(QTcpSocket& socket);
+
+    std::unique_ptr<QTcpServer> server_;
+    Answer answer_;
+};
+
+/// Answers that keep the connection open, or close it after the bytes.
+[[nodiscard]] RawServer::Answer sending(std::string bytes);
+[[nodiscard]] RawServer::Answer sendingAndClosing(std::string bytes);
+
+}  // namespace vantrell::testing

@@ -1,0 +1,153 @@
+#include "RawServer.h"
+#include "platform/OpenSslOwners.h"
+#include "platform/QtHttpClient.h"
+
+#include <QSslKey>
+#include <QSslServer>
+
+#include <gmock/gmock.h>
+#include <openssl/pem.h>
+#include <openssl/x509v3.h>
+
+namespace vantrell {
+namespace {
+
+using testing::RawServer;
+using testing::sending;
+
+constexpr long day = 24L * 60 * 60;
+using Certificate = std::unique_ptr<X509, OpenSslRelease<X509_free>>;
+
+template <typename Write>
+QByteArray written(Write write) {
+    const OwnedBio bio(BIO_new(BIO_s_mem()));
+    EXPECT_EQ(write(bio.get()), 1);
+    char* data = nullptr;
+    const auto size = BIO_get_mem_data(bio.get(), &data);
+    return {data, size};
+}
+
+void addExtension(X509* certificate, int kind, const char* value) {
+    const std::unique_ptr<X509_EXTENSION, OpenSslRelease<X509_EXTENSION_free>> extension(
+        X509V3_EXT_conf_nid(nullptr, nullptr, kind, value));
+    X509_add_ext(certificate, extension.get(), -1);
+}
+
+/// A certificate with its key. Without an issuer it vouches for itself.
+struct Identity {
+    /// Valid from `from` to `until` seconds after now.
+    Identity(const char* name, const char* alternativeName, const Identity* issuer, long from = -day,
+             long until = day)
+        : key(EVP_EC_gen("P-256")), certificate(X509_new()) {
+        static long serial = 1;
+        auto* x509 = certificate.get();
+        X509_set_version(x509, X509_VERSION_3);
+        ASN1_INTEGER_set(X509_get_serialNumber(x509), serial++);
+        X509_gmtime_adj(X509_getm_notBefore(x509), from);
+        X509_gmtime_adj(X509_getm_notAfter(x509), until);
+        X509_set_pubkey(x509, key.get());
+        const auto* text = reinterpret_cast<const unsigned char*>(name);
+        X509_NAME_add_entry_by_txt(X509_get_subject_name(x509), "CN", MBSTRING_ASC, text, -1, -1, 0);
+        X509_set_issuer_name(x509, X509_get_subject_name(issuer ? issuer->certificate.get() : x509));
+        addExtension(x509, NID_basic_constraints, alternativeName ? "CA:FALSE" : "critical,CA:TRUE");
+        if (alternativeName) {
+            addExtension(x509, NID_subject_alt_name, alternativeName);
+        }
+        EXPECT_GT(X509_sign(x509, issuer ? issuer->key.get() : key.get(), EVP_sha256()), 0);
+    }
+
+    [[nodiscard]] std::string pem() const {
+        return written([this](BIO* bio) { return PEM_write_bio_X509(bio, certificate.get()); }).toStdString();
+    }
+
+    [[nodiscard]] std::unique_ptr<QSslServer> server() const {
+        const auto keyText = written([this](BIO* bio) {
+            return PEM_write_bio_PKCS8PrivateKey(bio, key.get(), nullptr, nullptr, 0, nullptr, nullptr);
+        });
+        auto configuration = QSslConfiguration::defaultConfiguration();
+        configuration.setLocalCertificate(QSslCertificate(QByteArray::fromStdString(pem())));
+        configuration.setPrivateKey(QSslKey(keyText, QSsl::Ec));
+        auto server = std::make_unique<QSslServer>();
+        server->setSslConfiguration(configuration);
+        return server;
+    }
+
+    OwnedKey key;
+    Certificate certificate;
+};
+
+class Tls : public ::testing::Test {
+  protected:
+    [[nodiscard]] HttpResult fetch(const RawServer& server, Redirects redirects = Redirects::refuse) {
+        HttpRequest request;
+        request.url = server.url("/v1/salesReports", "https");
+        request.headers = {{"Authorization", "Bearer token"}};
+        request.redirects = redirects;
+        request.idleTimeout = std::chrono::seconds{10};
+        return QCoro::waitFor(client.get(request, {}));
+    }
+
+    const Identity authority{"Trusted Authority", nullptr, nullptr};
+    const Identity stranger{"Foreign Authority", nullptr, nullptr};
+    const Identity impostor{"Trusted Authority", nullptr, nullptr};
+    const Identity good{"Reports", "IP:127.0.0.1", &authority};
+    const RawServer::Answer hello = sending("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello");
+    QtHttpClient client{authority.pem()};
+};
+
+TEST_F(Tls, ACertificateOfATrustedAuthorityIsAccepted) {
+    RawServer server(good.server(), hello);
+    EXPECT_EQ(fetch(server), HttpResult(HttpResponse{200, "hello"}));
+}
+
+TEST_F(Tls, AnyOtherCertificateEndsTheRequestBeforeAnythingIsSent) {
+    const auto* here = "IP:127.0.0.1";
+    constexpr auto untrusted = "The server's certificate is not trusted.";
+    constexpr auto outOfDate = "The server's certificate has expired or is not valid yet.";
+    const struct {
+        const char* name;
+        const Identity identity;
+        std::string words;
+    } cases[] = {
+        {"another name",
+         {"Reports", "DNS:reports.example", &authority},
+         "The server's certificate is for another name."},
+        {"expired", {"Reports", here, &authority, -2 * day, -day}, outOfDate},
+        {"not valid yet", {"Reports", here, &authority, day, 2 * day}, outOfDate},
+        {"foreign authority", {"Reports", here, &stranger}, untrusted},
+        {"foreign authority of the same name", {"Reports", here, &impostor}, untrusted},
+        {"foreign authority and expired", {"Reports", here, &stranger, -2 * day, -day}, untrusted},
+        {"vouches for itself", {"Reports", here, nullptr}, untrusted},
+    };
+    for (const auto& [name, identity, words] : cases) {
+        RawServer server(identity.server(), hello);
+        EXPECT_EQ(fetch(server), HttpResult(HttpFailure{words})) << name;
+        EXPECT_TRUE(server.requests.empty()) << name;
+    }
+}
+
+TEST_F(Tls, TheSystemsAuthoritiesAreTheOnesTrustedByDefault) {
+    RawServer server(good.server(), hello);
+    HttpRequest request;
+    request.url = server.url("/", "https");
+    EXPECT_EQ(QCoro::waitFor(QtHttpClient().get(request, {})),
+              HttpResult(HttpFailure{"The server's certificate is not trusted."}));
+}
+
+TEST_F(Tls, AServerWithoutACertificateIsAFailure) {
+    RawServer server(std::make_unique<QSslServer>(), hello);
+    EXPECT_EQ(fetch(server),
+              HttpResult(HttpFailure{"A secure connection to the server could not be set up."}));
+}
+
+TEST_F(Tls, ARedirectThatGivesUpEncryptionIsNotFollowed) {
+    RawServer plain(hello);
+    RawServer server(good.server(), sending("HTTP/1.1 302 Found\r\nLocation: " + plain.url("/") +
+                                            "\r\nContent-Length: 0\r\n\r\n"));
+    EXPECT_EQ(fetch(server, Redirects::follow),
+              HttpResult(HttpFailure{"The server redirected to an address that can't be followed."}));
+    EXPECT_TRUE(plain.requests.empty());
+}
+
+}  // namespace
+}  // namespace vantrell
