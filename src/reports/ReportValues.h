@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/Decimal.h"
+#include "platform/Instant.h"
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace vantrell {
+
+/// Noon UTC of a day written month/day/year, with slashes at either end borne. Years outside 2001 to 2199 are
+/// no dates; a day that its month doesn't have runs on into the next month.
+[[nodiscard]] std::optional<Instant> parseReportDate(std::string_view text);
+
+/// A count. Commas are left out and a fraction is cut off: "1,200" is 1200 and "12.7" is 12. A text that is
+/// no number, and a number that doesn't fit in 64 bits, is 0.
+[[nodiscard]] std::int64_t parseReportInteger(std::string_view text);
+
+/// An amount, exactly. Commas are left out: "2,5" is 25. A text that is no number is 0.
+[[nodiscard]] Decimal parseReportDecimal(std::string_view text);
+
+/// An Apple identifier: digits only, with an optional sign. Any other text is 0, which means none.
+[[nodiscard]] std::int64_t parseAppleIdentifier(std::string_view text);
+
+}  // namespace vantrell

@@ -1,0 +1,73 @@
+#include "reports/SalesParser.h"
+
+#include "reports/ReportValues.h"
+
+namespace vantrell {
+namespace {
+
+constexpr std::array<TextField<ParsedSalesRow>, 16> textFields{{
+    {"sku", &ParsedSalesRow::sku},
+    {"title", &ParsedSalesRow::title},
+    {"version", &ParsedSalesRow::version},
+    {"product_type_identifier", &ParsedSalesRow::productType},
+    {"parent_identifier", &ParsedSalesRow::parentSKU},
+    {"currency_of_proceeds", &ParsedSalesRow::proceedsCurrency},
+    {"customer_currency", &ParsedSalesRow::customerCurrency},
+    {"country_code", &ParsedSalesRow::country},
+    {"promo_code", &ParsedSalesRow::promoCode},
+    {"subscription", &ParsedSalesRow::subscription},
+    {"period", &ParsedSalesRow::period},
+    {"device", &ParsedSalesRow::device},
+    {"supported_platforms", &ParsedSalesRow::platforms},
+    {"proceeds_reason", &ParsedSalesRow::proceedsReason},
+    {"client", &ParsedSalesRow::client},
+    {"order_type", &ParsedSalesRow::orderType},
+}};
+
+class SalesRowReader {
+  public:
+    using Row = ParsedSalesRow;
+
+    explicit SalesRowReader(const ReportColumns& columns)
+        : texts_(columns, textFields),
+          beginDate_(columns.indexOf("begin_date")),
+          endDate_(columns.indexOf("end_date")),
+          units_(columns.indexOf("units")),
+          proceeds_(columns.indexOf("developer_proceeds")),
+          price_(columns.indexOf("customer_price")),
+          appleID_(columns.indexOf("apple_identifier")) {}
+
+    /// False, with nothing appended, for a line without a begin date.
+    bool append(const Cells& cells, std::vector<Row>& rows) const {
+        const auto beginDate = parseReportDate(cell(beginDate_, cells));
+        if (!beginDate) {
+            return false;
+        }
+        Row& row = rows.emplace_back();
+        texts_.copy(cells, row);
+        row.beginDate = *beginDate;
+        row.endDate = parseReportDate(cell(endDate_, cells)).value_or(*beginDate);
+        row.units = parseReportInteger(cell(units_, cells));
+        row.proceedsPerUnit = parseReportDecimal(cell(proceeds_, cells));
+        row.customerPrice = parseReportDecimal(cell(price_, cells));
+        row.appleID = parseAppleIdentifier(cell(appleID_, cells));
+        return true;
+    }
+
+  private:
+    TextColumns<Row, textFields.size()> texts_;
+    std::size_t beginDate_;
+    std::size_t endDate_;
+    std::size_t units_;
+    std::size_t proceeds_;
+    std::size_t price_;
+    std::size_t appleID_;
+};
+
+}  // namespace
+
+ParsedSales parseSales(std::string_view text) {
+    return readTable<SalesRowReader>(text, "provider");
+}
+
+}  // namespace vantrell

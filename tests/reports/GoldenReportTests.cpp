@@ -1,0 +1,123 @@
+#include "platform/Utf8.h"
+#include "reports/FinanceParser.h"
+#include "reports/SalesParser.h"
+#include "testing/Golden.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+#include <gtest/gtest.h>
+
+// Each report under data/sales and data/finance stands beside the rows that it must give. A row is listed by
+// its fields that are neither empty nor 0, and the sample of skipped lines follows the last one.
+
+namespace vantrell {
+namespace {
+
+std::string shown(const std::string& text) {
+    return text;
+}
+
+std::string shown(std::int64_t number) {
+    return number == 0 ? "" : std::to_string(number);
+}
+
+std::string shown(const Decimal& amount) {
+    return amount.isZero() ? "" : amount.text();
+}
+
+std::string shown(Instant instant) {
+    if (instant == distantPast) {
+        return "";
+    }
+    const auto day = std::chrono::floor<std::chrono::days>(instant);
+    const CivilDate date(day);
+    std::array<char, 40> text{};
+    std::snprintf(text.data(), text.size(), "%d-%02u-%02u", static_cast<int>(date.year()),
+                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
+    const auto hour = instant - day;
+    return text.data() + (hour == std::chrono::hours(12) ? std::string() : " and not noon");
+}
+
+template <typename Value>
+std::string field(const char* name, const Value& value) {
+    const std::string text = shown(value);
+    return text.empty() ? text : std::string(name).append(": ").append(text).append("\n");
+}
+
+std::string fields(const ParsedSalesRow& row) {
+    return field("beginDate", row.beginDate) + field("endDate", row.endDate) + field("sku", row.sku) +
+           field("title", row.title) + field("version", row.version) + field("productType", row.productType) +
+           field("parentSKU", row.parentSKU) + field("units", row.units) +
+           field("proceedsPerUnit", row.proceedsPerUnit) + field("proceedsCurrency", row.proceedsCurrency) +
+           field("customerPrice", row.customerPrice) + field("customerCurrency", row.customerCurrency) +
+           field("country", row.country) + field("appleID", row.appleID) + field("promoCode", row.promoCode) +
+           field("subscription", row.subscription) + field("period", row.period) +
+           field("device", row.device) + field("platforms", row.platforms) +
+           field("proceedsReason", row.proceedsReason) + field("client", row.client) +
+           field("orderType", row.orderType);
+}
+
+std::string fields(const ParsedFinanceRow& row) {
+    return field("startDate", row.startDate) + field("endDate", row.endDate) +
+           field("vendorIdentifier", row.vendorIdentifier) + field("title", row.title) +
+           field("productType", row.productType) + field("quantity", row.quantity) +
+           field("partnerShare", row.partnerShare) + field("extendedPartnerShare", row.extendedPartnerShare) +
+           field("partnerShareCurrency", row.partnerShareCurrency) + field("saleOrReturn", row.saleOrReturn) +
+           field("appleID", row.appleID) + field("country", row.country) + field("promoCode", row.promoCode) +
+           field("customerPrice", row.customerPrice) + field("customerCurrency", row.customerCurrency);
+}
+
+template <typename Row>
+std::string listing(const ParsedReport<Row>& report) {
+    std::string text;
+    for (const Row& row : report.rows) {
+        text += "row\n" + fields(row);
+    }
+    return report.skippedLines.empty() ? text : text + "skipped\n" + report.skippedLines + "\n";
+}
+
+using Parse = std::string (*)(std::string_view text);
+
+std::string salesListing(std::string_view text) {
+    return listing(parseSales(text));
+}
+
+std::string financeListing(std::string_view text) {
+    return listing(parseFinance(text));
+}
+
+class GoldenReport : public ::testing::TestWithParam<std::pair<std::filesystem::path, Parse>> {};
+
+TEST_P(GoldenReport, GivesTheRowsThatStandBesideIt) {
+    const auto& [report, parse] = GetParam();
+    auto expected = report;
+    testing::expectMatchesFile(parse(repairedUtf8(testing::fileText(report))),
+                               expected.replace_extension(".rows"));
+}
+
+auto reports() {
+    const std::filesystem::path data = VANTRELL_TEST_DATA;
+    std::vector<std::pair<std::filesystem::path, Parse>> all;
+    for (const auto& file : testing::filesIn(data / "sales", ".tsv")) {
+        all.emplace_back(file, &salesListing);
+    }
+    for (const auto& file : testing::filesIn(data / "finance", ".tsv")) {
+        all.emplace_back(file, &financeListing);
+    }
+    return all;
+}
+
+/// The folder and the file's name in letters that a test name may have.
+std::string caseName(const ::testing::TestParamInfo<GoldenReport::ParamType>& info) {
+    const auto& file = info.param.first;
+    std::string name = file.parent_path().filename().string() + "_" + file.stem().string();
+    std::ranges::replace(name, '-', '_');
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, GoldenReport, ::testing::ValuesIn(reports()), caseName);
+
+}  // namespace
+}  // namespace vantrell
