@@ -1,54 +1,81 @@
 #include "platform/Whitespace.h"
 
-#include <algorithm>
-#include <array>
 #include <cstddef>
-#include <span>
+#include <cstdint>
 
 namespace vantrell {
 namespace {
 
-using Characters = std::span<const std::string_view>;
+struct Character {
+    char32_t code;
+    std::size_t bytes;
+};
 
-// Each as its UTF-8 bytes: in valid text no other character's bytes begin or end with them.
-constexpr std::array<std::string_view, 25> blanks{
-    " ",      "\t",     "\u00A0", "\u1680", "\u2000", "\u2001", "\u2002", "\u2003", "\u2004",
-    "\u2005", "\u2006", "\u2007", "\u2008", "\u2009", "\u200A", "\u202F", "\u205F", "\u3000",
-    "\n",     "\v",     "\f",     "\r",     "\u0085", "\u2028", "\u2029"};
-constexpr Characters spaces = Characters(blanks).first(18);
-constexpr Characters newlines = Characters(blanks).subspan(18);
-
-/// The bytes of the one of `wanted` that `text` begins with; 0 if there is none.
-std::size_t lengthAtStart(std::string_view text, Characters wanted) {
-    const auto found =
-        std::ranges::find_if(wanted, [text](std::string_view known) { return text.starts_with(known); });
-    return found == wanted.end() ? 0 : found->size();
+bool isContinuation(char byte) {
+    return (static_cast<std::uint8_t>(byte) & 0xC0U) == 0x80U;
 }
 
-std::size_t lengthAtEnd(std::string_view text, Characters wanted) {
-    const auto found =
-        std::ranges::find_if(wanted, [text](std::string_view known) { return text.ends_with(known); });
-    return found == wanted.end() ? 0 : found->size();
-}
-
-bool isVisibleAscii(char byte) {
-    return byte > ' ' && byte <= '~';
-}
-
-std::string_view trim(std::string_view text, Characters wanted) {
-    while (!text.empty() && !isVisibleAscii(text.front())) {
-        const std::size_t length = lengthAtStart(text, wanted);
-        if (length == 0) {
-            break;
-        }
-        text.remove_prefix(length);
+/// The code point of a whole sequence. What is looked for here has at most three bytes, so that a longer
+/// sequence may give any number beyond.
+char32_t codeOf(std::string_view sequence) {
+    constexpr char32_t beyond = 0x110000;
+    const auto byte = [sequence](std::size_t index) { return static_cast<std::uint8_t>(sequence[index]); };
+    switch (sequence.size()) {
+        case 1:
+            return byte(0) < 0x80 ? byte(0) : beyond;
+        case 2:
+            return (byte(0) & 0x1FU) << 6U | (byte(1) & 0x3FU);
+        case 3:
+            return (byte(0) & 0x0FU) << 12U | (byte(1) & 0x3FU) << 6U | (byte(2) & 0x3FU);
+        default:
+            return beyond;
     }
-    while (!text.empty() && !isVisibleAscii(text.back())) {
-        const std::size_t length = lengthAtEnd(text, wanted);
-        if (length == 0) {
+}
+
+Character firstOf(std::string_view text) {
+    std::size_t bytes = 1;
+    while (bytes < text.size() && bytes < 4 && isContinuation(text[bytes])) {
+        ++bytes;
+    }
+    return {codeOf(text.substr(0, bytes)), bytes};
+}
+
+Character lastOf(std::string_view text) {
+    std::size_t bytes = 1;
+    while (bytes < text.size() && bytes < 4 && isContinuation(text[text.size() - bytes])) {
+        ++bytes;
+    }
+    return {codeOf(text.substr(text.size() - bytes)), bytes};
+}
+
+bool isSpace(char32_t code) {
+    return code == ' ' || code == '\t' || code == 0xA0 || code == 0x1680 ||
+           (code >= 0x2000 && code <= 0x200A) || code == 0x202F || code == 0x205F || code == 0x3000;
+}
+
+bool isNewline(char32_t code) {
+    return (code >= '\n' && code <= '\r') || code == 0x85 || code == 0x2028 || code == 0x2029;
+}
+
+bool isBlank(char32_t code) {
+    return isSpace(code) || isNewline(code);
+}
+
+template <bool (*isWanted)(char32_t)>
+std::string_view trim(std::string_view text) {
+    while (!text.empty()) {
+        const Character first = firstOf(text);
+        if (!isWanted(first.code)) {
             break;
         }
-        text.remove_suffix(length);
+        text.remove_prefix(first.bytes);
+    }
+    while (!text.empty()) {
+        const Character last = lastOf(text);
+        if (!isWanted(last.code)) {
+            break;
+        }
+        text.remove_suffix(last.bytes);
     }
     return text;
 }
@@ -56,11 +83,11 @@ std::string_view trim(std::string_view text, Characters wanted) {
 }  // namespace
 
 std::string_view trimWhitespace(std::string_view text) {
-    return trim(text, spaces);
+    return trim<isSpace>(text);
 }
 
 std::string_view trimWhitespaceAndNewlines(std::string_view text) {
-    return trim(text, blanks);
+    return trim<isBlank>(text);
 }
 
 std::vector<std::string_view> splitAtNewlines(std::string_view text) {
@@ -68,14 +95,12 @@ std::vector<std::string_view> splitAtNewlines(std::string_view text) {
     std::size_t start = 0;
     std::size_t position = 0;
     while (position < text.size()) {
-        const std::size_t length = lengthAtStart(text.substr(position), newlines);
-        if (length == 0) {
-            ++position;
-            continue;
+        const Character next = firstOf(text.substr(position));
+        if (isNewline(next.code)) {
+            pieces.push_back(text.substr(start, position - start));
+            start = position + next.bytes;
         }
-        pieces.push_back(text.substr(start, position - start));
-        position += length;
-        start = position;
+        position += next.bytes;
     }
     pieces.push_back(text.substr(start));
     return pieces;

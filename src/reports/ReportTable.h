@@ -4,6 +4,7 @@
 #include "reports/ReportLines.h"
 #include "reports/SkippedLines.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -16,6 +17,9 @@ namespace vantrell {
 
 // Far above any report; a line of nothing but tabs must not cost many times its own size.
 inline constexpr std::size_t mostColumns = 10'000;
+
+// Enough for all but the largest reports, and little enough to be asked for on a text's word.
+inline constexpr std::size_t mostRowsReserved = 1'000'000;
 
 template <typename Row>
 struct ParsedReport {
@@ -60,6 +64,7 @@ template <typename RowReader>
     std::optional<ReportColumns> columns;
     std::optional<RowReader> reader;
     Cells cells;
+    report.rows.reserve(std::min(static_cast<std::size_t>(std::ranges::count(text, '\n')), mostRowsReserved));
     for (const std::string_view line : reportLines(text)) {
         if (line.empty()) {
             continue;
