@@ -1,0 +1,106 @@
+#include "platform/KeychainSecretStore.h"
+
+#include "platform/SecretServiceLock.h"
+
+#include <utility>
+
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QTimer>
+#include <qt6keychain/keychain.h>
+
+namespace vantrell {
+
+namespace {
+
+/// For a question that the service answers without the user.
+constexpr std::chrono::milliseconds questionPatience{1000};
+
+QString toQt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// Whether `job` finished before the deadline.
+bool waitFor(const QKeychain::Job& job, const QDeadlineTimer& deadline) {
+    QEventLoop loop;
+    bool finished = false;
+    QObject::connect(&job, &QKeychain::Job::finished, &loop, [&loop, &finished] {
+        finished = true;
+        loop.quit();
+    });
+    QTimer::singleShot(std::chrono::ceil<std::chrono::milliseconds>(deadline.remainingTimeAsDuration()),
+                       &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    return finished;
+}
+
+}  // namespace
+
+struct KeychainSecretStore::Outcome {
+    QKeychain::Error error = QKeychain::OtherError;
+    std::string message = "The secret service did not answer in time.";
+    std::string secret;
+
+    [[nodiscard]] std::optional<SecretError> asError() const {
+        return error == QKeychain::NoError ? std::nullopt : std::optional(SecretError{error, message});
+    }
+};
+
+KeychainSecretStore::KeychainSecretStore(std::chrono::milliseconds readPatience,
+                                         std::chrono::milliseconds writePatience)
+    : readPatience_(readPatience), writePatience_(writePatience) {}
+
+SecretRead KeychainSecretStore::read(std::string_view service, std::string_view account) {
+    const auto outcome =
+        run(std::make_unique<QKeychain::ReadPasswordJob>(toQt(service)), account, readPatience_);
+    if (outcome.error == QKeychain::NoError) {
+        return outcome.secret;
+    }
+    // The library tells an item that the user did not unlock as one that does not exist.
+    if (isSecretLocked(service, account, questionPatience)) {
+        return SecretUnreadable{"The keyring is locked."};
+    }
+    if (outcome.error == QKeychain::EntryNotFound) {
+        return SecretAbsent{};
+    }
+    return SecretUnreadable{outcome.message};
+}
+
+std::optional<SecretError> KeychainSecretStore::add(std::string_view service, std::string_view account,
+                                                    std::string_view secret) {
+    auto job = std::make_unique<QKeychain::WritePasswordJob>(toQt(service));
+    job->setTextData(toQt(secret));
+    return run(std::move(job), account, writePatience_).asError();
+}
+
+std::optional<SecretError> KeychainSecretStore::remove(std::string_view service, std::string_view account) {
+    const auto outcome =
+        run(std::make_unique<QKeychain::DeletePasswordJob>(toQt(service)), account, writePatience_);
+    return outcome.error == QKeychain::EntryNotFound ? std::nullopt : outcome.asError();
+}
+
+KeychainSecretStore::Outcome KeychainSecretStore::run(std::unique_ptr<QKeychain::Job> job,
+                                                      std::string_view account,
+                                                      std::chrono::milliseconds patience) {
+    const QDeadlineTimer deadline(patience);
+    // A job in the queue behind it would be carried out long after it was told as failed.
+    if (unfinished_ && !waitFor(*unfinished_, deadline)) {
+        return {};
+    }
+    job->setInsecureFallback(false);
+    job->setKey(toQt(account));
+    Outcome outcome;
+    const QObject here;
+    QObject::connect(job.get(), &QKeychain::Job::finished, &here, [&outcome](QKeychain::Job* done) {
+        const auto* reading = qobject_cast<QKeychain::ReadPasswordJob*>(done);
+        outcome = {done->error(), done->errorString().toStdString(),
+                   reading ? reading->textData().toStdString() : std::string()};
+    });
+    // Once started it can't be taken back: it deletes itself when it is done, however long that takes.
+    auto* running = job.release();
+    running->start();
+    unfinished_ = waitFor(*running, deadline) ? nullptr : running;
+    return outcome;
+}
+
+}  // namespace vantrell

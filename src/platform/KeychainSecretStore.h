@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/SecretStore.h"
+
+#include <chrono>
+#include <memory>
+
+#include <QPointer>
+
+namespace QKeychain {
+class Job;
+}
+
+namespace vantrell {
+
+/// Keeps secrets in the desktop's keychain (Secret Service or KWallet), and never in a file of its own.
+///
+/// A call waits in an event loop of its own that leaves the user's clicks and keys for later. The service may
+/// ask the user to unlock the keychain, so that writing waits longer. A write that takes too long is told as
+/// an error, and may still happen once the user has answered.
+class KeychainSecretStore final : public SecretStore {
+  public:
+    explicit KeychainSecretStore(std::chrono::milliseconds readPatience = std::chrono::seconds{5},
+                                 std::chrono::milliseconds writePatience = std::chrono::minutes{2});
+    KeychainSecretStore(const KeychainSecretStore&) = delete;
+    KeychainSecretStore& operator=(const KeychainSecretStore&) = delete;
+
+    [[nodiscard]] SecretRead read(std::string_view service, std::string_view account) override;
+    [[nodiscard]] std::optional<SecretError> add(std::string_view service, std::string_view account,
+                                                 std::string_view secret) override;
+    std::optional<SecretError> remove(std::string_view service, std::string_view account) override;
+
+  private:
+    struct Outcome;
+    Outcome run(std::unique_ptr<QKeychain::Job> job, std::string_view account,
+                std::chrono::milliseconds patience);
+
+    const std::chrono::milliseconds readPatience_;
+    const std::chrono::milliseconds writePatience_;
+    QPointer<QKeychain::Job> unfinished_;
+};
+
+}  // namespace vantrell

@@ -1,0 +1,31 @@
+#include "Keyring.h"
+#include "platform/KeychainSecretStore.h"
+
+#include <gtest/gtest.h>
+
+namespace vantrell {
+namespace {
+
+constexpr auto service = "Vantrell.test";
+constexpr std::chrono::milliseconds ample{10'000};
+
+TEST(LockedSecretService, IsToldApartFromOneWithoutTheSecret) {
+    testing::Keyring keyring;
+    KeychainSecretStore keychain{ample, ample};
+    ASSERT_EQ(keychain.add(service, "kept", "secret"), std::nullopt);
+    keyring.lock();
+
+    const SecretRead locked = SecretUnreadable{"The keyring is locked."};
+    EXPECT_EQ(keychain.read(service, "kept"), locked);
+    EXPECT_EQ(keychain.read(service, "never written"), locked);
+
+    const auto error = keychain.add(service, "new", "secret");
+    ASSERT_TRUE(error);
+    EXPECT_NE(error->code, 0);
+    EXPECT_EQ(error->description, "Cannot create an item in a locked collection");
+    EXPECT_EQ(keyring.items(service, "new"), 0);
+    EXPECT_EQ(keyring.items(service, "kept"), 1);
+}
+
+}  // namespace
+}  // namespace vantrell
