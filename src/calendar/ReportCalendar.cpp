@@ -1,0 +1,48 @@
+#include "calendar/ReportCalendar.h"
+
+#include "calendar/DayKey.h"
+#include "calendar/FiscalPeriod.h"
+
+namespace vantrell {
+
+ReportCalendar::ReportCalendar(const Clock& clock, const LocalTime& localTime)
+    : clock_(&clock), localTime_(&localTime), pacific_(TimeZone::named("America/Los_Angeles")) {}
+
+CivilDate ReportCalendar::today() const {
+    return localTime_->zone().dateAt(clock_->now());
+}
+
+std::optional<CivilDate> ReportCalendar::dateDaysAgo(int days) const {
+    return movedByDays(today(), -std::int64_t{days});
+}
+
+std::optional<CivilDate> ReportCalendar::dateMonthsAgo(int months) const {
+    return movedByMonths(today(), -std::int64_t{months});
+}
+
+std::string ReportCalendar::dayKey(int daysAgo) const {
+    return vantrell::dayKey(dateDaysAgo(daysAgo).value_or(today()));
+}
+
+std::string ReportCalendar::monthKey(int monthsAgo) const {
+    return vantrell::monthKey(dateMonthsAgo(monthsAgo).value_or(today()));
+}
+
+int ReportCalendar::currentYear() const {
+    return static_cast<int>(today().year());
+}
+
+std::string ReportCalendar::currentYearLabel() const {
+    return yearLabel(today());
+}
+
+std::string ReportCalendar::fiscalPeriodAt(Instant instant) const {
+    const auto zone = pacific_ ? *pacific_ : localTime_->zone();
+    return fiscalPeriod(zone.dateAt(instant));
+}
+
+std::string ReportCalendar::currentFiscalPeriod() const {
+    return fiscalPeriodAt(clock_->now());
+}
+
+}  // namespace vantrell
