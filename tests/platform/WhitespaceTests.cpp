@@ -34,6 +34,7 @@ TEST(Whitespace, TrimmingStopsAtTheFirstOtherCharacter) {
         Case{"inner spaces stay", "\u00A0 a \u3000 b\t", "a \u3000 b", "a \u3000 b"},
         Case{"line ends", " \r\n a \n", "\r\n a \n", "a"},
         Case{"line separators", "\u2028a\u0085", "\u2028a\u0085", "a"},
+        Case{"a byte that is no text", "\x85\xA0", "\x85\xA0", "\x85\xA0"},
         Case{"a currency sign that begins like a space", "\u20AC", "\u20AC", "\u20AC"},
     };
     for (const auto& [name, text, trimmed, withoutNewlines] : cases) {

@@ -59,9 +59,10 @@ TEST(Gunzip, RefusesAHeaderThatLeavesNoRoomForAStream) {
     const std::string zeros(9, '\0');
     const std::string letters(9, 'x');
     for (const std::string& data : {
-             "\x1F\x8B\x08\x02\0\0\0\0\0\0"s + zeros,    // 19 bytes, and the checksum takes two
-             "\x1F\x8B\x08\x04\0\0\0\0\0\0"s + letters,  // an extra field past the end
-             "\x1F\x8B\x08\x08\0\0\0\0\0\0"s + letters,  // a name that never ends
+             "\x1F\x8B\x08\x02\0\0\0\0\0\0"s + zeros,         // 19 bytes, and the checksum takes two
+             "\x1F\x8B\x08\x02\0\0\0\0\0\0"s + zeros + "x"s,  // 20 bytes, so that nothing is left
+             "\x1F\x8B\x08\x04\0\0\0\0\0\0"s + letters,       // an extra field past the end
+             "\x1F\x8B\x08\x08\0\0\0\0\0\0"s + letters,       // a name that never ends
              "\x1F\x8B\x08\x1E\0\0\0\0\0\0\xFF\xFF"s + letters,
          }) {
         EXPECT_EQ(failure(data), GunzipError::Reason::corruptContainer) << ::testing::PrintToString(data);
