@@ -120,6 +120,10 @@ std::string TimeZone::id() const {
     return zone_->rules->getID(name).toUTF8String(text);
 }
 
+milliseconds TimeZone::offsetAt(Instant instant) const {
+    return zone_->offsetAt(std::chrono::floor<milliseconds>(instant.time_since_epoch()));
+}
+
 CivilDate TimeZone::dateAt(Instant instant) const {
     const auto time = std::chrono::floor<milliseconds>(instant.time_since_epoch());
     const auto day = std::chrono::floor<days>(time + zone_->offsetAt(time));

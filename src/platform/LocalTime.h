@@ -19,6 +19,8 @@ class TimeZone {
     [[nodiscard]] static TimeZone ofHost();
 
     [[nodiscard]] std::string id() const;
+    /// What the clocks on the wall are ahead of UTC at `instant`; negative west of it.
+    [[nodiscard]] std::chrono::milliseconds offsetAt(Instant instant) const;
     /// The day that a calendar on the wall in this zone shows at `instant`.
     [[nodiscard]] CivilDate dateAt(Instant instant) const;
     /// Noon of `day` in this zone; where noon is skipped by a change of the clocks, the moment after the gap.

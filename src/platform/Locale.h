@@ -27,7 +27,8 @@ struct LocaleNames {
 };
 
 /// The user's conventions: how money, counts and dates are written and names are ordered. Locales are taken
-/// by name, also where the C library has none of that name. Immutable; texts are UTF-8.
+/// by name, also where the C library has none of that name; a name without a known language, such as "C",
+/// means plain English without a region. Immutable; texts are UTF-8.
 class Locale {
   public:
     explicit Locale(const LocaleNames& names);
@@ -41,11 +42,13 @@ class Locale {
     [[nodiscard]] std::optional<std::string> regionCode() const;
 
     /// `amount` as money in `currency`, with the digits usual for that currency and rounded half away from
-    /// zero, such as "$1,234.50". A code that is no currency stands before the amount as it is.
+    /// zero, such as "$1,234.50". A code that is no currency stands before the amount as it is, and the
+    /// amount has two digits then. What rounds to zero has no sign.
     [[nodiscard]] std::string money(const Decimal& amount, std::string_view currency) const;
     /// A whole number with the locale's grouping.
     [[nodiscard]] std::string count(std::int64_t value) const;
-    /// Abbreviated date and short time, such as "Nov 22, 2026, 10:02 PM".
+    /// Abbreviated date and short time, such as "Nov 22, 2026, 10:02 PM". Dates are Gregorian in every
+    /// locale, as the reports are.
     [[nodiscard]] std::string dateAndTime(Instant instant, const TimeZone& zone) const;
     /// Abbreviated weekday, month and day, such as "Tue, Mar 3".
     [[nodiscard]] std::string weekdayMonthDay(CivilDate day) const;
