@@ -56,7 +56,7 @@ class TextColumns {
 };
 
 /// Walks through a report's lines: what stands before the header leaves no trace, and a line that is shorter
-/// than the header, or that `RowReader` refuses by an absent row, goes to the sample.
+/// than the header, or that `RowReader::append` refuses, goes to the sample.
 template <typename RowReader>
 [[nodiscard]] auto readTable(std::string_view text, std::string_view marker) {
     ParsedReport<typename RowReader::Row> report;
