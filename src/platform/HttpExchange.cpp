@@ -57,22 +57,23 @@ bool isTransportError(QNetworkReply::NetworkError error) {
 
 }  // namespace
 
-HttpExchange::HttpExchange(QNetworkAccessManager& network, QNetworkRequest blank, HttpRequest request)
+HttpExchange::HttpExchange(QNetworkAccessManager& network, const QNetworkRequest& blank, HttpRequest request)
     : network_(network),
-      blank_(std::move(blank)),
+      blank_(blank),
       request_(std::move(request)),
       url_(QUrl::fromEncoded(toQt(request_.url), QUrl::StrictMode)) {
     if (!isWebAddress(url_) || !std::ranges::all_of(request_.headers, isSendable)) {
         result_ = HttpFailure{"The request could not be built."};
         return;
     }
-    for (auto* timer : {&idle_, &total_}) {
+    for (auto* timer : {&idle_, &total_, &delivery_}) {
         timer->setSingleShot(true);
     }
     QObject::connect(&idle_, &QTimer::timeout, &context_,
                      [this] { finish(HttpFailure{"The request timed out."}); });
     QObject::connect(&total_, &QTimer::timeout, &context_,
                      [this] { finish(HttpFailure{"The server took too long to send its answer."}); });
+    QObject::connect(&delivery_, &QTimer::timeout, &context_, [this] { resume(); });
     total_.start(request_.totalTimeout);
     send();
 }
@@ -184,8 +185,7 @@ void HttpExchange::finish(HttpResult result) {
     // Neither an abort nor the waiting code from within a signal of the reply: Qt takes the one badly, and
     // the other may well destroy the client.
     takeReply();
-    QMetaObject::invokeMethod(
-        &context_, [this] { resume(); }, Qt::QueuedConnection);
+    delivery_.start(0);
 }
 
 void HttpExchange::end(HttpFailure failure) {

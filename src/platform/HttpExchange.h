@@ -21,7 +21,7 @@ class HttpExchange {
   public:
     /// `blank` is what every hop is made from. `network` must outlive the wait: whoever owns it calls `end`
     /// first.
-    HttpExchange(QNetworkAccessManager& network, QNetworkRequest blank, HttpRequest request);
+    HttpExchange(QNetworkAccessManager& network, const QNetworkRequest& blank, HttpRequest request);
     ~HttpExchange();
     HttpExchange(const HttpExchange&) = delete;
     HttpExchange& operator=(const HttpExchange&) = delete;
@@ -64,7 +64,8 @@ class HttpExchange {
     std::coroutine_handle<> waiting_;
     QTimer idle_;
     QTimer total_;
-    // The last member: no slot and no posted call reaches an object that is half gone.
+    QTimer delivery_;
+    // The last member: no slot reaches an object that is half gone.
     QObject context_;
 };
 

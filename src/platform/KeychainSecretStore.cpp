@@ -28,8 +28,9 @@ bool waitFor(const QKeychain::Job& job, const QDeadlineTimer& deadline) {
         finished = true;
         loop.quit();
     });
-    QTimer::singleShot(std::chrono::ceil<std::chrono::milliseconds>(deadline.remainingTimeAsDuration()),
-                       &loop, &QEventLoop::quit);
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    timer.start(std::chrono::ceil<std::chrono::milliseconds>(deadline.remainingTimeAsDuration()));
     loop.exec(QEventLoop::ExcludeUserInputEvents);
     return finished;
 }
@@ -84,7 +85,7 @@ KeychainSecretStore::Outcome KeychainSecretStore::run(std::unique_ptr<QKeychain:
                                                       std::chrono::milliseconds patience) {
     const QDeadlineTimer deadline(patience);
     // A job in the queue behind it would be carried out long after it was told as failed.
-    if (unfinished_ && !waitFor(*unfinished_, deadline)) {
+    if (underWay_ && !waitFor(*underWay_, deadline)) {
         return {};
     }
     job->setInsecureFallback(false);
@@ -97,9 +98,10 @@ KeychainSecretStore::Outcome KeychainSecretStore::run(std::unique_ptr<QKeychain:
                    reading ? reading->textData().toStdString() : std::string()};
     });
     // Once started it can't be taken back: it deletes itself when it is done, however long that takes.
-    auto* running = job.release();
-    running->start();
-    unfinished_ = waitFor(*running, deadline) ? nullptr : running;
+    underWay_ = job.release();
+    QObject::connect(underWay_, &QKeychain::Job::finished, &context_, [this] { underWay_ = nullptr; });
+    underWay_->start();
+    waitFor(*underWay_, deadline);
     return outcome;
 }
 

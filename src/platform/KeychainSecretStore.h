@@ -5,7 +5,7 @@
 #include <chrono>
 #include <memory>
 
-#include <QPointer>
+#include <QObject>
 
 namespace QKeychain {
 class Job;
@@ -37,7 +37,8 @@ class KeychainSecretStore final : public SecretStore {
 
     const std::chrono::milliseconds readPatience_;
     const std::chrono::milliseconds writePatience_;
-    QPointer<QKeychain::Job> unfinished_;
+    QKeychain::Job* underWay_ = nullptr;
+    QObject context_;
 };
 
 }  // namespace vantrell

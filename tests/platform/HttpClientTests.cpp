@@ -50,7 +50,7 @@ void spinUntil(const std::function<bool()>& happened) {
     ASSERT_TRUE(happened());
 }
 
-RawServer::Answer dripping(std::string start, std::string drop, milliseconds pause, int drops) {
+RawServer::Answer dripping(const std::string& start, const std::string& drop, milliseconds pause, int drops) {
     return [=](QTcpSocket& socket) {
         socket.write(start.data(), static_cast<qint64>(start.size()));
         auto* timer = new QTimer(&socket);

@@ -38,7 +38,7 @@ TEST(Inflate, GivesBackWhatWasPacked) {
         {"one byte", "x"},
         {"bytes that do not compress", noise(100'000)},
         {"zero bytes are kept", std::string("a\0b", 3)},
-        {"a thousandfold, far above the expected ratio", std::string(20'000'000, 'a')},
+        {"a thousandfold, far above the expected ratio", std::string(5'000'000, 'a')},
     };
     for (const auto& [name, plain] : cases) {
         const auto result = inflateRaw(deflate(plain), roomy);

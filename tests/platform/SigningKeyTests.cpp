@@ -1,5 +1,5 @@
+#include "WrittenText.h"
 #include "platform/KeyPair.h"
-#include "platform/OpenSslOwners.h"
 #include "platform/SigningKey.h"
 #include "platform/VerifyingKey.h"
 
@@ -11,39 +11,32 @@
 namespace vantrell {
 namespace {
 
-template <typename Write>
-std::string written(Write write) {
-    const OwnedBio bio(BIO_new(BIO_s_mem()));
-    EXPECT_EQ(write(bio.get()), 1);
-    char* data = nullptr;
-    const auto size = BIO_get_mem_data(bio.get(), &data);
-    return {data, static_cast<std::size_t>(size)};
-}
+using testing::writtenBy;
 
 std::string pkcs8(const OwnedKey& key, const EVP_CIPHER* cipher = nullptr) {
-    return written([&](BIO* bio) {
+    return writtenBy([&](BIO* bio) {
         return PEM_write_bio_PKCS8PrivateKey(bio, key.get(), cipher, "secret", 6, nullptr, nullptr);
     });
 }
 
 std::string pkcs8Der(const OwnedKey& key, const EVP_CIPHER* cipher = nullptr) {
-    return written([&](BIO* bio) {
+    return writtenBy([&](BIO* bio) {
         return i2d_PKCS8PrivateKey_bio(bio, key.get(), cipher, "secret", 6, nullptr, nullptr);
     });
 }
 
 std::string sec1(const OwnedKey& key) {
-    return written([&](BIO* bio) {
+    return writtenBy([&](BIO* bio) {
         return PEM_write_bio_PrivateKey_traditional(bio, key.get(), nullptr, nullptr, 0, nullptr, nullptr);
     });
 }
 
 std::string sec1Der(const OwnedKey& key) {
-    return written([&](BIO* bio) { return i2d_PrivateKey_bio(bio, key.get()); });
+    return writtenBy([&](BIO* bio) { return i2d_PrivateKey_bio(bio, key.get()); });
 }
 
 std::string publicPem(const OwnedKey& key) {
-    return written([&](BIO* bio) { return PEM_write_bio_PUBKEY(bio, key.get()); });
+    return writtenBy([&](BIO* bio) { return PEM_write_bio_PUBKEY(bio, key.get()); });
 }
 
 std::string withWindowsLineEndings(std::string text) {
@@ -53,14 +46,10 @@ std::string withWindowsLineEndings(std::string text) {
     return text;
 }
 
-OwnedKey p256() {
-    return OwnedKey(EVP_EC_gen("P-256"));
-}
-
 using Reader = std::variant<SigningKey, SigningKeyError> (*)(std::string_view);
 
 TEST(SigningKey, ReadsEveryFormOfAPrivateKeyAndSignsForItsPublicHalf) {
-    const auto key = p256();
+    const OwnedKey key(EVP_EC_gen("P-256"));
     const struct {
         const char* name;
         Reader read;
@@ -84,7 +73,7 @@ TEST(SigningKey, ReadsEveryFormOfAPrivateKeyAndSignsForItsPublicHalf) {
 }
 
 TEST(SigningKey, RefusesOtherDataInPlainWords) {
-    const auto key = p256();
+    const OwnedKey key(EVP_EC_gen("P-256"));
     const OwnedKey p384(EVP_EC_gen("P-384"));
     const OwnedKey edwards(EVP_PKEY_Q_keygen(nullptr, nullptr, "ED25519"));
     const auto* cipher = EVP_aes_128_cbc();
@@ -132,10 +121,6 @@ TEST(SigningKey, PadsHalvesThatBeginWithZeroBytes) {
         }
     }
     FAIL() << "no half began with a zero byte";
-}
-
-TEST(KeyPair, IsAnotherOneEachTime) {
-    EXPECT_NE(generateKeyPair().privatePEM, generateKeyPair().privatePEM);
 }
 
 // The example of RFC 7515, appendix A.3.

@@ -1,5 +1,5 @@
 #include "RawServer.h"
-#include "platform/OpenSslOwners.h"
+#include "WrittenText.h"
 #include "platform/QtHttpClient.h"
 
 #include <QSslKey>
@@ -14,18 +14,10 @@ namespace {
 
 using testing::RawServer;
 using testing::sending;
+using testing::writtenBy;
 
 constexpr long day = 24L * 60 * 60;
 using Certificate = std::unique_ptr<X509, OpenSslRelease<X509_free>>;
-
-template <typename Write>
-QByteArray written(Write write) {
-    const OwnedBio bio(BIO_new(BIO_s_mem()));
-    EXPECT_EQ(write(bio.get()), 1);
-    char* data = nullptr;
-    const auto size = BIO_get_mem_data(bio.get(), &data);
-    return {data, size};
-}
 
 void addExtension(X509* certificate, int kind, const char* value) {
     const std::unique_ptr<X509_EXTENSION, OpenSslRelease<X509_EXTENSION_free>> extension(
@@ -57,16 +49,16 @@ struct Identity {
     }
 
     [[nodiscard]] std::string pem() const {
-        return written([this](BIO* bio) { return PEM_write_bio_X509(bio, certificate.get()); }).toStdString();
+        return writtenBy([this](BIO* bio) { return PEM_write_bio_X509(bio, certificate.get()); });
     }
 
     [[nodiscard]] std::unique_ptr<QSslServer> server() const {
-        const auto keyText = written([this](BIO* bio) {
+        const auto keyText = writtenBy([this](BIO* bio) {
             return PEM_write_bio_PKCS8PrivateKey(bio, key.get(), nullptr, nullptr, 0, nullptr, nullptr);
         });
         auto configuration = QSslConfiguration::defaultConfiguration();
         configuration.setLocalCertificate(QSslCertificate(QByteArray::fromStdString(pem())));
-        configuration.setPrivateKey(QSslKey(keyText, QSsl::Ec));
+        configuration.setPrivateKey(QSslKey(QByteArray::fromStdString(keyText), QSsl::Ec));
         auto server = std::make_unique<QSslServer>();
         server->setSslConfiguration(configuration);
         return server;
