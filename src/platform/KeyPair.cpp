@@ -1,27 +1,13 @@
 #include "platform/KeyPair.h"
 
 #include "platform/OpenSslOwners.h"
+#include "platform/OpenSslText.h"
 
 #include <stdexcept>
 
 #include <openssl/pem.h>
 
 namespace vantrell {
-
-namespace {
-
-template <typename Write>
-std::string textWrittenBy(Write write) {
-    const OwnedBio bio(BIO_new(BIO_s_mem()));
-    if (!bio || write(bio.get()) != 1) {
-        throw std::runtime_error("a key could not be written as text");
-    }
-    char* data = nullptr;
-    const auto size = BIO_get_mem_data(bio.get(), &data);
-    return {data, static_cast<std::size_t>(size)};
-}
-
-}  // namespace
 
 KeyPair generateKeyPair() {
     const OwnedKey key(EVP_EC_gen("P-256"));

@@ -1,5 +1,6 @@
 #include "platform/SigningKey.h"
 
+#include "platform/OpenSslText.h"
 #include "platform/P256Decoding.h"
 
 #include <cstdlib>
@@ -7,6 +8,8 @@
 #include <stdexcept>
 #include <utility>
 #include <vector>
+
+#include <openssl/pem.h>
 
 namespace vantrell {
 
@@ -88,6 +91,10 @@ std::array<std::uint8_t, 64> SigningKey::sign(std::string_view message) const {
     writePadded(ECDSA_SIG_get0_r(signature.get()), halves.first<32>());
     writePadded(ECDSA_SIG_get0_s(signature.get()), halves.last<32>());
     return raw;
+}
+
+std::string SigningKey::publicPEM() const {
+    return textWrittenBy([this](BIO* bio) { return PEM_write_bio_PUBKEY(bio, key_->handle.get()); });
 }
 
 }  // namespace vantrell

@@ -28,6 +28,9 @@ class SigningKey {
     /// ECDSA with SHA-256: r and s, 32 big-endian bytes each. Throws std::runtime_error if the library fails.
     [[nodiscard]] std::array<std::uint8_t, 64> sign(std::string_view message) const;
 
+    /// The public half as an armoured SubjectPublicKeyInfo. Throws as above.
+    [[nodiscard]] std::string publicPEM() const;
+
   private:
     struct Key;
     explicit SigningKey(std::unique_ptr<Key> key);
