@@ -23,7 +23,7 @@ template <typename Sleeper>
 struct Wait {
     std::shared_ptr<Sleeper> sleeper;
     [[nodiscard]] bool await_ready() const noexcept { return false; }
-    void await_suspend(std::coroutine_handle<> handle) { sleeper->waiting = handle; }
+    void await_suspend(std::coroutine_handle<> handle) const { sleeper->waiting = handle; }
     void await_resume() const noexcept {}
 };
 
@@ -42,7 +42,9 @@ QCoro::Task<> ManualClock::sleep(std::chrono::microseconds duration, CancelToken
     auto sleeper = std::make_shared<Sleeper>(Sleeper{monotonic_ + duration, {}});
     sleepers_.push_back(sleeper);
     const auto registration = cancel.onCancel([sleeper] { sleeper->wake(); });
-    co_await Wait<Sleeper>{sleeper};
+    // A named awaiter: GCC 12 destroys a temporary aggregate twice.
+    const Wait<Sleeper> wait{sleeper};
+    co_await wait;
 }
 
 void ManualClock::advance(std::chrono::microseconds duration) {

@@ -1,0 +1,96 @@
+#include "sync/ReportRequests.h"
+
+#include "reports/FinanceParser.h"
+#include "reports/SalesParser.h"
+
+#include <algorithm>
+
+namespace vantrell {
+namespace {
+
+constexpr std::string_view consolidatedRegion = "ZZ";
+
+void noteDates(FinanceReport& report, const std::vector<ParsedFinanceRow>& rows) {
+    report.startDate.reset();
+    report.endDate.reset();
+    for (const ParsedFinanceRow& row : rows) {
+        if (row.startDate > distantPast) {
+            report.startDate = std::min(report.startDate.value_or(row.startDate), row.startDate);
+        }
+        report.endDate = std::max(report.endDate.value_or(row.endDate), row.endDate);
+    }
+}
+
+}  // namespace
+
+std::string SalesReportRequest::logKey() const {
+    return "sales " + std::string(lowerCaseText(frequency)) + " " + reportDate;
+}
+
+std::string SalesReportRequest::recordKey() const {
+    return salesReportKey(rawText(frequency), reportDate);
+}
+
+SalesReport SalesReportRequest::newRecord() const {
+    SalesReport report;
+    report.frequencyRaw = rawText(frequency);
+    report.reportDate = reportDate;
+    return report;
+}
+
+RecordTable<SalesReport>& SalesReportRequest::records(ModelContext& context) {
+    return context.salesReports();
+}
+
+QCoro::Task<ReportResponse> SalesReportRequest::fetch(ASCClient& client, CancelToken cancel) const {
+    return client.fetchSales(frequency, reportDate, std::nullopt, std::move(cancel));
+}
+
+void SalesReportRequest::storeRows(ModelContext& context, SalesReport& report, std::string_view text) const {
+    auto parsed = parseSales(text);
+    context.replaceSalesRows(report.frequencyRaw, report.reportDate, parsed.rows);
+    report.rowCount = static_cast<std::int64_t>(parsed.rows.size());
+    report.message = std::move(parsed.skippedLines);
+}
+
+void SalesReportRequest::removeRows(ModelContext& context) const {
+    context.replaceSalesRows(std::string(rawText(frequency)), reportDate, {});
+}
+
+std::string FinanceReportRequest::logKey() const {
+    return "finance ZZ " + fiscalPeriod;
+}
+
+std::string FinanceReportRequest::recordKey() const {
+    return financeReportKey(consolidatedRegion, fiscalPeriod);
+}
+
+FinanceReport FinanceReportRequest::newRecord() const {
+    FinanceReport report;
+    report.region = consolidatedRegion;
+    report.fiscalPeriod = fiscalPeriod;
+    return report;
+}
+
+RecordTable<FinanceReport>& FinanceReportRequest::records(ModelContext& context) {
+    return context.financeReports();
+}
+
+QCoro::Task<ReportResponse> FinanceReportRequest::fetch(ASCClient& client, CancelToken cancel) const {
+    return client.fetchFinance(fiscalPeriod, std::move(cancel));
+}
+
+void FinanceReportRequest::storeRows(ModelContext& context, FinanceReport& report,
+                                     std::string_view text) const {
+    auto parsed = parseFinance(text);
+    context.replaceFinanceRows(report.region, report.fiscalPeriod, parsed.rows);
+    report.rowCount = static_cast<std::int64_t>(parsed.rows.size());
+    report.message = std::move(parsed.skippedLines);
+    noteDates(report, parsed.rows);
+}
+
+void FinanceReportRequest::removeRows(ModelContext& context) const {
+    context.replaceFinanceRows(std::string(consolidatedRegion), fiscalPeriod, {});
+}
+
+}  // namespace vantrell

@@ -1,0 +1,106 @@
+#include "sync/SyncEngine.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace vantrell {
+namespace {
+
+constexpr auto longestRevisionWait = std::chrono::seconds(8);
+constexpr std::size_t keptLogEntries = 2000;
+
+}  // namespace
+
+SyncEngine::SyncEngine(const SyncEngineParts& parts, SyncEngineSettings settings)
+    : context_(parts.context),
+      http_(parts.http),
+      clock_(parts.clock),
+      localTime_(parts.localTime),
+      defaults_(parts.defaults),
+      locale_(parts.locale),
+      settings_(std::move(settings)),
+      calendar_(parts.clock, parts.localTime),
+      keychain_(parts.secrets),
+      client_(parts.http, parts.clock, settings_.reportService) {
+    loadCredentials();
+}
+
+SyncEngine::~SyncEngine() {
+    life_.cancel();
+}
+
+bool SyncEngine::beginRun() {
+    if (isSyncing_) {
+        return false;
+    }
+    if (!hasCredentials_) {
+        lastError_ = "Add your App Store Connect key in Settings first.";
+        return false;
+    }
+    isSyncing_ = true;
+    stopRequested_ = false;
+    lastError_ = std::nullopt;
+    return true;
+}
+
+void SyncEngine::finishRun(std::string_view label) {
+    if (isClosing()) {
+        return;
+    }
+    pruneSyncLog();
+    save();
+    bumpRevision(true);
+    setProgress("", std::nullopt);
+    lastRunSummary_ =
+        std::string(label) + " finished " + locale_.dateAndTime(clock_.now(), localTime_.zone());
+    isSyncing_ = false;
+}
+
+void SyncEngine::bumpRevision(bool force) {
+    const Instant now = clock_.now();
+    if (!force && now - lastRevisionBump_ <= longestRevisionWait) {
+        return;
+    }
+    lastRevisionBump_ = now;
+    revision_ = revision_.value() + 1;
+}
+
+void SyncEngine::pruneSyncLog() {
+    auto& entries = context_.syncLog();
+    if (entries.all().size() <= keptLogEntries) {
+        return;
+    }
+    std::vector<std::pair<Instant, RecordID>> newestFirst;
+    for (const auto& [id, entry] : entries.all()) {
+        newestFirst.emplace_back(entry.date, id);
+    }
+    std::ranges::sort(newestFirst, std::greater());
+    for (std::size_t index = keptLogEntries; index < newestFirst.size(); ++index) {
+        entries.remove(newestFirst[index].second);
+    }
+}
+
+bool SyncEngine::hasOkDailyReport() const {
+    return std::ranges::any_of(context_.salesReports().all(), [](const auto& entry) {
+        const SalesReport& report = entry.second;
+        return report.frequencyRaw == rawText(ReportFrequency::daily) &&
+               report.statusRaw == rawText(ReportStatus::ok);
+    });
+}
+
+void SyncEngine::save() {
+    // A save that fails is dropped: its changes wait in the context and go with the next one.
+    std::ignore = context_.save();
+}
+
+QCoro::Task<> SyncEngine::pause() {
+    return clock_.sleep(settings_.pause, life_.token());
+}
+
+void SyncEngine::setProgress(std::string text, std::optional<double> fraction) {
+    progressText_ = std::move(text);
+    progressFraction_ = fraction;
+}
+
+}  // namespace vantrell

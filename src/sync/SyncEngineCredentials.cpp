@@ -1,0 +1,48 @@
+#include "calendar/DayKey.h"
+#include "sync/SyncEngine.h"
+
+#include <utility>
+#include <variant>
+
+// The key: read at the start, saved, tried and removed.
+
+namespace vantrell {
+
+void SyncEngine::loadCredentials() {
+    auto loaded = keychain_.load();
+    credentialsProblem_ = std::move(loaded.problem);
+    if (loaded.credentials) {
+        hasCredentials_ = loaded.credentials->isComplete();
+        client_.setCredentials(*std::move(loaded.credentials));
+    }
+}
+
+void SyncEngine::saveCredentials(const APICredentials& credentials) {
+    keychain_.store(credentials);
+    client_.setCredentials(credentials);
+    hasCredentials_ = credentials.isComplete();
+}
+
+void SyncEngine::removeCredentials() {
+    keychain_.remove();
+    client_.setCredentials({});
+    hasCredentials_ = false;
+}
+
+QCoro::Task<std::string> SyncEngine::testConnection() {
+    if (!client_.credentials().isComplete()) {
+        co_return "Enter the Issuer ID, Key ID, key file and vendor number first.";
+    }
+    const auto yesterday = calendar_.dateDaysAgo(1);
+    if (!yesterday) {
+        co_return "";
+    }
+    const ReportResponse answer =
+        co_await client_.fetchSales(ReportFrequency::daily, dayKey(*yesterday), std::nullopt, life_.token());
+    // A reasoned answer proves the key good, though there is no report to show.
+    const bool accepted = std::holds_alternative<response::NotYetAvailable>(answer) ||
+                          std::holds_alternative<response::NoSales>(answer);
+    co_return (accepted ? "Credentials accepted. " : "") + diagnosticText(answer);
+}
+
+}  // namespace vantrell

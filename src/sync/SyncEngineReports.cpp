@@ -1,0 +1,135 @@
+#include "calendar/ReportSchedule.h"
+#include "platform/Characters.h"
+#include "platform/Overloaded.h"
+#include "sync/SyncEngine.h"
+
+#include <utility>
+
+// One report's way from its stored status through one request to its rows, new status and log line.
+
+namespace vantrell {
+namespace {
+
+constexpr std::size_t loggedCharacters = 500;
+
+}  // namespace
+
+QCoro::Task<ReportStatus> SyncEngine::syncSalesReport(ReportFrequency frequency, std::string reportDate,
+                                                      bool force) {
+    return syncReport(SalesReportRequest{frequency, std::move(reportDate)}, force);
+}
+
+QCoro::Task<ReportStatus> SyncEngine::syncFinanceReport(std::string fiscalPeriod, bool force) {
+    return syncReport(FinanceReportRequest{std::move(fiscalPeriod)}, force);
+}
+
+template <typename Request>
+Stored<typename Request::Record> SyncEngine::findOrCreate(const Request& request) {
+    auto& records = Request::records(context_);
+    if (auto found = records.find(request.recordKey())) {
+        return *std::move(found);
+    }
+    auto record = request.newRecord();
+    const RecordID id = records.insert(record);
+    return {id, std::move(record)};
+}
+
+Stored<SalesReport> SyncEngine::findOrCreateSalesReport(ReportFrequency frequency, std::string reportDate) {
+    return findOrCreate(SalesReportRequest{frequency, std::move(reportDate)});
+}
+
+template <typename Request>
+QCoro::Task<ReportStatus> SyncEngine::syncReport(Request request, bool force) {
+    const ReportStatus before = findOrCreate(request).record.status();
+    if ((!force && isFinal(before)) || stopRequested_ || isClosing()) {
+        co_return before;
+    }
+    const Instant started = clock_.now();
+    const ReportResponse answer = co_await request.fetch(client_, life_.token());
+    if (isClosing()) {
+        co_return before;
+    }
+    switch (apply(request, answer, started)) {
+        case Applied::rateLimited:
+            co_return findOrCreate(request).record.status();
+        case Applied::skipped:
+            co_await pause();
+            co_return ReportStatus::ok;
+        case Applied::stored:
+            break;
+    }
+    save();
+    bumpRevision(false);
+    const ReportStatus after = findOrCreate(request).record.status();
+    co_await pause();
+    co_return after;
+}
+
+template <typename Request>
+SyncEngine::Applied SyncEngine::apply(const Request& request, const ReportResponse& answer, Instant started) {
+    // The record may have changed while the request was out, so it is read again.
+    auto [id, report] = findOrCreate(request);
+    if (const auto* limited = std::get_if<response::RateLimited>(&answer)) {
+        stopForRateLimit(request.logKey(), limited->message);
+        return Applied::rateLimited;
+    }
+    if (std::holds_alternative<response::Success>(answer) && report.status() == ReportStatus::ok &&
+        report.fetchedAt > started) {
+        log(request.logKey(), "skipped", "A fresher copy synced in from another device.");
+        return Applied::skipped;
+    }
+    settle(request, answer, report);
+    report.fetchedAt = clock_.now();
+    log(request.logKey(), report.statusRaw, report.message);
+    Request::records(context_).update(id, std::move(report));
+    return Applied::stored;
+}
+
+// What each answer makes of the report. Only good data and the word that there is none touch its rows: a
+// failure never loses what was there.
+template <typename Request>
+void SyncEngine::settle(const Request& request, const ReportResponse& answer,
+                        typename Request::Record& report) {
+    const auto attempted = [&report](ReportStatus status, const std::string& message) {
+        report.setStatus(status);
+        report.message = message;
+    };
+    std::visit(
+        Overloaded{
+            [&](const response::Success& success) {
+                request.storeRows(context_, report, success.text);
+                report.setStatus(ReportStatus::ok);
+            },
+            [&](const response::NoSales& none) {
+                request.removeRows(context_);
+                report.rowCount = 0;
+                attempted(ReportStatus::empty, none.message);
+            },
+            [&](const response::NotYetAvailable& early) { attempted(ReportStatus::pending, early.message); },
+            [&](const response::Gone& gone) { attempted(ReportStatus::unavailable, gone.message); },
+            [&](const response::WrongVersion& wrong) { attempted(ReportStatus::error, wrong.detail); },
+            [&](const response::AuthFailure& refused) {
+                attempted(ReportStatus::error, refused.message);
+                lastError_ = diagnosticText(answer);
+                stopRequested_ = true;
+            },
+            [](const response::RateLimited&) {},
+            [&](const response::Failure& failure) { attempted(ReportStatus::error, failure.message); }},
+        answer);
+}
+
+// The report keeps its status, and so it is due again on the next run.
+void SyncEngine::stopForRateLimit(const std::string& key, const std::string& message) {
+    lastError_ = "Rate limited by Apple — the run stopped and will resume on the next sync.";
+    log(key, "rate-limited", message);
+    stopRequested_ = true;
+}
+
+void SyncEngine::log(std::string key, std::string_view outcome, std::string_view message) {
+    context_.syncLog().insert({.date = clock_.now(),
+                               .key = std::move(key),
+                               .outcome = std::string(outcome),
+                               .message = std::string(firstCharacters(message, loggedCharacters))});
+}
+
+}  // namespace vantrell

@@ -1,0 +1,123 @@
+#include "EngineFixture.h"
+
+#include <QUrl>
+#include <QUrlQuery>
+
+#include <gtest/gtest.h>
+
+namespace vantrell::testing {
+namespace {
+
+constexpr const char* salesHeader =
+    "Provider\tSKU\tTitle\tUnits\tDeveloper Proceeds\tBegin Date\tCurrency of Proceeds\tProduct Type "
+    "Identifier\n";
+constexpr const char* financeHeader =
+    "Start Date\tEnd Date\tVendor Identifier\tQuantity\tExtended Partner Share\tPartner Share Currency\n";
+
+std::string shortForm(const HttpRequest& request) {
+    const QUrl url(QString::fromStdString(request.url));
+    const auto items = QUrlQuery(url).queryItems(QUrl::FullyDecoded);
+    const auto item = [&items](const char* name) {
+        for (const auto& [key, value] : items) {
+            if (QUrl::fromPercentEncoding(key.toUtf8()) == QString::fromLatin1(name)) {
+                return value.toStdString();
+            }
+        }
+        return std::string();
+    };
+    if (url.path() == QStringLiteral("/v1/salesReports")) {
+        return item("filter[frequency]") + " " + item("filter[reportDate]");
+    }
+    if (url.path() == QStringLiteral("/v1/financeReports")) {
+        return "FINANCE " + item("filter[reportDate]");
+    }
+    return "rates";
+}
+
+}  // namespace
+
+EngineFixture::EngineFixture(const std::string& vfs) : context_(store_.open(vfs)) {
+    answers["rates"] = rates();
+    http.respond = [this](const HttpRequest& request) {
+        const auto answer = answers.find(shortForm(request));
+        return answer == answers.end() ? otherwise : answer->second;
+    };
+    CredentialsKeychain(secrets).store({"issuer", "key", generateKeyPair().privatePEM, "6041"});
+    engine_ = std::make_unique<SyncEngine>(
+        SyncEngineParts{*context_, http, clock, localTime, secrets, defaults, locale_},
+        SyncEngineSettings{"https://reports.test", "https://rates.test"});
+}
+
+void EngineFixture::run(QCoro::Task<> task) {
+    tasks_.spawn(std::move(task));
+    EXPECT_EQ(tasks_.pending(), 0) << "with scripted answers and virtual time a run ends at once";
+}
+
+std::vector<std::string> EngineFixture::requests() const {
+    std::vector<std::string> result;
+    for (std::size_t index = taken_; index < http.requests.size(); ++index) {
+        result.push_back(shortForm(http.requests[index]));
+    }
+    return result;
+}
+
+std::vector<std::string> EngineFixture::takeRequests() {
+    auto result = requests();
+    taken_ = http.requests.size();
+    return result;
+}
+
+void EngineFixture::store(ReportFrequency frequency, const std::string& date, ReportStatus status,
+                          Instant fetchedAt) {
+    SalesReport report;
+    report.frequencyRaw = rawText(frequency);
+    report.reportDate = date;
+    report.setStatus(status);
+    report.fetchedAt = fetchedAt;
+    report.rowCount = 1;
+    report.message = "before";
+    context_->salesReports().insert(report);
+    context_->replaceSalesRows(report.frequencyRaw, date, {sale(1, "1")});
+}
+
+void EngineFixture::storeFinance(const std::string& period, ReportStatus status) {
+    FinanceReport report;
+    report.fiscalPeriod = period;
+    report.setStatus(status);
+    context_->financeReports().insert(report);
+}
+
+SalesReport EngineFixture::daily(const std::string& date) {
+    const auto found = context_->salesReports().find(salesReportKey("DAILY", date));
+    return found ? found->record : SalesReport{.statusRaw = "no record"};
+}
+
+std::vector<std::string> EngineFixture::log() {
+    std::vector<std::string> result;
+    for (const auto& [id, entry] : context_->syncLog().all()) {
+        result.push_back(entry.key + ": " + entry.outcome);
+    }
+    return result;
+}
+
+HttpResult EngineFixture::error(int status, const std::string& detail) {
+    return HttpResponse{status, R"({"errors":[{"title":"T","detail":")" + detail + R"("}]})"};
+}
+
+HttpResult EngineFixture::sales(int lines) {
+    std::string text = salesHeader;
+    for (int line = 0; line < lines; ++line) {
+        text += "APPLE\tSKU\tTitle\t1\t0.70\t11/21/2026\tEUR\t1F\n";
+    }
+    return HttpResponse{200, text};
+}
+
+HttpResult EngineFixture::finance(const std::string& lines) {
+    return HttpResponse{200, financeHeader + lines};
+}
+
+HttpResult EngineFixture::rates(const std::string& body) {
+    return HttpResponse{200, body};
+}
+
+}  // namespace vantrell::testing

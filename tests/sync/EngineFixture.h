@@ -1,0 +1,74 @@
+#pragma once
+
+#include "calendar/DayKey.h"
+#include "platform/KeyPair.h"
+#include "platform/MemorySecretStore.h"
+#include "platform/TaskScope.h"
+#include "sync/SyncEngine.h"
+#include "testing/FixedLocalTime.h"
+#include "testing/ManualClock.h"
+#include "testing/MemoryDefaults.h"
+#include "testing/ScriptedHttp.h"
+#include "testing/StoreFixture.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vantrell::testing {
+
+/// An engine over a real store, with a report service that answers from a table and time that stands still.
+/// The clock begins on 22 November 2026 at noon UTC, in Berlin.
+class EngineFixture {
+  public:
+    explicit EngineFixture(const std::string& vfs = {});
+
+    SyncEngine& engine() { return *engine_; }
+    ModelContext& context() { return *context_; }
+    void run(QCoro::Task<> task);
+
+    /// The engine goes away as at the end of the program; the store stays.
+    void destroyEngine() { engine_.reset(); }
+
+    /// What was asked, in short: "DAILY 2026-11-21", "FINANCE 2027-01", "rates".
+    [[nodiscard]] std::vector<std::string> requests() const;
+    /// Likewise, without what stands before and from then on.
+    std::vector<std::string> takeRequests();
+
+    /// Answers by request as above; `otherwise` for all that aren't named.
+    std::map<std::string, HttpResult> answers;
+    HttpResult otherwise = notYet();
+
+    void store(ReportFrequency frequency, const std::string& date, ReportStatus status,
+               Instant fetchedAt = distantPast);
+    void storeFinance(const std::string& period, ReportStatus status);
+    [[nodiscard]] SalesReport daily(const std::string& date);
+    /// Outcomes of the log, oldest first, as "key: outcome".
+    [[nodiscard]] std::vector<std::string> log();
+
+    static HttpResult error(int status, const std::string& detail);
+    static HttpResult notYet() { return error(404, "Report is not available yet."); }
+    static HttpResult noSales() { return error(404, "There were no sales for the date specified."); }
+    static HttpResult gone() { return error(410, "Report is no longer available."); }
+    /// A sales report of as many lines, and a finance report.
+    static HttpResult sales(int lines);
+    static HttpResult finance(const std::string& lines);
+    static HttpResult rates(const std::string& body = R"({"result":"success","rates":{"USD":1,"EUR":0.9}})");
+
+    ManualClock clock;
+    FixedLocalTime localTime{"Europe/Berlin"};
+    MemoryDefaults defaults;
+    MemorySecretStore secrets;
+    ScriptedHttp http;
+
+  private:
+    StoreFixture store_;
+    ModelContext* context_;
+    Locale locale_{LocaleNames{"C", "C", "C", "C", "C"}};
+    TaskScope tasks_;
+    std::unique_ptr<SyncEngine> engine_;
+    std::size_t taken_ = 0;
+};
+
+}  // namespace vantrell::testing
