@@ -1,0 +1,146 @@
+#pragma once
+
+#include "calendar/ReportCalendar.h"
+#include "currency/CurrencyConverter.h"
+#include "data/ModelContext.h"
+#include "data/ReportStatus.h"
+#include "earnings/AppFilter.h"
+#include "earnings/Catalog.h"
+#include "earnings/DayFigures.h"
+#include "earnings/FinanceSnapshot.h"
+#include "earnings/SalesSelection.h"
+#include "earnings/SalesSnapshot.h"
+#include "platform/Defaults.h"
+#include "platform/Locale.h"
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <QObject>
+
+namespace vantrell {
+
+using DailyStatuses = std::map<std::string, ReportStatus, std::less<>>;
+
+/// What every screen reads: all stored lines in memory, and every figure worked out from them when it is
+/// asked for. It never writes to the store, and takes in new data only by `reload`.
+///
+/// App Store reports overlap: the same sale stands in a daily, a monthly and a yearly report. No figure ever
+/// mixes two frequencies for the same stretch of time:
+///
+///     a range of days, chart days, day table        daily reports in the range
+///     a finished month                              the monthly report
+///     a year with an ok yearly report               the yearly report
+///     a later year                                  its daily reports
+///     all time                                      all yearly reports, and the daily ones of the years
+///                                                   after the newest ok yearly report
+///     anything                                      never weekly reports
+///
+/// Main thread only. Results are fresh values, but for selections, which are valid until the next reload.
+class EarningsStore : public QObject {
+    Q_OBJECT
+
+  public:
+    /// The display currency is the one that was chosen last, else that of the locale, else "USD".
+    EarningsStore(Defaults& defaults, const Locale& locale, const ReportCalendar& calendar);
+
+    void reload(ModelContext& context);
+
+    [[nodiscard]] const SalesSnapshot& salesRows() const { return salesRows_; }
+    [[nodiscard]] const std::vector<FinanceRowLite>& financeRows() const { return financeRows_.rows(); }
+    [[nodiscard]] const Catalog& catalog() const { return catalog_; }
+    [[nodiscard]] const CurrencyConverter& converter() const { return converter_; }
+    [[nodiscard]] const DailyStatuses& dailyStatuses() const { return dailyStatuses_; }
+    /// Labels are in ascending order.
+    [[nodiscard]] const std::vector<std::string>& yearlyOKLabels() const { return yearlyOKLabels_; }
+    [[nodiscard]] const std::vector<std::string>& unavailableYears() const { return unavailableYears_; }
+    [[nodiscard]] const std::vector<std::string>& financeOKLabels() const { return financeOKLabels_; }
+    /// Raised by each reload and each change of the display currency.
+    [[nodiscard]] std::int64_t loadRevision() const { return loadRevision_; }
+    /// False until the first reload.
+    [[nodiscard]] bool isLoaded() const { return isLoaded_; }
+
+    [[nodiscard]] const AppFilter& appFilter() const { return appFilter_; }
+    void setAppFilter(AppFilter filter);
+    [[nodiscard]] const std::string& displayCurrency() const { return converter_.displayCurrency; }
+    /// Remembered for the next start.
+    void setDisplayCurrency(const std::string& code);
+    /// What can be chosen, in ascending order: everything that has a rate, and the currency in force.
+    [[nodiscard]] std::vector<std::string> availableCurrencies() const;
+
+    [[nodiscard]] const ReportCalendar& calendar() const { return calendar_; }
+
+    /// Daily rows with a report date from `from` to `to`, both included, each bound only if given.
+    [[nodiscard]] SalesSelection dailyRows(const std::optional<std::string>& from,
+                                           const std::optional<std::string>& to, const AppFilter& apps) const;
+    [[nodiscard]] SalesSelection allTimeRows(const AppFilter& apps) const;
+    /// Rows of one monthly or yearly report.
+    [[nodiscard]] SalesSelection reportRows(ReportFrequency frequency, const std::string& reportDate,
+                                            const AppFilter& apps) const;
+
+    /// A point for each day from `from` to `to`, oldest first. Rows without a rate are left out.
+    [[nodiscard]] std::vector<DayPoint> dayPoints(const std::string& from, const std::string& to,
+                                                  const AppFilter& apps) const;
+    /// A row for each day from `from` to `to`, newest first.
+    [[nodiscard]] std::vector<DayTableRow> dayTable(const std::string& from, const std::string& to,
+                                                    const AppFilter& apps) const;
+    /// The current month and the 12 before it, newest first.
+    [[nodiscard]] std::vector<PeriodStat> monthStats(const AppFilter& apps) const;
+    /// The years that have figures, newest first.
+    [[nodiscard]] std::vector<PeriodStat> yearStats(const AppFilter& apps) const;
+
+    /// True when line `left` of a day stands before `right`: what moved money first, then the larger amount
+    /// in the display currency.
+    [[nodiscard]] bool lineItemOrder(const SalesRowLite& left, const SalesRowLite& right) const;
+
+  Q_SIGNALS:
+    void salesRowsChanged();
+    void financeRowsChanged();
+    void catalogChanged();
+    void converterChanged();
+    void dailyStatusesChanged();
+    void yearlyOKLabelsChanged();
+    void unavailableYearsChanged();
+    void financeOKLabelsChanged();
+    void loadRevisionChanged();
+    void isLoadedChanged();
+    void appFilterChanged();
+    void displayCurrencyChanged();
+
+  private:
+    using Signal = void (EarningsStore::*)();
+    template <typename Value>
+    void publish(Value& field, Value value, Signal changed);
+
+    void reloadRows(ModelContext& context);
+    void reloadSalesReports(ModelContext& context);
+    void reloadFinanceReports(ModelContext& context);
+    void reloadRates(ModelContext& context);
+    void raiseLoadRevision();
+
+    /// The greatest label of `yearlyOKLabels`: what a year must be after to count by its daily reports.
+    [[nodiscard]] std::string lastYearlyLabel() const;
+    [[nodiscard]] ItemMask itemMask(const AppFilter& apps) const;
+    [[nodiscard]] ReportStatus dailyStatus(const std::string& key) const;
+
+    Defaults& defaults_;
+    const Locale& locale_;
+    const ReportCalendar& calendar_;
+
+    SalesSnapshot salesRows_;
+    FinanceSnapshot financeRows_;
+    Catalog catalog_;
+    CurrencyConverter converter_;
+    DailyStatuses dailyStatuses_;
+    std::vector<std::string> yearlyOKLabels_;
+    std::vector<std::string> unavailableYears_;
+    std::vector<std::string> financeOKLabels_;
+    std::int64_t loadRevision_ = 0;
+    bool isLoaded_ = false;
+    AppFilter appFilter_;
+};
+
+}  // namespace vantrell

@@ -1,0 +1,77 @@
+#include "calendar/DayKey.h"
+#include "earnings/EarningsStore.h"
+
+#include <algorithm>
+#include <map>
+#include <string_view>
+
+// Figures by day.
+
+namespace vantrell {
+namespace {
+
+bool isSold(ProductKind kind) {
+    return kind == ProductKind::app || kind == ProductKind::iap;
+}
+
+double convertedOrZero(const CurrencyConverter& converter, const SalesRowLite& row) {
+    const auto converted = converter.convert(row.amount(), row.currency);
+    return converted ? converted->toDouble() : 0;
+}
+
+// Lines that never bring money, or brought none.
+bool isSilent(const SalesRowLite& row) {
+    return row.kind == ProductKind::update || row.kind == ProductKind::redownload || row.amount().isZero();
+}
+
+}  // namespace
+
+std::vector<DayPoint> EarningsStore::dayPoints(const std::string& from, const std::string& to,
+                                               const AppFilter& apps) const {
+    std::map<std::string_view, DayPoint> sums;
+    dailyRows(from, to, apps).forEach([&](const SalesRowRef& row) {
+        if (!isSold(row.item().kind)) {
+            return;
+        }
+        const auto converted = converter_.convert(row.amount(), row.currency());
+        if (!converted) {
+            return;
+        }
+        DayPoint& sum = sums[row.chunk().reportDate];
+        (converted->isNegative() ? sum.refunds : sum.proceeds) += converted->toDouble();
+    });
+    std::vector<DayPoint> points;
+    for (const auto& [key, date] : days(from, to)) {
+        DayPoint point = sums[key];
+        point.day = date;
+        point.status = dailyStatus(key);
+        points.push_back(point);
+    }
+    return points;
+}
+
+std::vector<DayTableRow> EarningsStore::dayTable(const std::string& from, const std::string& to,
+                                                 const AppFilter& apps) const {
+    std::map<std::string_view, StatsAccumulator> sums;
+    dailyRows(from, to, apps).forEach([&](const SalesRowRef& row) {
+        row.addTo(sums[row.chunk().reportDate]);
+    });
+    std::vector<DayTableRow> table;
+    for (const auto& [key, date] : days(from, to)) {
+        const auto sum = sums.find(key);
+        table.push_back({key, date, dailyStatus(key),
+                         sum == sums.end() ? AggregateStats() : sum->second.stats(salesRows_.texts())});
+    }
+    std::ranges::reverse(table);
+    return table;
+}
+
+bool EarningsStore::lineItemOrder(const SalesRowLite& left, const SalesRowLite& right) const {
+    const bool leftSilent = isSilent(left);
+    if (leftSilent != isSilent(right)) {
+        return !leftSilent;
+    }
+    return convertedOrZero(converter_, left) > convertedOrZero(converter_, right);
+}
+
+}  // namespace vantrell

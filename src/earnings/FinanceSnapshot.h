@@ -1,0 +1,35 @@
+#pragma once
+
+#include "data/ModelContext.h"
+#include "earnings/FinanceRowLite.h"
+#include "earnings/TextPool.h"
+
+#include <cstdint>
+#include <map>
+#include <vector>
+
+namespace vantrell {
+
+/// All stored finance lines in memory, in the order of the store: by fiscal period and file. Reports that did
+/// not change since the last load are not read again.
+class FinanceSnapshot {
+  public:
+    FinanceSnapshot() = default;
+    FinanceSnapshot(const FinanceSnapshot&) = delete;
+    FinanceSnapshot& operator=(const FinanceSnapshot&) = delete;
+
+    /// Takes over what the context holds now; always of the same store. If that can't be read, the snapshot
+    /// is empty. `load` numbers the reload, for the identities of the rows.
+    void load(ModelContext& context, std::int64_t load);
+
+    [[nodiscard]] const std::vector<FinanceRowLite>& rows() const { return rows_; }
+
+  private:
+    std::vector<FinanceRowLite> readBatch(ModelContext& context, const LineBatch& batch);
+
+    TextPool texts_;
+    std::map<BatchID, std::vector<FinanceRowLite>> rowsByBatch_;
+    std::vector<FinanceRowLite> rows_;
+};
+
+}  // namespace vantrell

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string_view>
+
+namespace vantrell {
+
+/// What a line of a sales report is about.
+enum class ProductKind { app, iap, update, redownload, other };
+
+/// Tells the kind by the first letters of the report's product type, such as "1F", "IAY" or "7T"; case and
+/// surrounding white space don't matter.
+[[nodiscard]] ProductKind productKind(std::string_view productType);
+
+/// True for product types of subscriptions, as they stand in the report.
+[[nodiscard]] bool isSubscriptionType(std::string_view productType);
+
+}  // namespace vantrell

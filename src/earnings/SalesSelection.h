@@ -1,0 +1,64 @@
+#pragma once
+
+#include "earnings/AggregateStats.h"
+#include "earnings/SalesSnapshot.h"
+#include "earnings/StatsAccumulator.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace vantrell {
+
+/// One line of a snapshot in place, without copying it.
+struct SalesRowRef {
+    const SalesSnapshot* snapshot;
+    std::size_t chunkNumber;
+    std::size_t index;
+
+    [[nodiscard]] const SalesChunk& chunk() const { return *snapshot->chunks()[chunkNumber]; }
+    [[nodiscard]] const SalesItem& item() const { return snapshot->items()[chunk().items[index]]; }
+    [[nodiscard]] const SalesPrice& price() const { return snapshot->prices()[chunk().prices[index]]; }
+    [[nodiscard]] std::int64_t units() const { return chunk().unitsOf(index); }
+    [[nodiscard]] Decimal amount() const { return Decimal(units()) * price().proceeds.value(); }
+    [[nodiscard]] std::string_view currency() const { return snapshot->texts().text(price().currency); }
+    void addTo(StatsAccumulator& sum) const {
+        sum.add(item().kind, units(), price().proceeds, price().currency);
+    }
+};
+
+/// Which items of a snapshot pass a filter, by their numbers. Absent passes all.
+using ItemMask = std::shared_ptr<const std::vector<bool>>;
+
+/// Lines of a snapshot, in its order; valid until the snapshot's next load. Nothing is copied.
+class SalesSelection {
+  public:
+    SalesSelection(const SalesSnapshot& snapshot, std::vector<SalesSnapshot::Span> spans, ItemMask mask)
+        : snapshot_(&snapshot), spans_(std::move(spans)), mask_(std::move(mask)) {}
+
+    /// Calls `visit` with a SalesRowRef for each line.
+    template <typename Visit>
+    void forEach(Visit visit) const {
+        for (const auto& span : spans_) {
+            for (std::size_t chunk = span.first; chunk < span.last; ++chunk) {
+                const SalesChunk& lines = *snapshot_->chunks()[chunk];
+                for (std::size_t row = 0; row < lines.size(); ++row) {
+                    if (!mask_ || (*mask_)[lines.items[row]]) {
+                        visit(SalesRowRef{snapshot_, chunk, row});
+                    }
+                }
+            }
+        }
+    }
+
+    [[nodiscard]] std::vector<SalesRowLite> rows() const;
+    /// All lines added up.
+    [[nodiscard]] AggregateStats aggregate() const;
+
+  private:
+    const SalesSnapshot* snapshot_;
+    std::vector<SalesSnapshot::Span> spans_;
+    ItemMask mask_;
+};
+
+}  // namespace vantrell

@@ -1,0 +1,80 @@
+#include "earnings/SalesSnapshot.h"
+
+#include <algorithm>
+#include <tuple>
+#include <unordered_map>
+
+namespace vantrell {
+
+void SalesSnapshot::load(ModelContext& context, std::int64_t load) {
+    load_ = load;
+    std::unordered_map<BatchID, std::shared_ptr<const SalesChunk>> known;
+    for (auto& chunk : chunks_) {
+        known.emplace(chunk->batch, std::move(chunk));
+    }
+    chunks_.clear();
+    try {
+        for (const LineBatch& batch : context.salesLines().batches()) {
+            const auto unchanged = known.find(batch.id);
+            chunks_.push_back(unchanged != known.end() ? unchanged->second : loader_.chunk(context, batch));
+        }
+    } catch (const SqliteError&) {
+        // A store that can't be read shows as an empty one; the next reload tries again.
+        chunks_.clear();
+    }
+    // Reports whose frequency is unknown count as daily ones, and belong among them by their date.
+    std::ranges::stable_sort(chunks_, {}, [](const auto& chunk) {
+        return std::pair<ReportFrequency, std::string_view>(chunk->frequency, chunk->reportDate);
+    });
+    firstRow_.clear();
+    size_ = 0;
+    for (const auto& chunk : chunks_) {
+        firstRow_.push_back(size_);
+        size_ += chunk->size();
+    }
+}
+
+SalesSnapshot::Span SalesSnapshot::span(ReportFrequency frequency, const std::optional<std::string>& from,
+                                        const std::optional<std::string>& to) const {
+    const auto first = std::ranges::partition_point(chunks_, [&](const auto& chunk) {
+        return chunk->frequency < frequency ||
+               (chunk->frequency == frequency && from && chunk->reportDate < *from);
+    });
+    const auto last = std::partition_point(first, chunks_.end(), [&](const auto& chunk) {
+        return chunk->frequency == frequency && (!to || chunk->reportDate <= *to);
+    });
+    return {static_cast<std::size_t>(first - chunks_.begin()),
+            static_cast<std::size_t>(last - chunks_.begin())};
+}
+
+SalesSnapshot::Span SalesSnapshot::dailySpanAfterYear(std::string_view label) const {
+    Span daily = span(ReportFrequency::daily, std::nullopt, std::nullopt);
+    while (daily.first < daily.last && yearOf(chunks_[daily.first]->reportDate) <= label) {
+        ++daily.first;
+    }
+    return daily;
+}
+
+SalesRowLite SalesSnapshot::row(std::size_t chunk, std::size_t index) const {
+    const SalesChunk& report = *chunks_[chunk];
+    const SalesItem& item = items_[report.items[index]];
+    const SalesPrice& price = prices_[report.prices[index]];
+    return {.id = {load_, firstRow_[chunk] + index},
+            .frequency = report.frequency,
+            .reportDate = report.reportDate,
+            .date = report.dateOf(index),
+            .appleID = item.appleID,
+            .sku = item.sku,
+            .parentSKU = item.parentSKU,
+            .title = item.title,
+            .kind = item.kind,
+            .productType = item.productType,
+            .units = report.unitsOf(index),
+            .proceedsPerUnit = price.proceeds.value(),
+            .currency = texts_.text(price.currency),
+            .customerPrice = price.customerPrice,
+            .customerCurrency = price.customerCurrency,
+            .country = texts_.text(report.countries[index])};
+}
+
+}  // namespace vantrell

@@ -1,0 +1,74 @@
+#include "EarningsFixture.h"
+
+namespace vantrell::testing {
+namespace {
+
+Instant firstDay(const std::string& label) {
+    constexpr const char* rest[] = {"", "-01", "-01-01"};
+    const std::size_t missing = label.size() >= 10 ? 0 : label.size() >= 7 ? 1 : 2;
+    const auto date = dateFromDayKey(label + rest[missing]);
+    return date ? Instant(std::chrono::sys_days(*date) + std::chrono::hours(12)) : distantPast;
+}
+
+ParsedSalesRow row(const Line& line, Instant date) {
+    ParsedSalesRow row;
+    row.beginDate = date;
+    row.endDate = date;
+    row.appleID = line.appleID;
+    row.productType = line.productType;
+    row.units = line.units;
+    row.proceedsPerUnit = *Decimal::parse(line.proceeds);
+    row.proceedsCurrency = line.currency;
+    row.title = line.title;
+    row.sku = line.sku;
+    row.parentSKU = line.parentSKU;
+    row.country = line.country;
+    return row;
+}
+
+}  // namespace
+
+EarningsFixture::EarningsFixture(const std::string& vfs) : context_(file_.open(vfs)), earnings_(another()) {}
+
+std::unique_ptr<EarningsStore> EarningsFixture::another() {
+    return std::make_unique<EarningsStore>(defaults, locale_, calendar_);
+}
+
+void EarningsFixture::report(ReportFrequency frequency, const std::string& date,
+                             const std::vector<Line>& lines, ReportStatus status) {
+    std::vector<ParsedSalesRow> rows;
+    for (const Line& line : lines) {
+        rows.push_back(row(line, firstDay(date)));
+    }
+    const std::string raw(rawText(frequency));
+    context_->replaceSalesRows(raw, date, rows);
+    SalesReport record;
+    record.frequencyRaw = raw;
+    record.reportDate = date;
+    record.setStatus(status);
+    if (const auto known = context_->salesReports().find(salesReportKey(raw, date))) {
+        context_->salesReports().update(known->id, record);
+    } else {
+        context_->salesReports().insert(record);
+    }
+}
+
+void EarningsFixture::rates(const Rates& rates) {
+    context_->rateSets().insert({.fetchedAt = clock.now(), .rates = rates});
+}
+
+EarningsStore& EarningsFixture::reload() {
+    std::ignore = context_->save();
+    earnings_->reload(*context_);
+    return *earnings_;
+}
+
+std::string money(const AggregateStats& stats) {
+    std::string text;
+    for (const auto& [code, amount] : stats.proceedsByCurrency) {
+        text += (text.empty() ? "" : ", ") + code + " " + amount.text();
+    }
+    return text;
+}
+
+}  // namespace vantrell::testing

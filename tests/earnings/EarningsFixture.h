@@ -1,0 +1,64 @@
+#pragma once
+
+#include "calendar/DayKey.h"
+#include "earnings/EarningsStore.h"
+#include "testing/FixedLocalTime.h"
+#include "testing/ManualClock.h"
+#include "testing/MemoryDefaults.h"
+#include "testing/StoreFixture.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vantrell::testing {
+
+/// A stored line in short. The begin date is that of a daily report, else the first day of the report.
+struct Line {
+    std::int64_t appleID = 1;
+    std::string productType = "1F";
+    std::int64_t units = 1;
+    std::string proceeds = "1";
+    std::string currency = "USD";
+    std::string title;
+    std::string sku = "app";
+    std::string parentSKU;
+    std::string country = "US";
+};
+
+/// An EarningsStore over a real store, on 22 November 2026 at noon UTC in Berlin, in US dollars.
+class EarningsFixture {
+  public:
+    explicit EarningsFixture(const std::string& vfs = {});
+
+    EarningsStore& store() { return *earnings_; }
+    ModelContext& context() { return *context_; }
+
+    /// Puts a report with these lines and status ok into the store, in place of what was there.
+    void report(ReportFrequency frequency, const std::string& date, const std::vector<Line>& lines,
+                ReportStatus status = ReportStatus::ok);
+    void daily(const std::string& date, const std::vector<Line>& lines) {
+        report(ReportFrequency::daily, date, lines);
+    }
+    void rates(const Rates& rates);
+    /// Saves and reloads.
+    EarningsStore& reload();
+    /// A second EarningsStore that has read nothing yet.
+    [[nodiscard]] std::unique_ptr<EarningsStore> another();
+
+    ManualClock clock;
+    FixedLocalTime localTime{"Europe/Berlin"};
+    MemoryDefaults defaults;
+
+  private:
+    StoreFixture file_;
+    ModelContext* context_;
+    Locale locale_{LocaleNames{"en_US.UTF-8", "C", "C", "C", "C"}};
+    ReportCalendar calendar_{clock, localTime};
+    std::unique_ptr<EarningsStore> earnings_;
+};
+
+/// Amounts of a figure as "EUR 1.5, USD -2", and "" for none.
+[[nodiscard]] std::string money(const AggregateStats& stats);
+
+}  // namespace vantrell::testing

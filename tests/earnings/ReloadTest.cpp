@@ -1,0 +1,120 @@
+#include "EarningsFixture.h"
+#include "testing/FaultyVfs.h"
+
+#include <random>
+
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+namespace vantrell {
+namespace {
+
+using testing::EarningsFixture;
+using testing::Line;
+
+TEST(Reload, OfAnEmptyStoreIsLoadedAndEmpty) {
+    EarningsFixture fixture;
+    EXPECT_FALSE(fixture.store().isLoaded());
+    fixture.reload();
+    EXPECT_TRUE(fixture.store().isLoaded());
+    EXPECT_TRUE(fixture.store().salesRows().empty());
+    EXPECT_EQ(fixture.store().loadRevision(), 1);
+}
+
+TEST(Reload, ReadsUnknownTextsAsDailyAndMissing) {
+    EarningsFixture fixture;
+    fixture.context().replaceSalesRows("HOURLY", "2026-11-20", {testing::sale(1, "5")});
+    fixture.context().salesReports().insert(
+        {.frequencyRaw = "HOURLY", .reportDate = "2026-11-20", .statusRaw = "lost"});
+    fixture.daily("2026-11-21", {{.proceeds = "1"}});
+    EarningsStore& store = fixture.reload();
+    EXPECT_EQ(store.dailyStatuses().at("2026-11-20"), ReportStatus::missing);
+    EXPECT_EQ(store.dailyRows("2026-11-20", "2026-11-20", {}).rows().size(), 1U);
+    EXPECT_EQ(store.dailyRows({}, "2026-11-20", {}).rows().size(), 1U);
+}
+
+TEST(Reload, PublishesOnlyWhatDiffers) {
+    EarningsFixture fixture;
+    fixture.daily("2026-11-20", {Line{}});
+    EarningsStore& store = fixture.reload();
+    const QSignalSpy rows(&store, &EarningsStore::salesRowsChanged);
+    const QSignalSpy catalog(&store, &EarningsStore::catalogChanged);
+    const QSignalSpy statuses(&store, &EarningsStore::dailyStatusesChanged);
+    const QSignalSpy revisions(&store, &EarningsStore::loadRevisionChanged);
+    const RowID before = store.dailyRows({}, {}, {}).rows().front().id;
+    fixture.reload();
+    EXPECT_NE(store.dailyRows({}, {}, {}).rows().front().id, before);
+    EXPECT_EQ(rows.count(), 1) << "rows get new identities at every load";
+    EXPECT_EQ(catalog.count(), 0);
+    EXPECT_EQ(statuses.count(), 0);
+    EXPECT_EQ(revisions.count(), 1);
+    const QSignalSpy filters(&store, &EarningsStore::appFilterChanged);
+    store.setAppFilter(std::set<std::int64_t>{1});
+    store.setAppFilter(std::set<std::int64_t>{1});
+    EXPECT_EQ(filters.count(), 1);
+    EXPECT_EQ(revisions.count(), 1);
+}
+
+TEST(Reload, OfWhatChangedGivesTheSameAsReadingEverything) {
+    const std::uint32_t seed = 20261122;
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    EarningsFixture fixture;
+    for (int round = 0; round < 60; ++round) {
+        const std::string date =
+            dayKey(*movedByDays(*dateFromDayKey("2026-11-22"), -1 - static_cast<int>(random() % 20)));
+        std::vector<Line> lines;
+        for (std::uint32_t count = random() % 4; count > 0; --count) {
+            lines.push_back(
+                {.appleID = 1 + static_cast<std::int64_t>(random() % 5),
+                 .productType = random() % 3 == 0 ? "IA1" : "1F",
+                 .units = static_cast<std::int64_t>(random() % 7) - 3,
+                 .proceeds = std::to_string(random() % 100) + "." + std::to_string(random() % 100),
+                 .title = "T" + std::to_string(random() % 3)});
+        }
+        fixture.daily(date, lines);
+        EarningsStore& incremental = fixture.reload();
+        const auto whole = fixture.another();
+        whole->reload(fixture.context());
+        ASSERT_EQ(incremental.catalog(), whole->catalog()) << "round " << round;
+        ASSERT_EQ(incremental.dayTable("2026-11-01", "2026-11-21", {}),
+                  whole->dayTable("2026-11-01", "2026-11-21", {}))
+            << "round " << round;
+        ASSERT_EQ(incremental.salesRows().size(), whole->salesRows().size());
+    }
+}
+
+TEST(Reload, OfAStoreThatCanNotBeReadShowsNoRowsAndRecovers) {
+    testing::FaultyVfs vfs("faulty-earnings");
+    EarningsFixture fixture(vfs.name());
+    // More than SQLite's page cache holds, so that a reload has to go to the disk.
+    std::vector<Line> lines(2000);
+    for (int day = 1; day <= 28; ++day) {
+        fixture.daily("2026-10-" + std::string(day < 10 ? "0" : "") + std::to_string(day), lines);
+    }
+    ASSERT_EQ(fixture.context().save(), std::nullopt);
+    vfs.failReads(true);
+    fixture.store().reload(fixture.context());
+    EXPECT_TRUE(fixture.store().salesRows().empty());
+    EXPECT_TRUE(fixture.store().isLoaded());
+    vfs.failReads(false);
+    EXPECT_EQ(fixture.reload().salesRows().size(), 28U * 2000);
+}
+
+TEST(DisplayCurrency, IsTheChosenOneElseThatOfTheLocale) {
+    EarningsFixture fixture;
+    EXPECT_EQ(fixture.store().displayCurrency(), "USD");
+    fixture.store().setDisplayCurrency("USD");
+    EXPECT_EQ(fixture.defaults.writes, 0);
+    EXPECT_EQ(fixture.store().loadRevision(), 0);
+    fixture.store().setDisplayCurrency("CHF");
+    EXPECT_EQ(fixture.store().loadRevision(), 1);
+    EXPECT_EQ(fixture.another()->displayCurrency(), "CHF");
+    EXPECT_EQ(fixture.store().availableCurrencies(), std::vector<std::string>{"CHF"});
+    fixture.rates({{"EUR", 1}, {"AUD", 2}});
+    EXPECT_EQ(fixture.reload().availableCurrencies(), (std::vector<std::string>{"AUD", "CHF", "EUR"}));
+}
+
+}  // namespace
+}  // namespace vantrell
