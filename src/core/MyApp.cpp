@@ -1,0 +1,39 @@
+#include "core/MyApp.h"
+
+#include <utility>
+
+namespace vantrell {
+
+std::variant<std::unique_ptr<MyApp>, StartFailure> MyApp::start(const MyAppParts& parts,
+                                                                const std::filesystem::path& storeFile,
+                                                                const SyncEngineSettings& settings) {
+    bool cloudSyncActive = true;
+    auto opened = ModelContainer::open({.file = storeFile, .cloudDatabase = CloudDatabase::automatic});
+    if (std::holds_alternative<StoreError>(opened)) {
+        // Why it doesn't mirror is of no interest: the Settings screen shows that it doesn't.
+        cloudSyncActive = false;
+        opened = ModelContainer::open({.file = storeFile, .cloudDatabase = CloudDatabase::none});
+    }
+    if (const auto* error = std::get_if<StoreError>(&opened)) {
+        return StartFailure{"Could not create the model container: " + error->description};
+    }
+    auto& container = std::get<std::unique_ptr<ModelContainer>>(opened);
+    return std::unique_ptr<MyApp>(new MyApp(parts, std::move(container), cloudSyncActive, settings));
+}
+
+MyApp::MyApp(const MyAppParts& parts, std::unique_ptr<ModelContainer> container, bool cloudSyncActive,
+             const SyncEngineSettings& settings)
+    : container_(std::move(container)),
+      cloudSyncActive_(cloudSyncActive),
+      calendar_(parts.clock, parts.localTime),
+      engine_({.context = container_->mainContext(),
+               .http = parts.http,
+               .clock = parts.clock,
+               .localTime = parts.localTime,
+               .secrets = parts.secrets,
+               .defaults = parts.defaults,
+               .locale = parts.locale},
+              settings),
+      store_(parts.defaults, parts.locale, calendar_) {}
+
+}  // namespace vantrell

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "earnings/EarningsStore.h"
+#include "platform/Clock.h"
+#include "platform/TaskScope.h"
+#include "sync/SyncEngine.h"
+
+#include <QObject>
+#include <qcoro/qcorotask.h>
+
+namespace vantrell {
+
+/// Keeps the data moving while the main window lives: on its first appearance, every 900 seconds and each
+/// time it becomes active the figures are read again and a run starts if one is due; each new `revision` of
+/// the engine is read as well. The engine's throttle decides what is due, so all of these may fire at will.
+///
+/// All that is handed over must outlive the loop, and `tasks` the engine.
+class DriveLoop : public QObject {
+    Q_OBJECT
+
+  public:
+    struct Parts {
+        SyncEngine& engine;
+        EarningsStore& store;
+        ModelContext& context;
+        Clock& clock;
+        TaskScope& tasks;
+    };
+
+    explicit DriveLoop(const Parts& parts);
+
+    /// To be called once, when the window first appears.
+    void start();
+    /// To be called whenever the window becomes active.
+    void becameActive();
+
+  private:
+    static QCoro::Task<> repeat(Parts parts, CancelToken cancel);
+
+    Parts parts_;
+    CancelSource life_;
+};
+
+}  // namespace vantrell

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "earnings/EarningsStore.h"
+#include "platform/Locale.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vantrell {
+
+/// One of the figures that tell at a glance what came in.
+struct HeadlineFigure {
+    std::string title;
+    std::optional<std::string> subtitle;
+    AggregateStats stats;
+    bool operator==(const HeadlineFigure&) const = default;
+};
+
+/// Most recent day with data (only if there is one), last 7 days, last 30 days, year to date and all time,
+/// over the store's app filter.
+[[nodiscard]] std::vector<HeadlineFigure> headlineFigures(const EarningsStore& store, const Locale& locale);
+
+}  // namespace vantrell
