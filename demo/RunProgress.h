@@ -1,0 +1,27 @@
+#pragma once
+
+#include "sync/SyncEngine.h"
+
+#include <ostream>
+#include <string>
+
+#include <QObject>
+
+namespace vantrell {
+
+/// Writes what a run is doing: a line for each new kind of work, and one for each tenth of it that is done.
+class RunProgress : public QObject {
+  public:
+    /// Both must outlive this.
+    RunProgress(const SyncEngine& engine, std::ostream& output);
+
+  private:
+    void progressChanged();
+
+    const SyncEngine& engine_;
+    std::ostream& output_;
+    std::string lastKind_;
+    int lastTenth_ = -1;
+};
+
+}  // namespace vantrell

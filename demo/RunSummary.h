@@ -1,0 +1,13 @@
+#pragma once
+
+#include "core/MyApp.h"
+#include "platform/Locale.h"
+
+#include <ostream>
+
+namespace vantrell {
+
+/// Writes the reports by status and the headline figures with their exact amounts by currency.
+void writeRunSummary(MyApp& app, const Locale& locale, std::ostream& output);
+
+}  // namespace vantrell

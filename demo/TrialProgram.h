@@ -1,0 +1,22 @@
+#pragma once
+
+#include "TrialOptions.h"
+
+#include <ostream>
+
+namespace vantrell {
+
+/// How the trial program ended, as its exit code.
+enum class TrialEnd {
+    done = 0,     ///< no `lastError`; that doesn't mean that data came
+    noStore = 1,  ///< the store can't be opened or is in use
+    usage = 2,
+    runFailed = 3,   ///< `lastError` is set
+    notWritten = 4,  ///< an export or picture couldn't be written
+};
+
+/// Runs one operation without a window: progress and, as the last line, what went wrong on `errors`; reports
+/// by status and the headline figures on `output`.
+[[nodiscard]] TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostream& errors);
+
+}  // namespace vantrell
