@@ -115,6 +115,7 @@ std::size_t HttpExchange::maxBodyBytes() const {
     return status() == 200 ? request_.maxBodyBytes : request_.maxErrorBodyBytes;
 }
 
+/// A body that is announced as too large is refused before any of it is read.
 void HttpExchange::takeHeaders() {
     heard();
     const auto length = reply_->rawHeader("Content-Length");
@@ -143,10 +144,12 @@ void HttpExchange::conclude() {
         return;
     }
     const auto code = status();
+    // A status alone says little: a connection that breaks in the body leaves one behind.
     if (!code || isTransportError(reply_->error())) {
         finish(HttpFailure{httpFailureText(reply_->error(), certificateErrors_)});
         return;
     }
+    // Qt takes some bodies that are cut short for whole.
     if (body_.size() < announcedBytes_) {
         finish(HttpFailure{httpFailureText(QNetworkReply::RemoteHostClosedError, {})});
         return;

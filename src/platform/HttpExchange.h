@@ -54,14 +54,16 @@ class HttpExchange {
     const QNetworkRequest blank_;
     const HttpRequest request_;
     QUrl url_;
+    /// Once a hop went elsewhere, credentials stay behind for good, also on the way back.
     bool leftOrigin_ = false;
     int hops_ = 0;
     QNetworkReply* reply_ = nullptr;
     std::string body_;
-    std::size_t announcedBytes_ = 0;
+    std::size_t announcedBytes_ = 0;  ///< 0 if the server did not say
     QList<QSslError> certificateErrors_;
     std::optional<HttpResult> result_;
     std::coroutine_handle<> waiting_;
+    // Qt has a limit for silence alone, and no limit for an answer that drips for ever.
     QTimer idle_;
     QTimer total_;
     QTimer delivery_;

@@ -29,6 +29,7 @@ bool makeFolder(const QString& path) {
     if (folder.exists()) {
         return true;
     }
+    // The folders above may be shared with other programs and get the usual permissions.
     return QDir().mkpath(QFileInfo(path).path()) && QDir().mkdir(path, ownerOnlyFolder);
 }
 

@@ -91,6 +91,7 @@ KeychainSecretStore::Outcome KeychainSecretStore::run(std::unique_ptr<QKeychain:
     job->setInsecureFallback(false);
     job->setKey(toQt(account));
     Outcome outcome;
+    // Gone with this frame, so that a job that takes longer writes into nothing.
     const QObject here;
     QObject::connect(job.get(), &QKeychain::Job::finished, &here, [&outcome](QKeychain::Job* done) {
         const auto* reading = qobject_cast<QKeychain::ReadPasswordJob*>(done);

@@ -19,6 +19,7 @@ bool isOnP256(const EVP_PKEY* key) {
            std::string_view(group.data()) == "prime256v1";
 }
 
+/// A key whose halves don't belong together would sign tokens that nobody accepts.
 bool isConsistent(EVP_PKEY* key, KeyHalf half) {
     const OwnedKeyContext context(EVP_PKEY_CTX_new(key, nullptr));
     if (!context) {

@@ -62,6 +62,7 @@ bool isDefaultCollectionLocked(const Inquiry& inquiry) {
 bool isSecretLocked(std::string_view service, std::string_view account, std::chrono::milliseconds patience) {
     qDBusRegisterMetaType<Attributes>();
     const Inquiry inquiry(patience);
+    // The names under which the keychain library files an item.
     const Attributes attributes{{QStringLiteral("server"), toQt(service)},
                                 {QStringLiteral("user"), toQt(account)}};
     const auto found =
