@@ -18,16 +18,13 @@ constexpr std::array<std::string_view, 4> fetchedApp{"3", "3T", "3F", "3"};
 
 std::string_view appType(const Item& app, Action action) {
     const auto hardware = static_cast<std::size_t>(app.hardware);
-    switch (unitKind(app, action)) {
-        case UnitKind::update:
-            return updatedApp[hardware];
-        case UnitKind::redownload:
-            return fetchedApp[hardware];
-        case UnitKind::app:
-        case UnitKind::inApp:
-            return app.offer == Offer::bundle ? "1-B" : soldApp[hardware];
+    if (action == Action::update) {
+        return updatedApp[hardware];
     }
-    return {};
+    if (action == Action::redownload) {
+        return fetchedApp[hardware];
+    }
+    return app.offer == Offer::bundle ? "1-B" : soldApp[hardware];
 }
 
 std::string_view inAppType(const Item& product, Action action) {
@@ -51,7 +48,9 @@ UnitKind unitKind(const Item& item, Action action) {
         return UnitKind::inApp;
     }
     if (action == Action::update) {
-        return UnitKind::update;
+        // What a line counts as is told by the first letter of its type, and the update of a Mac app is an
+        // F7.
+        return item.hardware == Hardware::mac ? UnitKind::app : UnitKind::update;
     }
     return action == Action::redownload ? UnitKind::redownload : UnitKind::app;
 }

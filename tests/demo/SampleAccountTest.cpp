@@ -165,10 +165,10 @@ TEST(SampleAccount, KnowsTheTotalsOfItsSalesReports) {
     for (const auto& line : report.lines()) {
         const auto type = report.cell(line, "Product Type Identifier");
         const auto units = report.number(line, "Units");
-        auto& counter = type.starts_with("IA")                  ? counted.inAppUnits
-                        : type.starts_with("7") || type == "F7" ? counted.updateUnits
-                        : type.starts_with("3")                 ? counted.redownloadUnits
-                                                                : counted.appUnits;
+        auto& counter = type.starts_with("IA")  ? counted.inAppUnits
+                        : type.starts_with("7") ? counted.updateUnits
+                        : type.starts_with("3") ? counted.redownloadUnits
+                                                : counted.appUnits;
         (units < 0 ? counted.refundedUnits : counter) += std::abs(units);
         if (const auto each = report.hundredths(line, "Developer Proceeds"); each != 0) {
             proceeds[report.cell(line, "Currency of Proceeds")] += units * each;

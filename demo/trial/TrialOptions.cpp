@@ -1,4 +1,4 @@
-#include "TrialOptions.h"
+#include "trial/TrialOptions.h"
 
 #include "calendar/DayKey.h"
 #include "platform/Decimal.h"

@@ -1,7 +1,5 @@
-#include "TrialProgram.h"
+#include "trial/TrialProgram.h"
 
-#include "RunProgress.h"
-#include "RunSummary.h"
 #include "core/MyApp.h"
 #include "data/CredentialsKeychain.h"
 #include "platform/JsonDefaults.h"
@@ -12,6 +10,8 @@
 #include "platform/SystemClock.h"
 #include "reports/APIToken.h"
 #include "sample/SampleService.h"
+#include "trial/RunProgress.h"
+#include "trial/RunSummary.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "RunSummary.h"
+#include "trial/RunSummary.h"
 
 #include "screens/HeadlineFigures.h"
 

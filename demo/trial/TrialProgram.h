@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TrialOptions.h"
+#include "trial/TrialOptions.h"
 
 #include <ostream>
 

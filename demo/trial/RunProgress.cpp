@@ -1,4 +1,4 @@
-#include "RunProgress.h"
+#include "trial/RunProgress.h"
 
 namespace vantrell {
 namespace {

@@ -1,0 +1,241 @@
+#include "data/ModelContainer.h"
+#include "earnings/EarningsStore.h"
+#include "platform/JsonDefaults.h"
+#include "platform/KeyPair.h"
+#include "platform/SystemClock.h"
+#include "sample/ReportPeriods.h"
+#include "sample/SampleService.h"
+#include "sample/SampleTotals.h"
+#include "testing/TemporaryFolder.h"
+#include "trial/TrialProgram.h"
+
+#include <fstream>
+#include <memory>
+#include <set>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+namespace vantrell {
+namespace {
+
+using testing::TemporaryFolder;
+
+/// A sample service of the test's own, which remembers what it was asked, and runs of the trial program
+/// against it over one folder.
+class Trial {
+  public:
+    TrialEnd run(TrialOperation operation = DoAutomaticRun()) {
+        TrialOptions options;
+        options.service = service_.origin();
+        options.key = keys_.privatePEM;
+        options.data = folder_.path();
+        options.operation = std::move(operation);
+        options.currency = "EUR";
+        options.pause = std::chrono::microseconds(0);
+        service_.log().clear();
+        output_.str("");
+        errors_.str("");
+        return runTrial(options, output_, errors_);
+    }
+
+    [[nodiscard]] std::vector<std::string> requests() {
+        std::vector<std::string> targets;
+        for (const auto& request : service_.log().requests()) {
+            targets.push_back(request.target);
+        }
+        return targets;
+    }
+    /// The reports that were asked for, each once, whichever version was asked for and refused.
+    [[nodiscard]] std::set<std::string> reports() {
+        std::set<std::string> reports;
+        for (const std::string& target : requests()) {
+            if (target.starts_with("/v1/")) {
+                reports.insert(target.substr(0, target.find("&filter%5Bversion%5D")));
+            }
+        }
+        return reports;
+    }
+    [[nodiscard]] const sample::SampleAccount& account() const { return account_; }
+    [[nodiscard]] sample::SampleService& service() { return service_; }
+    [[nodiscard]] std::filesystem::path folder() const { return folder_.path(); }
+    [[nodiscard]] std::string output() const { return output_.str(); }
+    [[nodiscard]] std::string errors() const { return errors_.str(); }
+
+  private:
+    TemporaryFolder folder_;
+    SystemClock clock_;
+    KeyPair keys_ = generateKeyPair();
+    sample::SampleAccount account_{{.ordersPerDay = 20}};
+    sample::SampleService service_{
+        account_,
+        {"3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15", "7QK2MZ8T5W", "60419372", keys_.publicPEM},
+        clock_};
+    std::ostringstream output_;
+    std::ostringstream errors_;
+};
+
+/// The figures that the program works out from a folder's store.
+class Figures {
+  public:
+    explicit Figures(const std::filesystem::path& folder) : defaults_(folder / "defaults.json") {
+        auto opened = ModelContainer::open({folder / "vantrell.sqlite", CloudDatabase::none, {}});
+        container_ = std::move(std::get<std::unique_ptr<ModelContainer>>(opened));
+        store_.reload(container_->mainContext());
+    }
+    EarningsStore& store() { return store_; }
+    ModelContext& context() { return container_->mainContext(); }
+
+  private:
+    SystemClock clock_;
+    HostLocalTime localTime_;
+    Locale locale_{LocaleNames{"C", "C", "C", "C", "C"}};
+    ReportCalendar calendar_{clock_, localTime_};
+    JsonDefaults defaults_;
+    EarningsStore store_{defaults_, locale_, calendar_};
+    std::unique_ptr<ModelContainer> container_;
+};
+
+void add(AggregateStats& sum, const sample::SalesTotals& totals) {
+    sum.appUnits += totals.appUnits;
+    sum.iapUnits += totals.inAppUnits;
+    sum.updateUnits += totals.updateUnits;
+    sum.redownloadUnits += totals.redownloadUnits;
+    sum.refundedUnits += totals.refundedUnits;
+    for (const auto& [code, money] : totals.proceeds) {
+        sum.proceedsByCurrency[code] += Decimal::scaled(money.minor, -money.digits);
+    }
+}
+
+// An entry that came back to zero says nothing about money.
+AggregateStats withoutZeros(AggregateStats stats) {
+    std::erase_if(stats.proceedsByCurrency, [](const auto& entry) { return entry.second.isZero(); });
+    return stats;
+}
+
+TEST(TrialProgram, ShowsWhatTheAccountsOwnSalesAddUpTo) {
+    Trial trial;
+    ASSERT_EQ(trial.run(), TrialEnd::done) << trial.errors();
+    Figures figures(trial.folder());
+    EarningsStore& store = figures.store();
+    AggregateStats year;
+    AggregateStats allTime;
+    const std::string lastYear = store.yearlyOKLabels().back();
+    for (const auto& [key, status] : store.dailyStatuses()) {
+        if (status == ReportStatus::ok) {
+            const auto totals =
+                sample::salesTotals(trial.account(), *sample::reportDays(sample::ReportKind::daily, key));
+            add(year, totals);
+            if (key.substr(0, 4) > lastYear) {
+                add(allTime, totals);
+            }
+        }
+    }
+    for (const std::string& label : store.yearlyOKLabels()) {
+        add(allTime,
+            sample::salesTotals(trial.account(), *sample::reportDays(sample::ReportKind::yearly, label)));
+    }
+    EXPECT_GT(year.appUnits, 1000);
+    EXPECT_EQ(withoutZeros(store.dailyRows({}, {}, {}).aggregate()), withoutZeros(year));
+    EXPECT_EQ(withoutZeros(store.allTimeRows({}).aggregate()), withoutZeros(allTime));
+    for (const PeriodStat& month : store.monthStats({})) {
+        if (month.note == "Monthly report" && !month.stats.isEmpty()) {
+            AggregateStats expected;
+            add(expected, sample::salesTotals(trial.account(),
+                                              *sample::reportDays(sample::ReportKind::monthly, month.label)));
+            EXPECT_EQ(withoutZeros(month.stats), withoutZeros(expected)) << month.label;
+        }
+    }
+    EXPECT_EQ(store.displayCurrency(), "EUR");
+    EXPECT_NE(trial.output().find("\nAll time · Since 2020: "), std::string::npos) << trial.output();
+    EXPECT_EQ(trial.service().log().count("/v6/latest/USD"), 1U);
+}
+
+TEST(TrialProgram, AsksInASecondRunOnlyForWhatIsDue) {
+    Trial trial;
+    ASSERT_EQ(trial.run(), TrialEnd::done) << trial.errors();
+    EXPECT_GT(trial.requests().size(), 400U);
+    // What an ordinary run has to ask for follows from what is stored.
+    std::size_t due = 2;  // the two fiscal periods after the newest
+    {
+        Figures figures(trial.folder());
+        for (int offset = 1; offset <= 14; ++offset) {
+            const ReportStatus status =
+                figures.store().dailyStatuses().at(figures.store().calendar().dayKey(offset));
+            due +=
+                status == ReportStatus::pending || (status == ReportStatus::empty && offset <= 3) ? 1U : 0U;
+        }
+    }
+    ASSERT_EQ(trial.run(), TrialEnd::done) << trial.errors();
+    EXPECT_EQ(trial.service().log().count("/v1/financeReports"), 2U);
+    EXPECT_EQ(trial.service().log().count("/v6/latest/USD"), 0U) << "the rates are fresh";
+    EXPECT_EQ(trial.service().log().count("/v1/"),
+              due + trial.service().log().count("/v1/salesReports?version"));
+}
+
+TEST(TrialProgram, DoesOneNamedOperation) {
+    Trial trial;
+    EXPECT_EQ(trial.run(DoTest()), TrialEnd::done);
+    EXPECT_EQ(trial.service().log().count(), 1U);
+    EXPECT_FALSE(trial.output().empty());
+    EXPECT_EQ(trial.run(DoRates()), TrialEnd::done);
+    EXPECT_EQ(trial.requests(), std::vector<std::string>{"/v6/latest/USD"});
+    EXPECT_EQ(trial.run(DoFinance{"2026-01"}), TrialEnd::done);
+    EXPECT_EQ(trial.service().log().count("/v1/financeReports"), 1U);
+    EXPECT_EQ(trial.run(DoMonth{"August"}), TrialEnd::runFailed);
+    EXPECT_EQ(trial.errors(), "Use a month like 2026-08.\n");
+}
+
+TEST(TrialProgram, SaysInItsExitCodeAndLastLineWhatWentWrong) {
+    Trial trial;
+    trial.service().faults().answerNext(401, R"({"errors":[{"detail":"No\nway."}]})");
+    EXPECT_EQ(trial.run(), TrialEnd::runFailed);
+    EXPECT_NE(trial.errors().find("\nAuthentication failed — HTTP 401: No way.. Check"), std::string::npos)
+        << trial.errors();
+    {
+        Figures inUse(trial.folder());
+        EXPECT_EQ(trial.run(), TrialEnd::noStore);
+        EXPECT_EQ(trial.errors(),
+                  "Could not create the model container: the store is in use by another process\n");
+    }
+    std::ofstream(trial.folder() / "vantrell.sqlite") << "my diary";
+    EXPECT_EQ(trial.run(), TrialEnd::noStore);
+    EXPECT_EQ(trial.errors(), "Could not create the model container: file is not a database\n");
+}
+
+TEST(TrialProgram, DoesNotRunWithAnEmptyKey) {
+    TemporaryFolder folder;
+    std::ofstream(folder / "empty.p8").flush();
+    const auto options = parseTrialOptions({"--once", "--key", folder / "empty.p8", "--data", folder / "data",
+                                            "--pause", "0", "--service", "http://127.0.0.1:1/"});
+    ASSERT_TRUE(std::holds_alternative<TrialOptions>(options));
+    std::ostringstream output;
+    std::ostringstream errors;
+    EXPECT_EQ(runTrial(std::get<TrialOptions>(options), output, errors), TrialEnd::runFailed);
+    EXPECT_EQ(errors.str(), "Add your App Store Connect key in Settings first.\n");
+}
+
+TEST(TrialOptions, RefuseWhatTheyCanNotUnderstand) {
+    const std::vector<std::vector<std::string>> wrong = {
+        {"--onse"},
+        {"--once", "--data"},
+        {"--once", "--pause", "-1"},
+        {"--once", "--pause", "soon"},
+        {"--once", "--currency", "euro"},
+        {"--once", "--service", "127.0.0.1"},
+        {"--once", "--key", "/nowhere/at/all.p8"},
+        {"--do", "dance"},
+        {"--do", "day=tomorrow"},
+        {"--do", "day"},
+    };
+    for (const auto& arguments : wrong) {
+        EXPECT_TRUE(std::holds_alternative<UsageError>(parseTrialOptions(arguments))) << arguments.back();
+    }
+    const auto options = parseTrialOptions({"--do", "month=2026-08", "--pause", "0.5"});
+    ASSERT_TRUE(std::holds_alternative<TrialOptions>(options));
+    EXPECT_EQ(std::get<TrialOptions>(options).pause, std::chrono::milliseconds(500));
+    EXPECT_EQ(std::get<DoMonth>(std::get<TrialOptions>(options).operation).text, "2026-08");
+}
+
+}  // namespace
+}  // namespace vantrell
