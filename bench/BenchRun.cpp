@@ -1,0 +1,176 @@
+#include "BenchRun.h"
+
+#include "Figures.h"
+#include "FirstFigures.h"
+#include "IngestFloor.h"
+#include "LoadFloor.h"
+#include "calendar/DayKey.h"
+#include "reports/Gunzip.h"
+#include "reports/SalesParser.h"
+
+#include <cmath>
+#include <stdexcept>
+
+#include <QTemporaryDir>
+
+namespace vantrell::bench {
+namespace {
+
+using std::chrono::days;
+
+constexpr int repeats = 5;
+
+class BenchRun {
+  public:
+    explicit BenchRun(std::int64_t dailyLines)
+        : folder_(temporary_.path().toStdString()),
+          plainFile_(folder_ / "plain.sqlite"),
+          data_(makeBenchData(dailyLines)),
+          rows_(data_.lines()),
+          service_(data_) {}
+
+    std::vector<Result> run() {
+        ingest();
+        firstLoad();
+        BenchProgram program(service_, folder_);
+        program.store().reload(program.context());
+        checkFloors(program.store());
+        reloads(program);
+        for (Result& figure : measureFigures(program)) {
+            add(std::move(figure));
+        }
+        storeReport(program);
+        return std::move(results_);
+    }
+
+  private:
+    void add(Result result) {
+        print(result);
+        results_.push_back(std::move(result));
+    }
+
+    [[nodiscard]] double perSecond(double milliseconds) const {
+        return static_cast<double>(rows_) / milliseconds * 1000;
+    }
+
+    void ingest() {
+        BenchProgram program(service_, folder_);
+        const double milliseconds = millisecondsOf([&] {
+            for (const SalesReportBody& report : data_.sales) {
+                program.syncSales(report.frequency, report.label);
+            }
+        });
+        add({"ingest_rows_per_second", perSecond(milliseconds), "rows/s", rows_});
+        add({"ingest_floor", perSecond(fillPlainTable(data_, plainFile_)), "rows/s", rows_});
+        for (const FinanceReportBody& report : data_.finance) {
+            program.syncFinance(report.fiscalPeriod);
+        }
+        program.fetchRates();
+    }
+
+    void firstLoad() {
+        std::vector<double> loads;
+        std::vector<double> floors;
+        std::vector<double> figures;
+        std::int64_t bytes = 0;
+        for (int repeat = 0; repeat < repeats; ++repeat) {
+            const FirstFigures first = measureFirstFigures(folder_);
+            loads.push_back(first.loadMilliseconds);
+            figures.push_back(first.figuresMilliseconds);
+            bytes = first.bytes;
+            const LoadFloor floor = stepThroughPlainTable(plainFile_);
+            floors.push_back(floor.milliseconds);
+            plainSum_ = floor.sum;
+        }
+        add({"first_load_ms", median(std::move(loads)), "ms", rows_});
+        add({"first_load_floor", median(std::move(floors)), "ms", rows_});
+        add({"first_figures_ms", median(std::move(figures)), "ms", rows_});
+        add({"snapshot_bytes_per_row", static_cast<double>(bytes) / static_cast<double>(rows_), "bytes",
+             rows_});
+    }
+
+    void checkFloors(const EarningsStore& store) const {
+        TableSum sum;
+        double proceeds = 0;
+        const SalesSnapshot& rows = store.salesRows();
+        for (std::size_t chunk = 0; chunk < rows.chunks().size(); ++chunk) {
+            for (std::size_t index = 0; index < rows.chunks()[chunk]->size(); ++index) {
+                const SalesRowLite row = rows.row(chunk, index);
+                ++sum.rows;
+                sum.units += row.units;
+                proceeds += row.amount().toDouble();
+            }
+        }
+        constexpr double mostOfFloatingPoint = 1e-9;
+        const double plain = plainProceeds(plainFile_);
+        if (sum.rows != rows_ || sum != plainSum_ ||
+            std::abs(plain - proceeds) > std::abs(proceeds) * mostOfFloatingPoint) {
+            throw std::runtime_error("the floors did not store and read the same lines");
+        }
+    }
+
+    void reloads(BenchProgram& program) {
+        std::vector<double> unchanged;
+        std::vector<double> oneReport;
+        const SalesReportBody& report = data_.sales.at(data_.sales.size() / 2);
+        const auto rows = parseSales(gunzipIfNeeded(report.gzip)).rows;
+        for (int repeat = 0; repeat < repeats; ++repeat) {
+            const auto reload = [&] { program.store().reload(program.context()); };
+            unchanged.push_back(millisecondsOf(reload));
+            program.context().replaceSalesRows(std::string(rawText(report.frequency)), report.label, rows);
+            if (program.context().save()) {
+                throw std::runtime_error("the changed report could not be saved");
+            }
+            oneReport.push_back(millisecondsOf(reload));
+        }
+        add({"reload_unchanged_ms", median(std::move(unchanged)), "ms", rows_});
+        add({"reload_one_report_ms", median(std::move(oneReport)), "ms", report.lines});
+    }
+
+    void storeReport(BenchProgram& program) {
+        constexpr std::int64_t lines = 10'000;
+        constexpr int beforeAllDays = 700;
+        const std::string body = reportOfLines(data_, lines);
+        std::vector<double> times;
+        for (int repeat = 1; repeat <= repeats; ++repeat) {
+            const std::string label = dayKey(today - days{beforeAllDays + repeat});
+            service_.setSalesReport(ReportFrequency::daily, label, body);
+            times.push_back(millisecondsOf([&] { program.syncSales(ReportFrequency::daily, label); }));
+        }
+        add({"store_report_ms", median(std::move(times)), "ms", lines});
+    }
+
+    QTemporaryDir temporary_;
+    std::filesystem::path folder_;
+    std::filesystem::path plainFile_;
+    BenchData data_;
+    std::int64_t rows_;
+    MemoryService service_;
+    TableSum plainSum_;
+    std::vector<Result> results_;
+};
+
+}  // namespace
+
+std::vector<Result> runBench(std::int64_t dailyLines) {
+    return BenchRun(dailyLines).run();
+}
+
+void runGrowth() {
+    constexpr std::int64_t few = 250'000;
+    constexpr std::int64_t many = 4'000'000;
+    const std::vector<Result> small = runBench(few);
+    const std::vector<Result> large = runBench(many);
+    for (std::size_t index = 0; index < small.size(); ++index) {
+        const Result& before = small[index];
+        const Result& after = large[index];
+        if (before.unit != "ms") {
+            continue;
+        }
+        const double growth = after.value / before.value;
+        const double rows = static_cast<double>(after.rows) / static_cast<double>(before.rows);
+        print({"cost_growth." + before.name, growth / rows, "of linear", after.rows});
+    }
+}
+
+}  // namespace vantrell::bench
