@@ -1,4 +1,4 @@
-#include "EngineFixture.h"
+#include "testing/EngineFixture.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "EngineFixture.h"
+#include "testing/EngineFixture.h"
 #include "testing/FaultyVfs.h"
 
 #include <gtest/gtest.h>

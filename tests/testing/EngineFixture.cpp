@@ -1,4 +1,4 @@
-#include "EngineFixture.h"
+#include "testing/EngineFixture.h"
 
 #include <QUrl>
 #include <QUrlQuery>

@@ -26,6 +26,8 @@ class EngineFixture {
 
     SyncEngine& engine() { return *engine_; }
     ModelContext& context() { return *context_; }
+    [[nodiscard]] const Locale& locale() const { return locale_; }
+    TaskScope& tasks() { return tasks_; }
     void run(QCoro::Task<> task);
 
     /// The engine goes away as at the end of the program; the store stays.

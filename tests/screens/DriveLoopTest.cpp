@@ -1,0 +1,95 @@
+#include "screens/DriveLoop.h"
+#include "testing/EngineFixture.h"
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+namespace vantrell {
+namespace {
+
+using testing::EngineFixture;
+
+/// A window's drive loop over an engine whose runs answer at once.
+class DriveLoopTest : public ::testing::Test {
+  protected:
+    DriveLoopTest() {
+        fixture.store(ReportFrequency::daily, "2026-11-21", ReportStatus::ok);
+        fixture.clock.autoAdvance = false;
+        loop = std::make_unique<DriveLoop>(
+            DriveLoop::Parts{fixture.engine(), store, fixture.context(), fixture.clock, fixture.tasks()});
+    }
+    // The loop ends its wait; what an engine still does ends with the engine.
+    ~DriveLoopTest() override {
+        loop.reset();
+        fixture.destroyEngine();
+    }
+
+    // Runs begun since the last call: each asks for the same first day.
+    std::size_t runsBegun() {
+        const auto requests = fixture.takeRequests();
+        return static_cast<std::size_t>(std::ranges::count(requests, "DAILY 2026-11-20"));
+    }
+    std::int64_t reloads() {
+        const std::int64_t now = store.loadRevision();
+        return now - std::exchange(seen, now);
+    }
+
+    EngineFixture fixture;
+    ReportCalendar calendar{fixture.clock, fixture.localTime};
+    EarningsStore store{fixture.defaults, fixture.locale(), calendar};
+    std::unique_ptr<DriveLoop> loop;
+    std::int64_t seen = 0;
+};
+
+TEST_F(DriveLoopTest, ReadsAndRunsOnTheFirstAppearance) {
+    EXPECT_EQ(reloads(), 0);
+    loop->start();
+    EXPECT_GE(reloads(), 1);
+    EXPECT_EQ(runsBegun(), 1U);
+    EXPECT_TRUE(store.isLoaded());
+}
+
+TEST_F(DriveLoopTest, GoesRoundEvery900SecondsAndRunsEvery4Hours) {
+    loop->start();
+    fixture.clock.advance(std::chrono::seconds(899));
+    runsBegun();
+    reloads();
+    fixture.clock.advance(std::chrono::seconds(1));
+    EXPECT_EQ(reloads(), 1);
+    EXPECT_EQ(runsBegun(), 0U);
+    fixture.clock.advance(std::chrono::hours(4));
+    EXPECT_GE(reloads(), 16);
+    EXPECT_EQ(runsBegun(), 1U) << "the throttle lets one run through";
+}
+
+TEST_F(DriveLoopTest, ReadsAtEachActivationAndStartsAtMostOneRun) {
+    loop->start();
+    fixture.clock.advance(std::chrono::seconds(60));
+    runsBegun();
+    reloads();
+    for (int time = 0; time < 10; ++time) {
+        loop->becameActive();
+    }
+    EXPECT_EQ(reloads(), 10);
+    EXPECT_EQ(runsBegun(), 0U);
+}
+
+TEST_F(DriveLoopTest, ReadsAtEachNewRevisionOfTheEngine) {
+    fixture.engine().bumpRevision(true);
+    fixture.engine().bumpRevision(true);
+    EXPECT_EQ(reloads(), 2);
+}
+
+TEST_F(DriveLoopTest, EndsItsWaitWithTheWindow) {
+    loop->start();
+    fixture.clock.advance(std::chrono::seconds(60));
+    EXPECT_EQ(fixture.tasks().pending(), 1) << "the loop itself";
+    loop.reset();
+    EXPECT_EQ(fixture.tasks().pending(), 0);
+    fixture.engine().bumpRevision(true);
+    EXPECT_FALSE(fixture.requests().empty());
+}
+
+}  // namespace
+}  // namespace vantrell
