@@ -4,18 +4,23 @@
 #include "currency/CurrencyConverter.h"
 #include "data/ModelContext.h"
 #include "data/ReportStatus.h"
+#include "earnings/AppFigures.h"
 #include "earnings/AppFilter.h"
 #include "earnings/Catalog.h"
 #include "earnings/DayFigures.h"
 #include "earnings/FinanceSnapshot.h"
+#include "earnings/Payouts.h"
+#include "earnings/ProductFigures.h"
 #include "earnings/SalesSelection.h"
 #include "earnings/SalesSnapshot.h"
+#include "earnings/WindowSums.h"
 #include "platform/Defaults.h"
 #include "platform/Locale.h"
 
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -32,6 +37,7 @@ using DailyStatuses = std::map<std::string, ReportStatus, std::less<>>;
 /// mixes two frequencies for the same stretch of time:
 ///
 ///     a range of days, chart days, day table        daily reports in the range
+///     windows of tables                             daily reports since their first day
 ///     a finished month                              the monthly report
 ///     a year with an ok yearly report               the yearly report
 ///     a later year                                  its daily reports
@@ -96,6 +102,26 @@ class EarningsStore : public QObject {
     /// in the display currency.
     [[nodiscard]] bool lineItemOrder(const SalesRowLite& left, const SalesRowLite& right) const;
 
+    // The lists below put the largest first; equals stay in the order of the catalog (apps), of their
+    // identifiers (products) or of their codes (countries).
+
+    /// Every app of the catalog, also those without figures.
+    [[nodiscard]] std::vector<AppTableEntry> appTable() const;
+    /// The products of each app, its own paid downloads first. Products of no known app are left out.
+    [[nodiscard]] ProductWindows productWindows() const;
+    /// What each app earned in each year, by the frequencies of all time.
+    [[nodiscard]] YearMatrix yearMatrix() const;
+    /// The apps and products that were sold or refunded in all time.
+    [[nodiscard]] std::vector<ProductStat> productStats(const AppFilter& apps) const;
+    /// The countries that brought in most in all time, at most `limit`.
+    [[nodiscard]] std::vector<CountryStat> countryStats(const AppFilter& apps, std::size_t limit) const;
+
+    /// What was paid, newest fiscal period first.
+    [[nodiscard]] std::vector<FinancePeriodStat> financePeriods(const AppFilter& apps) const;
+    /// The apps that were ever paid for, in the order of the catalog. Lines of products that no sales report
+    /// showed belong to no app.
+    [[nodiscard]] std::vector<AppPayout> appPayouts() const;
+
   Q_SIGNALS:
     void salesRowsChanged();
     void financeRowsChanged();
@@ -121,8 +147,15 @@ class EarningsStore : public QObject {
     void reloadRates(ModelContext& context);
     void raiseLoadRevision();
 
+    /// What the tables show side by side: the last 30 and 365 days and the year to date, each with today, and
+    /// all time.
+    [[nodiscard]] WindowSelections windowRows() const;
+    /// What an all-time list is sorted by.
+    [[nodiscard]] double sortValue(const AggregateStats& stats) const;
     /// The greatest label of `yearlyOKLabels`: what a year must be after to count by its daily reports.
     [[nodiscard]] std::string lastYearlyLabel() const;
+    /// Whether what belongs to this Apple identifier is of one of the apps.
+    [[nodiscard]] bool passes(std::int64_t appleID, const std::set<std::int64_t>& apps) const;
     [[nodiscard]] ItemMask itemMask(const AppFilter& apps) const;
     [[nodiscard]] ReportStatus dailyStatus(const std::string& key) const;
 

@@ -1,5 +1,6 @@
 #include "calendar/DayKey.h"
 #include "earnings/EarningsStore.h"
+#include "earnings/LineValues.h"
 
 #include <algorithm>
 #include <map>
@@ -9,10 +10,6 @@
 
 namespace vantrell {
 namespace {
-
-bool isSold(ProductKind kind) {
-    return kind == ProductKind::app || kind == ProductKind::iap;
-}
 
 double convertedOrZero(const CurrencyConverter& converter, const SalesRowLite& row) {
     const auto converted = converter.convert(row.amount(), row.currency);
@@ -28,17 +25,16 @@ bool isSilent(const SalesRowLite& row) {
 
 std::vector<DayPoint> EarningsStore::dayPoints(const std::string& from, const std::string& to,
                                                const AppFilter& apps) const {
+    LineValues values(salesRows_, converter_);
     std::map<std::string_view, DayPoint> sums;
     dailyRows(from, to, apps).forEach([&](const SalesRowRef& row) {
         if (!isSold(row.item().kind)) {
             return;
         }
-        const auto converted = converter_.convert(row.amount(), row.currency());
-        if (!converted) {
-            return;
+        if (const auto value = values.value(row)) {
+            DayPoint& sum = sums[row.chunk().reportDate];
+            (*value < 0 ? sum.refunds : sum.proceeds) += *value;
         }
-        DayPoint& sum = sums[row.chunk().reportDate];
-        (converted->isNegative() ? sum.refunds : sum.proceeds) += converted->toDouble();
     });
     std::vector<DayPoint> points;
     for (const auto& [key, date] : days(from, to)) {
@@ -60,7 +56,7 @@ std::vector<DayTableRow> EarningsStore::dayTable(const std::string& from, const 
     for (const auto& [key, date] : days(from, to)) {
         const auto sum = sums.find(key);
         table.push_back({key, date, dailyStatus(key),
-                         sum == sums.end() ? AggregateStats() : sum->second.stats(salesRows_.texts())});
+                         sum == sums.end() ? AggregateStats() : sum->second.stats(salesRows_.currencies())});
     }
     std::ranges::reverse(table);
     return table;

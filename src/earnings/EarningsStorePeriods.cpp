@@ -39,7 +39,7 @@ std::vector<PeriodStat> EarningsStore::yearStats(const AppFilter& apps) const {
     for (const auto& [year, sum] : sums) {
         years.push_back({std::string(year),
                          year == thisYear ? "From daily reports · YTD" : "From daily reports",
-                         sum.stats(salesRows_.texts())});
+                         sum.stats(salesRows_.currencies())});
     }
     std::erase_if(years, [](const PeriodStat& year) { return year.stats.isEmpty(); });
     std::ranges::stable_sort(years, std::ranges::greater(), &PeriodStat::label);

@@ -23,8 +23,20 @@ SalesSelection EarningsStore::reportRows(ReportFrequency frequency, const std::s
     return {salesRows_, {salesRows_.span(frequency, reportDate, reportDate)}, itemMask(apps)};
 }
 
+WindowSelections EarningsStore::windowRows() const {
+    constexpr int month = 30;
+    constexpr int year = 365;
+    return {dailyRows(calendar_.dayKey(month), {}, {}), dailyRows(calendar_.dayKey(year), {}, {}),
+            dailyRows(calendar_.currentYearLabel() + "-01-01", {}, {}), allTimeRows({})};
+}
+
 std::string EarningsStore::lastYearlyLabel() const {
     return yearlyOKLabels_.empty() ? std::string() : yearlyOKLabels_.back();
+}
+
+bool EarningsStore::passes(std::int64_t appleID, const std::set<std::int64_t>& apps) const {
+    const auto owner = catalog_.owningApp(appleID);
+    return owner && apps.contains(*owner);
 }
 
 ItemMask EarningsStore::itemMask(const AppFilter& apps) const {
@@ -34,8 +46,7 @@ ItemMask EarningsStore::itemMask(const AppFilter& apps) const {
     auto mask = std::make_shared<std::vector<bool>>();
     mask->reserve(salesRows_.items().size());
     for (const SalesItem& item : salesRows_.items()) {
-        const auto owner = catalog_.owningApp(item.appleID);
-        mask->push_back(owner && apps->contains(*owner));
+        mask->push_back(passes(item.appleID, *apps));
     }
     return mask;
 }

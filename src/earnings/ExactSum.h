@@ -42,6 +42,12 @@ class ExactSum {
         }
     }
 
+    void add(const ExactSum& other) {
+        scaled_ += other.scaled_;
+        rest_ += other.rest_;
+        touched_ = touched_ || other.touched_;
+    }
+
     [[nodiscard]] bool isTouched() const { return touched_; }
     [[nodiscard]] Decimal total() const;
 

@@ -11,6 +11,11 @@ enum class ProductKind { app, iap, update, redownload, other };
 /// surrounding white space don't matter.
 [[nodiscard]] ProductKind productKind(std::string_view productType);
 
+/// Whether lines of this kind are sales and refunds of something, which is what money figures are made of.
+[[nodiscard]] constexpr bool isSold(ProductKind kind) {
+    return kind == ProductKind::app || kind == ProductKind::iap;
+}
+
 /// True for product types of subscriptions, as they stand in the report.
 [[nodiscard]] bool isSubscriptionType(std::string_view productType);
 

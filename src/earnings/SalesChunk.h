@@ -28,7 +28,7 @@ struct SalesItem {
 /// What the lines at one price share.
 struct SalesPrice {
     ScaledPrice proceeds;        ///< per unit
-    std::uint32_t currency = 0;  ///< of the proceeds, as a number of the snapshot's pool
+    std::uint32_t currency = 0;  ///< of the proceeds, as a number of the snapshot's currencies
     Decimal customerPrice;
     std::string_view customerCurrency;
 };

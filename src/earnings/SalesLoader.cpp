@@ -101,7 +101,7 @@ std::uint32_t SalesLoader::price(const SalesFigures& line, const TextDictionary&
     const auto [known, isNew] = priceNumbers_.try_emplace(key, static_cast<std::uint32_t>(prices_.size()));
     if (isNew) {
         prices_.push_back({.proceeds = ScaledPrice(line.proceedsPerUnit),
-                           .currency = text(line.proceedsCurrency, dictionary),
+                           .currency = currencies_.intern(dictionary.text(line.proceedsCurrency)),
                            .customerPrice = line.customerPrice,
                            .customerCurrency = texts_.text(text(line.customerCurrency, dictionary))});
     }

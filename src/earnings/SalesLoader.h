@@ -17,8 +17,9 @@ namespace vantrell {
 /// has become. Belongs to one store: the numbers of its dictionary are taken as keys.
 class SalesLoader {
   public:
-    SalesLoader(TextPool& texts, std::vector<SalesItem>& items, std::vector<SalesPrice>& prices)
-        : texts_(texts), items_(items), prices_(prices) {}
+    SalesLoader(TextPool& texts, TextPool& currencies, std::vector<SalesItem>& items,
+                std::vector<SalesPrice>& prices)
+        : texts_(texts), currencies_(currencies), items_(items), prices_(prices) {}
 
     /// Throws SqliteError if the lines can't be read.
     [[nodiscard]] std::shared_ptr<const SalesChunk> chunk(ModelContext& context, const LineBatch& batch);
@@ -47,6 +48,7 @@ class SalesLoader {
     std::uint32_t text(TextID id, const TextDictionary& dictionary);
 
     TextPool& texts_;
+    TextPool& currencies_;
     std::vector<SalesItem>& items_;
     std::vector<SalesPrice>& prices_;
     std::unordered_map<ItemKey, std::uint32_t, Hash> itemNumbers_;

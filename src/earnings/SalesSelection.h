@@ -17,11 +17,12 @@ struct SalesRowRef {
     std::size_t index;
 
     [[nodiscard]] const SalesChunk& chunk() const { return *snapshot->chunks()[chunkNumber]; }
-    [[nodiscard]] const SalesItem& item() const { return snapshot->items()[chunk().items[index]]; }
+    [[nodiscard]] std::uint32_t itemNumber() const { return chunk().items[index]; }
+    [[nodiscard]] const SalesItem& item() const { return snapshot->items()[itemNumber()]; }
     [[nodiscard]] const SalesPrice& price() const { return snapshot->prices()[chunk().prices[index]]; }
     [[nodiscard]] std::int64_t units() const { return chunk().unitsOf(index); }
     [[nodiscard]] Decimal amount() const { return Decimal(units()) * price().proceeds.value(); }
-    [[nodiscard]] std::string_view currency() const { return snapshot->texts().text(price().currency); }
+    [[nodiscard]] std::string_view currency() const { return snapshot->currencies().text(price().currency); }
     void addTo(StatsAccumulator& sum) const {
         sum.add(item().kind, units(), price().proceeds, price().currency);
     }
@@ -50,6 +51,10 @@ class SalesSelection {
             }
         }
     }
+
+    /// Whether the report with this number of a chunk is among them; which of its lines pass is another
+    /// matter.
+    [[nodiscard]] bool containsReport(std::size_t chunk) const;
 
     [[nodiscard]] std::vector<SalesRowLite> rows() const;
     /// All lines added up.

@@ -71,7 +71,7 @@ SalesRowLite SalesSnapshot::row(std::size_t chunk, std::size_t index) const {
             .productType = item.productType,
             .units = report.unitsOf(index),
             .proceedsPerUnit = price.proceeds.value(),
-            .currency = texts_.text(price.currency),
+            .currency = currencies_.text(price.currency),
             .customerPrice = price.customerPrice,
             .customerCurrency = price.customerCurrency,
             .country = texts_.text(report.countries[index])};

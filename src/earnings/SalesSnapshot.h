@@ -40,6 +40,8 @@ class SalesSnapshot {
     [[nodiscard]] const std::vector<SalesItem>& items() const { return items_; }
     [[nodiscard]] const std::vector<SalesPrice>& prices() const { return prices_; }
     [[nodiscard]] const TextPool& texts() const { return texts_; }
+    /// The currencies of proceeds, in a pool of their own, so that their numbers are few and small.
+    [[nodiscard]] const TextPool& currencies() const { return currencies_; }
 
     /// Consecutive chunks, by their numbers.
     struct Span {
@@ -59,13 +61,14 @@ class SalesSnapshot {
 
   private:
     TextPool texts_;
+    TextPool currencies_;
     std::vector<SalesItem> items_;
     std::vector<SalesPrice> prices_;
     std::vector<std::shared_ptr<const SalesChunk>> chunks_;
     std::vector<std::uint64_t> firstRow_;  // number of each chunk's first row
     std::size_t size_ = 0;
     std::int64_t load_ = 0;
-    SalesLoader loader_{texts_, items_, prices_};
+    SalesLoader loader_{texts_, currencies_, items_, prices_};
 };
 
 }  // namespace vantrell

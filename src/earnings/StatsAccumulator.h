@@ -34,7 +34,10 @@ class StatsAccumulator {
         sums_[currency].add(units, price);
     }
 
-    [[nodiscard]] AggregateStats stats(const TextPool& texts) const;
+    /// Adds all that another one has counted, whose currencies are of the same pool.
+    void add(const StatsAccumulator& other);
+
+    [[nodiscard]] AggregateStats stats(const TextPool& currencies) const;
 
   private:
     void addUnits(ProductKind kind, std::int64_t units);

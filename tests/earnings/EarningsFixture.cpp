@@ -26,6 +26,18 @@ ParsedSalesRow row(const Line& line, Instant date) {
     return row;
 }
 
+ParsedFinanceRow row(const Payment& payment) {
+    ParsedFinanceRow row;
+    row.appleID = payment.appleID;
+    row.quantity = payment.quantity;
+    row.extendedPartnerShare = *Decimal::parse(payment.share);
+    row.partnerShareCurrency = payment.currency;
+    row.saleOrReturn = payment.saleOrReturn;
+    row.startDate = payment.start.empty() ? distantPast : firstDay(payment.start);
+    row.endDate = payment.end.empty() ? distantPast : firstDay(payment.end);
+    return row;
+}
+
 }  // namespace
 
 EarningsFixture::EarningsFixture(const std::string& vfs) : context_(file_.open(vfs)), earnings_(another()) {}
@@ -53,6 +65,19 @@ void EarningsFixture::report(ReportFrequency frequency, const std::string& date,
     }
 }
 
+void EarningsFixture::payments(const std::string& fiscalPeriod, const std::vector<Payment>& lines,
+                               ReportStatus status) {
+    std::vector<ParsedFinanceRow> rows;
+    for (const Payment& line : lines) {
+        rows.push_back(row(line));
+    }
+    context_->replaceFinanceRows("ZZ", fiscalPeriod, rows);
+    FinanceReport record;
+    record.fiscalPeriod = fiscalPeriod;
+    record.setStatus(status);
+    context_->financeReports().insert(record);
+}
+
 void EarningsFixture::rates(const Rates& rates) {
     context_->rateSets().insert({.fetchedAt = clock.now(), .rates = rates});
 }
@@ -63,9 +88,9 @@ EarningsStore& EarningsFixture::reload() {
     return *earnings_;
 }
 
-std::string money(const AggregateStats& stats) {
+std::string money(const AmountsByCurrency& amounts) {
     std::string text;
-    for (const auto& [code, amount] : stats.proceedsByCurrency) {
+    for (const auto& [code, amount] : amounts) {
         text += (text.empty() ? "" : ", ") + code + " " + amount.text();
     }
     return text;

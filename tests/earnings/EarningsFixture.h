@@ -26,6 +26,17 @@ struct Line {
     std::string country = "US";
 };
 
+/// A stored finance line in short, with dates as day keys and "" for none.
+struct Payment {
+    std::int64_t appleID = 1;
+    std::int64_t quantity = 1;
+    std::string share = "1";  ///< of the whole line
+    std::string currency = "USD";
+    std::string saleOrReturn = "S";
+    std::string start;
+    std::string end;
+};
+
 /// An EarningsStore over a real store, on 22 November 2026 at noon UTC in Berlin, in US dollars.
 class EarningsFixture {
   public:
@@ -40,6 +51,9 @@ class EarningsFixture {
     void daily(const std::string& date, const std::vector<Line>& lines) {
         report(ReportFrequency::daily, date, lines);
     }
+    /// Likewise a finance report.
+    void payments(const std::string& fiscalPeriod, const std::vector<Payment>& lines,
+                  ReportStatus status = ReportStatus::ok);
     void rates(const Rates& rates);
     /// Saves and reloads.
     EarningsStore& reload();
@@ -59,6 +73,9 @@ class EarningsFixture {
 };
 
 /// Amounts of a figure as "EUR 1.5, USD -2", and "" for none.
-[[nodiscard]] std::string money(const AggregateStats& stats);
+[[nodiscard]] std::string money(const AmountsByCurrency& amounts);
+[[nodiscard]] inline std::string money(const AggregateStats& stats) {
+    return money(stats.proceedsByCurrency);
+}
 
 }  // namespace vantrell::testing
