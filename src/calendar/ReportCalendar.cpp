@@ -9,7 +9,11 @@ ReportCalendar::ReportCalendar(const Clock& clock, const LocalTime& localTime)
     : clock_(&clock), localTime_(&localTime), pacific_(TimeZone::named("America/Los_Angeles")) {}
 
 CivilDate ReportCalendar::today() const {
-    return localTime_->zone().dateAt(clock_->now());
+    return dateAt(clock_->now());
+}
+
+CivilDate ReportCalendar::dateAt(Instant instant) const {
+    return localTime_->zone().dateAt(instant);
 }
 
 std::optional<CivilDate> ReportCalendar::dateDaysAgo(int days) const {

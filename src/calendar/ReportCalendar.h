@@ -18,6 +18,8 @@ class ReportCalendar {
     ReportCalendar(const Clock& clock, const LocalTime& localTime);
 
     [[nodiscard]] CivilDate today() const;
+    /// The day that the user's calendar shows at `instant`.
+    [[nodiscard]] CivilDate dateAt(Instant instant) const;
     /// Absent where the calendar has no such day.
     [[nodiscard]] std::optional<CivilDate> dateDaysAgo(int days) const;
     /// Today's day in an earlier month, or that month's last day. Absent as above.
