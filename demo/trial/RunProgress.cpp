@@ -11,8 +11,11 @@ std::string kindOf(const std::string& text) {
 }  // namespace
 
 RunProgress::RunProgress(const SyncEngine& engine, std::ostream& output) : engine_(engine), output_(output) {
-    connect(&engine, &SyncEngine::progressTextChanged, this, [this] { progressChanged(); });
-    connect(&engine, &SyncEngine::progressFractionChanged, this, [this] { progressChanged(); });
+    // Queued, since text and fraction change one after the other.
+    connect(&engine, &SyncEngine::progressTextChanged, this, &RunProgress::progressChanged,
+            Qt::QueuedConnection);
+    connect(&engine, &SyncEngine::progressFractionChanged, this, &RunProgress::progressChanged,
+            Qt::QueuedConnection);
 }
 
 void RunProgress::progressChanged() {
