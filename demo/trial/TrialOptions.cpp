@@ -101,6 +101,11 @@ std::map<std::string, Reader> readers(TrialOptions& options) {
                  options.data = value;
                  return std::nullopt;
              }},
+            {"--export",
+             [&options](const std::string& value) -> Problem {
+                 options.exports = value;
+                 return std::nullopt;
+             }},
             {"--do", [&options](const std::string& value) { return readDo(value, options); }},
             {"--currency", [&options](const std::string& value) { return readCurrency(value, options); }},
             {"--pause", [&options](const std::string& value) { return readPause(value, options); }}};
@@ -124,22 +129,23 @@ std::variant<TrialOptions, UsageError> parseTrialOptions(const std::vector<std::
         if (std::next(argument) == arguments.end()) {
             return UsageError{*argument + " needs a value"};
         }
-        once = once || *argument == "--do";
+        once = once || *argument == "--do" || *argument == "--export";
         if (auto problem = reader->second(*++argument)) {
             return *problem;
         }
     }
     if (!once) {
-        return UsageError{"the window isn't there yet: give --once or --do"};
+        return UsageError{"the window isn't there yet: give --once, --do or --export"};
     }
     return options;
 }
 
 std::string trialUsage() {
-    return "vantrell-demo --once | --do WHAT  [option ...]\n"
+    return "vantrell-demo --once | --do WHAT | --export DIR  [option ...]\n"
            "  --once              one automatic run, without a window\n"
            "  --do WHAT           another operation in its place: sync, backfill, day=YYYY-MM-DD,\n"
            "                      month=TEXT, finance=PERIOD, rates, test\n"
+           "  --export DIR        after the run write the five CSV exports into DIR; implies --once\n"
            "  --service ORIGIN    a service in place of the built-in sample service\n"
            "  --key FILE          the key to sign with; without it a fresh one\n"
            "  --data DIR          a folder that is kept between runs; without it a temporary one\n"

@@ -36,6 +36,7 @@ struct TrialOptions {
     std::optional<std::filesystem::path> data;
     TrialOperation operation;
     std::optional<std::string> currency;
+    std::optional<std::filesystem::path> exports;  ///< the folder to write the CSV files to, if any
     std::chrono::microseconds pause = std::chrono::milliseconds(150);
 };
 

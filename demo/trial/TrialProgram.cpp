@@ -10,6 +10,7 @@
 #include "platform/SystemClock.h"
 #include "reports/APIToken.h"
 #include "sample/SampleService.h"
+#include "trial/ExportFiles.h"
 #include "trial/RunProgress.h"
 #include "trial/RunSummary.h"
 
@@ -119,6 +120,16 @@ std::string onOneLine(std::string text) {
     return text;
 }
 
+bool exported(const EarningsStore& store, const fs::path& folder, std::ostream& output,
+              std::ostream& errors) {
+    if (const auto problem = writeExports(store, folder)) {
+        errors << onOneLine(*problem) << std::endl;
+        return false;
+    }
+    output << "The exports are in " << folder.string() << std::endl;
+    return true;
+}
+
 }  // namespace
 
 TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostream& errors) {
@@ -142,11 +153,12 @@ TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostrea
         writeRunSummary(app, surroundings.locale(), output);
         output << "\nThe store is " << storeFile.string() << std::endl;
     }
+    const bool isWritten = !options.exports || exported(app.store(), *options.exports, output, errors);
     if (const auto error = app.engine().lastError()) {
         errors << onOneLine(*error) << std::endl;
         return TrialEnd::runFailed;
     }
-    return TrialEnd::done;
+    return isWritten ? TrialEnd::done : TrialEnd::notWritten;
 }
 
 }  // namespace vantrell

@@ -16,7 +16,8 @@ enum class TrialEnd {
 };
 
 /// Runs one operation without a window: progress and, as the last line, what went wrong on `errors`; reports
-/// by status and the headline figures on `output`.
+/// by status and the headline figures on `output`. Exports are written after a run that failed as well; if
+/// these fail too, the run's failure is what the end and the last line tell, and theirs stands before it.
 [[nodiscard]] TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostream& errors);
 
 }  // namespace vantrell

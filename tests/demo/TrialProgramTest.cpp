@@ -6,6 +6,7 @@
 #include "sample/ReportPeriods.h"
 #include "sample/SampleService.h"
 #include "sample/SampleTotals.h"
+#include "testing/Golden.h"
 #include "testing/TemporaryFolder.h"
 #include "trial/TrialProgram.h"
 
@@ -25,8 +26,10 @@ using testing::TemporaryFolder;
 /// against it over one folder.
 class Trial {
   public:
-    TrialEnd run(TrialOperation operation = DoAutomaticRun()) {
+    TrialEnd run(TrialOperation operation = DoAutomaticRun(),
+                 const std::optional<std::filesystem::path>& exports = std::nullopt) {
         TrialOptions options;
+        options.exports = exports;
         options.service = service_.origin();
         options.key = keys_.privatePEM;
         options.data = folder_.path();
@@ -203,6 +206,21 @@ TEST(TrialProgram, SaysInItsExitCodeAndLastLineWhatWentWrong) {
     EXPECT_EQ(trial.errors(), "Could not create the model container: file is not a database\n");
 }
 
+TEST(TrialProgram, WritesItsExportsAlsoAfterARunThatFailed) {
+    Trial trial;
+    const TemporaryFolder target;
+    EXPECT_EQ(trial.run(DoRates(), target / "new/csv"), TrialEnd::done) << trial.errors();
+    EXPECT_EQ(testing::filesIn(target / "new/csv", ".csv").size(), 5U);
+    EXPECT_TRUE(testing::fileText(target / "new/csv/vantrell-years.csv").ends_with("proceeds_by_currency\n"));
+    EXPECT_EQ(trial.run(DoMonth{"August"}, target / "failed"), TrialEnd::runFailed);
+    EXPECT_EQ(testing::filesIn(target / "failed", ".csv").size(), 5U);
+    std::ofstream(target / "file") << "in the way";
+    EXPECT_EQ(trial.run(DoRates(), target / "file"), TrialEnd::notWritten);
+    EXPECT_NE(trial.errors().find(target / "file"), std::string::npos) << trial.errors();
+    EXPECT_EQ(trial.run(DoMonth{"August"}, target / "file"), TrialEnd::runFailed);
+    EXPECT_TRUE(trial.errors().ends_with("\nUse a month like 2026-08.\n")) << trial.errors();
+}
+
 TEST(TrialProgram, DoesNotRunWithAnEmptyKey) {
     TemporaryFolder folder;
     std::ofstream(folder / "empty.p8").flush();
@@ -219,6 +237,7 @@ TEST(TrialOptions, RefuseWhatTheyCanNotUnderstand) {
     const std::vector<std::vector<std::string>> wrong = {
         {"--onse"},
         {"--once", "--data"},
+        {"--export"},
         {"--once", "--pause", "-1"},
         {"--once", "--pause", "soon"},
         {"--once", "--currency", "euro"},

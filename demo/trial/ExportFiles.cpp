@@ -1,0 +1,20 @@
+#include "trial/ExportFiles.h"
+
+#include "earnings/Exports.h"
+#include "platform/AtomicFile.h"
+
+namespace vantrell {
+
+std::optional<std::string> writeExports(const EarningsStore& store, const std::filesystem::path& folder) {
+    std::optional<std::string> firstProblem;
+    for (const ExportKind kind : exportKinds) {
+        const auto file = folder / (std::string(exportFileName(kind)) + ".csv");
+        auto problem = writeAtomically(file, exportText(store, kind));
+        if (problem && !firstProblem) {
+            firstProblem = std::move(problem);
+        }
+    }
+    return firstProblem;
+}
+
+}  // namespace vantrell
