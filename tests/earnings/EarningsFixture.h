@@ -44,6 +44,7 @@ class EarningsFixture {
 
     EarningsStore& store() { return *earnings_; }
     ModelContext& context() { return *context_; }
+    [[nodiscard]] std::filesystem::path file() const { return file_.file(); }
 
     /// Puts a report with these lines and status ok into the store, in place of what was there.
     void report(ReportFrequency frequency, const std::string& date, const std::vector<Line>& lines,

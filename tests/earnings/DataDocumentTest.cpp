@@ -1,0 +1,98 @@
+#include "EarningsFixture.h"
+#include "earnings/Exports.h"
+#include "platform/Sqlite.h"
+
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+namespace vantrell {
+namespace {
+
+using testing::EarningsFixture;
+
+// The queries that docs/data.md shows: indented blocks, each ended by a semicolon.
+std::vector<std::string> documentedQueries() {
+    std::ifstream document(VANTRELL_DOCS "/data.md");
+    std::vector<std::string> queries;
+    std::string query;
+    for (std::string line; std::getline(document, line);) {
+        query = line.starts_with("    ") ? query + line + "\n" : "";
+        if (query.ends_with(";\n")) {
+            queries.push_back(query);
+        }
+    }
+    return queries;
+}
+
+/// The answers to a query, "EUR 1.5; USD -2" by the value of the first column, or the second column as it is.
+std::map<std::string, std::string> answers(const std::filesystem::path& file, const std::string& query,
+                                           bool isMoney) {
+    SqliteDatabase database(file, SqliteDatabase::Mode::peek);
+    std::map<std::string, std::string> result;
+    auto rows = database.prepare(query);
+    while (rows.step()) {
+        std::string& text = result[std::string(rows.text(0))];
+        const std::string value(rows.text(1));
+        text += text.empty() ? "" : "; ";
+        text += isMoney ? value + " " + Decimal::scaled(rows.integer(2), -6).text() : value;
+    }
+    return result;
+}
+
+/// One column of a CSV text by the value of the first, without the records where it is empty. The text has no
+/// quoted fields.
+std::map<std::string, std::string> column(const std::string& csv, const std::string& name) {
+    const auto cells = [](const std::string& line) {
+        std::vector<std::string> result;
+        std::istringstream stream(line + ",");
+        for (std::string cell; std::getline(stream, cell, ',');) {
+            result.push_back(cell);
+        }
+        return result;
+    };
+    std::istringstream stream(csv);
+    std::string line;
+    std::getline(stream, line);
+    const auto header = cells(line);
+    const auto index = static_cast<std::size_t>(std::ranges::find(header, name) - header.begin());
+    std::map<std::string, std::string> result;
+    while (std::getline(stream, line)) {
+        const auto fields = cells(line);
+        if (!fields.at(index).empty() && fields[index] != "missing") {
+            result[fields.front()] = fields[index];
+        }
+    }
+    return result;
+}
+
+TEST(DataDocument, ShowsQueriesThatAgreeWithTheExports) {
+    EarningsFixture fixture;
+    fixture.daily("2026-11-20", {{.units = 3, .proceeds = "1.4", .currency = "EUR"},
+                                 {.units = -1, .proceeds = "0.333333", .currency = "EUR"},
+                                 {.units = 2, .proceeds = "120", .currency = "JPY"},
+                                 {.productType = "7", .units = 9},
+                                 {.proceeds = "0", .currency = ""}});
+    fixture.daily("2026-11-19", {{.units = -5, .proceeds = "0.07"}});
+    fixture.report(ReportFrequency::daily, "2026-11-18", {}, ReportStatus::empty);
+    fixture.report(ReportFrequency::monthly, "2026-10", {{.units = 100}});
+    ParsedFinanceRow paid{.extendedPartnerShare = *Decimal::parse("12.5"), .partnerShareCurrency = "EUR"};
+    ParsedFinanceRow returned{.extendedPartnerShare = *Decimal::parse("-0.7"), .partnerShareCurrency = "EUR"};
+    ParsedFinanceRow yen{.extendedPartnerShare = Decimal(980), .partnerShareCurrency = "JPY"};
+    fixture.context().replaceFinanceRows("ZZ", "2026-12", {paid, returned, yen});
+    fixture.context().replaceFinanceRows("ZZ", "2027-01", {paid});
+    EarningsStore& store = fixture.reload();
+    const auto queries = documentedQueries();
+    ASSERT_EQ(queries.size(), 3U);
+    const std::string days = exportText(store, ExportKind::days);
+    EXPECT_EQ(answers(fixture.file(), queries[0], true), column(days, "proceeds_by_currency"));
+    EXPECT_EQ(answers(fixture.file(), queries[1], true),
+              column(exportText(store, ExportKind::payouts), "paid_by_currency"));
+    EXPECT_EQ(answers(fixture.file(), queries[2], false), column(days, "report_status"));
+    EXPECT_EQ(column(days, "proceeds_by_currency").at("2026-11-20"), "EUR 3.866667; JPY 240");
+}
+
+}  // namespace
+}  // namespace vantrell
