@@ -73,6 +73,7 @@ std::string shownTitle(const Seen& seen) {
 template <typename Info>
 std::vector<Info> sortedByTitle(const std::map<std::int64_t, Info>& infos, const Locale& locale) {
     std::vector<Info> sorted;
+    sorted.reserve(infos.size());
     for (const auto& [id, info] : infos) {
         sorted.push_back(info);
     }

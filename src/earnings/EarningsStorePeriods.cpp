@@ -28,6 +28,7 @@ std::vector<PeriodStat> EarningsStore::monthStats(const AppFilter& apps) const {
 
 std::vector<PeriodStat> EarningsStore::yearStats(const AppFilter& apps) const {
     std::vector<PeriodStat> years;
+    years.reserve(yearlyOKLabels_.size());
     for (const std::string& label : yearlyOKLabels_) {
         years.push_back(
             {label, "Yearly report", reportRows(ReportFrequency::yearly, label, apps).aggregate()});
