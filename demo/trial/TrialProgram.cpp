@@ -151,7 +151,7 @@ TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostrea
     app.store().reload(app.context());
     if (!std::holds_alternative<DoTest>(options.operation)) {
         writeRunSummary(app, surroundings.locale(), output);
-        output << "\nThe store is " << storeFile.string() << std::endl;
+        output << "\nThe store is " << fs::absolute(storeFile).string() << std::endl;
     }
     const bool isWritten = !options.exports || exported(app.store(), *options.exports, output, errors);
     if (const auto error = app.engine().lastError()) {
