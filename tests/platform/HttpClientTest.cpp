@@ -15,6 +15,7 @@ namespace {
 using std::chrono::milliseconds;
 using ::testing::AllOf;
 using ::testing::Each;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
@@ -50,16 +51,11 @@ void spinUntil(const std::function<bool()>& happened) {
     ASSERT_TRUE(happened());
 }
 
-RawServer::Answer dripping(const std::string& start, const std::string& drop, milliseconds pause, int drops) {
-    return [=](QTcpSocket& socket) {
-        socket.write(start.data(), static_cast<qint64>(start.size()));
+RawServer::Answer dripping(const std::string& head, milliseconds pause) {
+    return [head, pause](QTcpSocket& socket) {
+        sending(head)(socket);
         auto* timer = new QTimer(&socket);
-        QObject::connect(timer, &QTimer::timeout, &socket, [=, &socket, left = drops]() mutable {
-            socket.write(drop.data(), static_cast<qint64>(drop.size()));
-            if (--left == 0) {
-                timer->stop();
-            }
-        });
+        QObject::connect(timer, &QTimer::timeout, &socket, [&socket] { socket.write("x"); });
         timer->start(pause);
     };
 }
@@ -77,8 +73,7 @@ TEST(HttpClient, HandsBackEveryAnswerAsItWasSent) {
          200, "hello"},
         {"packed", "HTTP/1.1 200 OK\r\nContent-Encoding: gzip\r\nContent-Length: 4\r\n\r\n\x1f\x8b\x08\x01",
          200, "\x1f\x8b\x08\x01"},
-        {"longer than announced", "HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nhello", 200, "hel"},
-        {"no content", "HTTP/1.1 204 No Content\r\nContent-Length: 7\r\n\r\n", 204, ""},
+        {"gone", "HTTP/1.1 410 Gone\r\nContent-Length: 5\r\n\r\nhello", 410, "hello"},
         {"a challenge",
          "HTTP/1.1 401 No\r\nWWW-Authenticate: Basic realm=\"x\"\r\nContent-Length: 5\r\n\r\nhello", 401,
          "hello"},
@@ -88,14 +83,6 @@ TEST(HttpClient, HandsBackEveryAnswerAsItWasSent) {
         auto request = requestTo(server);
         request.maxBodyBytes = request.maxErrorBodyBytes = 5;
         EXPECT_EQ(fetch(request), HttpResult(HttpResponse{status, body})) << name;
-    }
-}
-
-TEST(HttpClient, HandsBackEveryStatusWithItsBody) {
-    for (const int status : {300, 304, 400, 401, 403, 404, 409, 410, 418, 429, 500, 502, 503, 599}) {
-        RawServer server(
-            sending("HTTP/1.1 " + std::to_string(status) + " Other\r\nContent-Length: 5\r\n\r\nhello"));
-        EXPECT_EQ(fetch(requestTo(server)), HttpResult(HttpResponse{status, status == 304 ? "" : "hello"}));
     }
 }
 
@@ -111,10 +98,8 @@ TEST(HttpClient, SaysWhyThereIsNoAnswerWithoutTheAddress) {
     } cases[] = {
         {"closes at once", sendingAndClosing(""), ended},
         {"resets", [](QTcpSocket& socket) { socket.abort(); }, ended},
-        {"breaks off in the head", sendingAndClosing(ok + "Content-Le"), ended},
         {"shorter than announced", sendingAndClosing(ok + "Content-Length: 5\r\n\r\nhell"), ended},
         {"another protocol", sendingAndClosing("SSH-2.0-Server_9\r\n"), ended},
-        {"no length", sendingAndClosing(ok + "Content-Length: many\r\n\r\nhello"), unclear},
         {"two lengths", sending(ok + "Content-Length: 3\r\nContent-Length: 5\r\n\r\nhello"), unclear},
         {"announced too large", sending(ok + "Content-Length: 6\r\n\r\n"), tooLarge},
         {"too large", sending(ok + "\r\nhello!"), tooLarge},
@@ -132,8 +117,7 @@ TEST(HttpClient, SaysWhyThereIsNoAnswerWithoutTheAddress) {
 }
 
 TEST(HttpClient, DoesNotWaitLongForASilentServer) {
-    const std::string head = "HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\n";
-    for (const auto& sent : {std::string(), head.substr(0, 20), head, head + "hello"}) {
+    for (const auto* sent : {"", "HTTP/1.1 200 O", "HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nhello"}) {
         RawServer server(sending(sent));
         auto request = requestTo(server);
         request.idleTimeout = milliseconds{60};
@@ -141,16 +125,14 @@ TEST(HttpClient, DoesNotWaitLongForASilentServer) {
     }
 }
 
-TEST(HttpClient, BearsASlowServerThatIsNeverSilentForLong) {
-    RawServer server(dripping("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\n", "x", milliseconds{60}, 5));
-    auto request = requestTo(server);
+TEST(HttpClient, BearsASlowServerUntilItHasTakenTooLong) {
+    RawServer slow(dripping("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\n", milliseconds{60}));
+    auto request = requestTo(slow);
     request.idleTimeout = milliseconds{250};
     EXPECT_EQ(fetch(request), HttpResult(HttpResponse{200, "xxxxx"}));
-}
 
-TEST(HttpClient, EndsAnAnswerThatDripsForEver) {
-    RawServer server(dripping("HTTP/1.1 200 OK\r\n\r\n", "x", milliseconds{5}, 1'000'000));
-    auto request = requestTo(server);
+    RawServer endless(dripping("HTTP/1.1 200 OK\r\n\r\n", milliseconds{5}));
+    request = requestTo(endless);
     request.totalTimeout = milliseconds{150};
     EXPECT_EQ(failureOf(fetch(request)), "The server took too long to send its answer.");
 }
@@ -160,16 +142,14 @@ TEST(HttpClient, SendsWhatItIsGivenAndNothingThatItWasToldBefore) {
         sending("HTTP/1.1 200 OK\r\nSet-Cookie: id=1\r\nETag: \"1\"\r\nCache-Control: max-age=900\r\n"
                 "Content-Length: 5\r\n\r\nhello"));
     auto request = requestTo(server);
-    request.headers = {{"Authorization", "Bearer token"}, {"Accept", "application/a-gzip, application/json"}};
+    request.headers = {{"Authorization", "Bearer token"}};
     QtHttpClient client;
     for (int round = 0; round < 2; ++round) {
         EXPECT_EQ(QCoro::waitFor(client.get(request, {})), HttpResult(HttpResponse{200, "hello"}));
     }
-    EXPECT_THAT(server.requests, SizeIs(2));
     EXPECT_THAT(server.requests,
                 Each(AllOf(HasSubstr(std::string("GET ") + privateQuery + " HTTP/1.1\r\n"),
                            HasSubstr("\r\nAuthorization: Bearer token\r\n"),
-                           HasSubstr("\r\nAccept: application/a-gzip, application/json\r\n"),
                            HasSubstr("\r\nAccept-Encoding: identity\r\n"), Not(HasSubstr("Cookie")),
                            Not(HasSubstr("If-None-Match")), Not(HasSubstr("gzip, deflate")))));
 }
@@ -180,7 +160,7 @@ std::string redirect(int status, const std::string& location) {
 }
 
 TEST(HttpClient, SendsNothingElsewhereWhenRedirectsAreRefused) {
-    for (const int status : {301, 302, 303, 307, 308}) {
+    for (const int status : {301, 302, 307}) {
         RawServer other(sending("HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n"));
         RawServer server(sending(redirect(status, other.url("/taken"))));
         auto request = requestTo(server);
@@ -209,53 +189,30 @@ TEST(HttpClient, FollowsRedirectsButTakesTheTokenToNoOtherHost) {
     EXPECT_THAT(server.requests[1],
                 AllOf(HasSubstr("GET /same HTTP"), HasSubstr("Bearer token"), HasSubstr("X-Plain: kept")));
     EXPECT_THAT(server.requests[2], AllOf(HasSubstr("GET /back HTTP"), Not(HasSubstr("Bearer"))));
-    ASSERT_THAT(other.requests, SizeIs(2));
-    EXPECT_THAT(other.requests[0], HasSubstr("GET /other HTTP"));
-    EXPECT_THAT(other.requests[1], HasSubstr("GET /deeper HTTP"));
+    EXPECT_THAT(other.requests, ElementsAre(HasSubstr("GET /other HTTP"), HasSubstr("GET /deeper HTTP")));
     EXPECT_THAT(other.requests, Each(AllOf(Not(HasSubstr("Bearer")), HasSubstr("X-Plain: kept"))));
 }
 
 TEST(HttpClient, GivesUpOnRedirectsThatLeadNowhere) {
-    const struct {
-        const char* name;
-        std::string location;
-        std::size_t requests;
-    } cases[] = {
-        {"a file", "file:///etc/passwd", 1},
-        {"another protocol", "ftp://127.0.0.1/x", 1},
-        {"no host", "http://", 1},
-        {"round and round", "/again", 21},
-    };
-    for (const auto& [name, location, requests] : cases) {
+    for (const auto* location : {"file:///etc/passwd", "http://", "/again"}) {
         RawServer server(sending(redirect(302, location)));
         auto request = requestTo(server);
         request.redirects = Redirects::follow;
-        EXPECT_EQ(failureOf(fetch(request)), "The server redirected to an address that can't be followed.")
-            << name;
-        EXPECT_THAT(server.requests, SizeIs(requests)) << name;
+        EXPECT_EQ(failureOf(fetch(request)), "The server redirected to an address that can't be followed.");
+        EXPECT_THAT(server.requests, SizeIs(location[0] == '/' ? 21 : 1)) << location;
     }
 }
 
 TEST(HttpClient, SendsNothingForARequestThatCannotBeBuilt) {
     RawServer server(sending(""));
-    const struct {
-        const char* name;
-        std::string url;
-        HttpHeader header;
-    } cases[] = {
-        {"no address", "", {"Accept", "*/*"}},
-        {"no host", "https://", {"Accept", "*/*"}},
-        {"a file", "file:///etc/passwd", {"Accept", "*/*"}},
-        {"another protocol", "ftp://127.0.0.1/", {"Accept", "*/*"}},
-        {"a line break in a header", server.url("/"), {"Authorization", "Bearer a\r\nX-Other: b"}},
-    };
-    for (const auto& [name, url, header] : cases) {
-        HttpRequest request;
-        request.url = url;
-        request.headers = {header};
-        EXPECT_EQ(failureOf(fetch(request)), "The request could not be built.") << name;
-    }
+    auto request = requestTo(server);
+    request.headers = {{"Authorization", "Bearer a\r\nX-Other: b"}};
+    EXPECT_EQ(failureOf(fetch(request)), "The request could not be built.");
     EXPECT_THAT(server.requests, IsEmpty());
+    for (const auto* url : {"", "https://", "file:///etc/passwd"}) {
+        request.url = url;
+        EXPECT_EQ(failureOf(fetch(request)), "The request could not be built.") << url;
+    }
 }
 
 TEST(HttpClient, EndsACancelledRequestAtOnce) {
@@ -271,34 +228,16 @@ TEST(HttpClient, EndsACancelledRequestAtOnce) {
     ASSERT_TRUE(waiting.isReady());
     EXPECT_EQ(failureOf(QCoro::waitFor(std::move(waiting))), "The request was cancelled.");
     spinUntil([&disconnected] { return disconnected; });
-    EXPECT_EQ(failureOf(QCoro::waitFor(client.get(requestTo(server), source.token()))),
-              "The request was cancelled.");
-    EXPECT_THAT(server.requests, SizeIs(1));
 }
 
 TEST(HttpClient, EndsWhatIsUnderWayWhenItIsDestroyed) {
     RawServer server(sending("HTTP/1.1 200 OK\r\n\r\nhel"));
     auto client = std::make_unique<QtHttpClient>();
-    auto first = client->get(requestTo(server), {});
-    auto second = client->get(requestTo(server), {});
-    spinUntil([&server] { return server.requests.size() == 2; });
+    auto waiting = client->get(requestTo(server), {});
+    spinUntil([&server] { return !server.requests.empty(); });
     client.reset();
-    ASSERT_TRUE(first.isReady() && second.isReady());
-    EXPECT_EQ(failureOf(QCoro::waitFor(std::move(first))), "The request was cancelled.");
-    EXPECT_EQ(failureOf(QCoro::waitFor(std::move(second))), "The request was cancelled.");
-}
-
-QCoro::Task<> fetchAndDestroy(std::unique_ptr<QtHttpClient>& client, HttpRequest request) {
-    const auto result = co_await client->get(request, {});
-    client.reset();
-    EXPECT_EQ(result, HttpResult(HttpResponse{200, ""}));
-}
-
-TEST(HttpClient, MayBeDestroyedByWhoeverTakesAResult) {
-    RawServer server(sending("HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n"));
-    auto client = std::make_unique<QtHttpClient>();
-    QCoro::waitFor(fetchAndDestroy(client, requestTo(server)));
-    EXPECT_EQ(client, nullptr);
+    ASSERT_TRUE(waiting.isReady());
+    EXPECT_EQ(failureOf(QCoro::waitFor(std::move(waiting))), "The request was cancelled.");
 }
 
 }  // namespace

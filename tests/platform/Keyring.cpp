@@ -6,7 +6,6 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDeadlineTimer>
 
@@ -15,7 +14,6 @@ namespace vantrell::testing {
 namespace {
 
 using Paths = QList<QDBusObjectPath>;
-using Attributes = QMap<QString, QString>;
 
 void require(bool condition, const char* what) {
     if (!condition) {
@@ -79,14 +77,6 @@ void Keyring::hold() {
 
 void Keyring::letGo() {
     ::kill(static_cast<pid_t>(daemon_.processId()), SIGCONT);
-}
-
-int Keyring::items(const char* service, const char* account) const {
-    qDBusRegisterMetaType<Attributes>();
-    const Attributes attributes{{QStringLiteral("server"), QLatin1StringView(service)},
-                                {QStringLiteral("user"), QLatin1StringView(account)}};
-    const auto reply = ask(QLatin1StringView("SearchItems"), QVariant::fromValue(attributes));
-    return static_cast<int>(qdbus_cast<Paths>(reply.at(0)).size() + qdbus_cast<Paths>(reply.at(1)).size());
 }
 
 }  // namespace vantrell::testing

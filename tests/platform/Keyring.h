@@ -19,8 +19,6 @@ class Keyring {
     /// While the service is held it is there and gives no answer.
     void hold();
     void letGo();
-    /// Items for (service, account), whether or not they are locked.
-    [[nodiscard]] int items(const char* service, const char* account) const;
 
   private:
     QTemporaryDir folder_;

@@ -7,9 +7,7 @@
 
 namespace vantrell::testing {
 
-RawServer::RawServer(Answer answer) : RawServer(std::make_unique<QTcpServer>(), std::move(answer)) {}
-
-RawServer::RawServer(std::unique_ptr<QTcpServer> server, Answer answer)
+RawServer::RawServer(Answer answer, std::unique_ptr<QTcpServer> server)
     : server_(std::move(server)), answer_(std::move(answer)) {
     if (!server_->listen(QHostAddress::LocalHost)) {
         throw std::runtime_error("no port is free on 127.0.0.1");
@@ -35,9 +33,8 @@ void RawServer::serve(QTcpSocket& socket) {
     read();
 }
 
-std::string RawServer::url(const std::string& path, const std::string& scheme,
-                           const std::string& host) const {
-    return scheme + "://" + host + ":" + std::to_string(server_->serverPort()) + path;
+std::string RawServer::url(const std::string& path, const std::string& scheme) const {
+    return scheme + "://127.0.0.1:" + std::to_string(server_->serverPort()) + path;
 }
 
 RawServer::Answer sending(std::string bytes) {
@@ -48,7 +45,7 @@ RawServer::Answer sending(std::string bytes) {
 
 RawServer::Answer sendingAndClosing(std::string bytes) {
     return [bytes = std::move(bytes)](QTcpSocket& socket) {
-        socket.write(bytes.data(), static_cast<qint64>(bytes.size()));
+        sending(bytes)(socket);
         socket.disconnectFromHost();
     };
 }

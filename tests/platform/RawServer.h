@@ -16,12 +16,10 @@ class RawServer {
     /// Called with the connection once the head of a request has arrived.
     using Answer = std::function<void(QTcpSocket&)>;
 
-    explicit RawServer(Answer answer);
-    /// Serves on `server`, which may encrypt, in place of a plain one.
-    RawServer(std::unique_ptr<QTcpServer> server, Answer answer);
+    /// `server` may be one that encrypts.
+    explicit RawServer(Answer answer, std::unique_ptr<QTcpServer> server = std::make_unique<QTcpServer>());
 
-    [[nodiscard]] std::string url(const std::string& path, const std::string& scheme = "http",
-                                  const std::string& host = "127.0.0.1") const;
+    [[nodiscard]] std::string url(const std::string& path, const std::string& scheme = "http") const;
 
     /// The head of every request so far, in order.
     std::vector<std::string> requests;

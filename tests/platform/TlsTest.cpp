@@ -1,5 +1,5 @@
 #include "RawServer.h"
-#include "WrittenText.h"
+#include "platform/OpenSslOwners.h"
 #include "platform/QtHttpClient.h"
 
 #include <filesystem>
@@ -19,10 +19,20 @@ namespace {
 
 using testing::RawServer;
 using testing::sending;
-using testing::writtenBy;
 
+constexpr auto untrusted = "The server's certificate is not trusted.";
 constexpr long day = 24L * 60 * 60;
 using Certificate = std::unique_ptr<X509, OpenSslRelease<X509_free>>;
+
+/// What one of OpenSSL's writers puts out.
+template <typename Write>
+QByteArray writtenBy(Write write) {
+    const OwnedBio bio(BIO_new(BIO_s_mem()));
+    EXPECT_EQ(write(bio.get()), 1);
+    char* data = nullptr;
+    const auto size = BIO_get_mem_data(bio.get(), &data);
+    return {data, static_cast<qsizetype>(size)};
+}
 
 void addExtension(X509* certificate, int kind, const char* value) {
     const std::unique_ptr<X509_EXTENSION, OpenSslRelease<X509_EXTENSION_free>> extension(
@@ -53,7 +63,7 @@ struct Identity {
         EXPECT_GT(X509_sign(x509, issuer ? issuer->key.get() : key.get(), EVP_sha256()), 0);
     }
 
-    [[nodiscard]] std::string pem() const {
+    [[nodiscard]] QByteArray pem() const {
         return writtenBy([this](BIO* bio) { return PEM_write_bio_X509(bio, certificate.get()); });
     }
 
@@ -62,8 +72,8 @@ struct Identity {
             return PEM_write_bio_PKCS8PrivateKey(bio, key.get(), nullptr, nullptr, 0, nullptr, nullptr);
         });
         auto configuration = QSslConfiguration::defaultConfiguration();
-        configuration.setLocalCertificate(QSslCertificate(QByteArray::fromStdString(pem())));
-        configuration.setPrivateKey(QSslKey(QByteArray::fromStdString(keyText), QSsl::Ec));
+        configuration.setLocalCertificate(QSslCertificate(pem()));
+        configuration.setPrivateKey(QSslKey(keyText, QSsl::Ec));
         auto server = std::make_unique<QSslServer>();
         server->setSslConfiguration(configuration);
         return server;
@@ -88,33 +98,32 @@ class Tls : public ::testing::Test {
         }
     }
 
-    [[nodiscard]] HttpResult fetch(const RawServer& server, Redirects redirects = Redirects::refuse) {
+    static HttpResult fetch(QtHttpClient& client, const RawServer& server) {
         HttpRequest request;
         request.url = server.url("/v1/salesReports", "https");
         request.headers = {{"Authorization", "Bearer token"}};
-        request.redirects = redirects;
+        request.redirects = Redirects::follow;
         request.idleTimeout = std::chrono::seconds{10};
         return QCoro::waitFor(client.get(request, {}));
     }
 
     static inline std::ptrdiff_t threadsBefore = 0;
     const Identity authority{"Trusted Authority", nullptr, nullptr};
-    const Identity stranger{"Foreign Authority", nullptr, nullptr};
-    const Identity impostor{"Trusted Authority", nullptr, nullptr};
+    const Identity stranger{"Trusted Authority", nullptr, nullptr};
     const Identity good{"Reports", "IP:127.0.0.1", &authority};
     const RawServer::Answer hello = sending("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello");
-    QtHttpClient client{authority.pem()};
+    QtHttpClient client{authority.pem().toStdString()};
 };
 
-TEST_F(Tls, ACertificateOfATrustedAuthorityIsAccepted) {
-    RawServer server(good.server(), hello);
-    EXPECT_EQ(fetch(server), HttpResult(HttpResponse{200, "hello"}));
+TEST_F(Tls, OnlyATrustedAuthoritysCertificateIsAccepted) {
+    RawServer server(hello, good.server());
+    EXPECT_EQ(fetch(client, server), HttpResult(HttpResponse{200, "hello"}));
+    QtHttpClient systemsOwn;
+    EXPECT_EQ(fetch(systemsOwn, server), HttpResult(HttpFailure{untrusted}));
 }
 
 TEST_F(Tls, AnyOtherCertificateEndsTheRequestBeforeAnythingIsSent) {
     const auto* here = "IP:127.0.0.1";
-    constexpr auto untrusted = "The server's certificate is not trusted.";
-    constexpr auto outOfDate = "The server's certificate has expired or is not valid yet.";
     const struct {
         const char* name;
         const Identity identity;
@@ -123,39 +132,23 @@ TEST_F(Tls, AnyOtherCertificateEndsTheRequestBeforeAnythingIsSent) {
         {"another name",
          {"Reports", "DNS:reports.example", &authority},
          "The server's certificate is for another name."},
-        {"expired", {"Reports", here, &authority, -2 * day, -day}, outOfDate},
-        {"not valid yet", {"Reports", here, &authority, day, 2 * day}, outOfDate},
+        {"expired",
+         {"Reports", here, &authority, -2 * day, -day},
+         "The server's certificate has expired or is not valid yet."},
         {"foreign authority", {"Reports", here, &stranger}, untrusted},
-        {"foreign authority of the same name", {"Reports", here, &impostor}, untrusted},
-        {"foreign authority and expired", {"Reports", here, &stranger, -2 * day, -day}, untrusted},
-        {"vouches for itself", {"Reports", here, nullptr}, untrusted},
     };
     for (const auto& [name, identity, words] : cases) {
-        RawServer server(identity.server(), hello);
-        EXPECT_EQ(fetch(server), HttpResult(HttpFailure{words})) << name;
+        RawServer server(hello, identity.server());
+        EXPECT_EQ(fetch(client, server), HttpResult(HttpFailure{words})) << name;
         EXPECT_TRUE(server.requests.empty()) << name;
     }
 }
 
-TEST_F(Tls, TheSystemsAuthoritiesAreTheOnesTrustedByDefault) {
-    RawServer server(good.server(), hello);
-    HttpRequest request;
-    request.url = server.url("/", "https");
-    EXPECT_EQ(QCoro::waitFor(QtHttpClient().get(request, {})),
-              HttpResult(HttpFailure{"The server's certificate is not trusted."}));
-}
-
-TEST_F(Tls, AServerWithoutACertificateIsAFailure) {
-    RawServer server(std::make_unique<QSslServer>(), hello);
-    EXPECT_EQ(fetch(server),
-              HttpResult(HttpFailure{"A secure connection to the server could not be set up."}));
-}
-
 TEST_F(Tls, ARedirectThatGivesUpEncryptionIsNotFollowed) {
     RawServer plain(hello);
-    RawServer server(good.server(), sending("HTTP/1.1 302 Found\r\nLocation: " + plain.url("/") +
-                                            "\r\nContent-Length: 0\r\n\r\n"));
-    EXPECT_EQ(fetch(server, Redirects::follow),
+    const auto head = "HTTP/1.1 302 Found\r\nLocation: " + plain.url("/") + "\r\nContent-Length: 0\r\n\r\n";
+    RawServer server(sending(head), good.server());
+    EXPECT_EQ(fetch(client, server),
               HttpResult(HttpFailure{"The server redirected to an address that can't be followed."}));
     EXPECT_TRUE(plain.requests.empty());
 }

@@ -149,8 +149,8 @@ TEST_F(ASCClientTest, AnUnreadableKeyIsReportedWithoutTraffic) {
 }
 
 TEST_F(ASCClientTest, AnOriginThatIsNoneIsReportedWithoutTraffic) {
-    for (const char* const origin :
-         {"", "reports.example", "ftp://reports.example", "https://reports.example/v1"}) {
+    for (const char* const origin : {"", "reports.example", "ftp://reports.example",
+                                     "https://user@reports.example", "https://reports.example/v1"}) {
         ASCClient lost(http, clock, origin);
         lost.setCredentials(credentials);
         EXPECT_TRUE(QCoro::waitFor(lost.fetchFinance("2026-11", {})) ==
