@@ -9,7 +9,9 @@
 #include <mutex>
 #include <stdexcept>
 
+#include <unicode/calendar.h>
 #include <unicode/coll.h>
+#include <unicode/dtitvfmt.h>
 #include <unicode/dtptngen.h>
 #include <unicode/numberformatter.h>
 #include <unicode/smpdtfmt.h>
@@ -50,6 +52,25 @@ std::unique_ptr<const icu::DateFormat> dateFormat(icu::Locale locale, const char
     return format;
 }
 
+std::unique_ptr<const icu::DateIntervalFormat> rangeFormat(icu::Locale locale, const char* skeleton) {
+    UErrorCode status = U_ZERO_ERROR;
+    locale.setKeywordValue("calendar", "gregorian", status);
+    std::unique_ptr<icu::DateIntervalFormat> format(
+        icu::DateIntervalFormat::createInstance(icu::UnicodeString::fromUTF8(skeleton), locale, status));
+    require(status);
+    format->adoptTimeZone(icu::TimeZone::getGMT()->clone());
+    return format;
+}
+
+std::chrono::weekday startOfWeek(const icu::Locale& locale) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(locale, status));
+    require(status);
+    const auto first = calendar->getFirstDayOfWeek(status);
+    require(status);
+    return std::chrono::weekday(static_cast<unsigned>(first - UCAL_SUNDAY));
+}
+
 std::unique_ptr<const icu::Collator> nameOrder(const icu::Locale& locale) {
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<icu::Collator> collator(icu::Collator::createInstance(locale, status));
@@ -62,6 +83,12 @@ std::unique_ptr<const icu::Collator> nameOrder(const icu::Locale& locale) {
 std::string dateText(const icu::DateFormat& format, std::chrono::milliseconds wallTime) {
     icu::UnicodeString text;
     return utf8(format.format(static_cast<UDate>(wallTime.count()), text));
+}
+
+/// Midnight in UTC.
+UDate startOf(CivilDate day) {
+    const std::chrono::milliseconds time = std::chrono::sys_days(day).time_since_epoch();
+    return static_cast<UDate>(time.count());
 }
 
 /// Whether `code` is or once was a currency. The library would also take lower case and "no currency".
@@ -124,6 +151,9 @@ struct Locale::Formats {
     LocalizedNumberFormatter count;
     std::unique_ptr<const icu::DateFormat> dateAndTime;
     std::unique_ptr<const icu::DateFormat> weekdayMonthDay;
+    std::unique_ptr<const icu::DateFormat> monthYear;
+    std::unique_ptr<const icu::DateIntervalFormat> dayRange;
+    std::chrono::weekday firstWeekday;
     std::unique_ptr<const icu::Collator> names;
 
     explicit Formats(const LocaleNames& posix)
@@ -132,6 +162,9 @@ struct Locale::Formats {
           count(icu::number::NumberFormatter::withLocale(icuLocale(posix.numeric))),
           dateAndTime(dateFormat(icuLocale(posix.time), "yMMMdjmm")),
           weekdayMonthDay(dateFormat(icuLocale(posix.time), "EEEMMMd")),
+          monthYear(dateFormat(icuLocale(posix.time), "yMMMM")),
+          dayRange(rangeFormat(icuLocale(posix.time), "yMMMd")),
+          firstWeekday(startOfWeek(icuLocale(posix.time))),
           names(nameOrder(icuLocale(posix.collate))) {}
 };
 
@@ -174,6 +207,23 @@ std::string Locale::dateAndTime(Instant instant, const TimeZone& zone) const {
 
 std::string Locale::weekdayMonthDay(CivilDate day) const {
     return dateText(*formats_->weekdayMonthDay, std::chrono::sys_days(day).time_since_epoch());
+}
+
+std::string Locale::dayRange(CivilDate first, CivilDate last) const {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::DateInterval range(startOf(first), startOf(last));
+    icu::FieldPosition position(icu::FieldPosition::DONT_CARE);
+    icu::UnicodeString text;
+    formats_->dayRange->format(&range, text, position, status);
+    return U_SUCCESS(status) ? utf8(text) : std::string();
+}
+
+std::string Locale::monthYear(CivilDate day) const {
+    return dateText(*formats_->monthYear, std::chrono::sys_days(day).time_since_epoch());
+}
+
+std::chrono::weekday Locale::firstWeekday() const {
+    return formats_->firstWeekday;
 }
 
 int Locale::compareNames(std::string_view left, std::string_view right) const {

@@ -52,6 +52,13 @@ class Locale {
     [[nodiscard]] std::string dateAndTime(Instant instant, const TimeZone& zone) const;
     /// Abbreviated weekday, month and day, such as "Tue, Mar 3".
     [[nodiscard]] std::string weekdayMonthDay(CivilDate day) const;
+    /// Both days with abbreviated month and year, what they share written once, such as "Mar 2 – 8, 2026";
+    /// with the blanks that the locale puts around the dash.
+    [[nodiscard]] std::string dayRange(CivilDate first, CivilDate last) const;
+    /// Such as "March 2026".
+    [[nodiscard]] std::string monthYear(CivilDate day) const;
+    /// On which day weeks begin, by the region of the time locale.
+    [[nodiscard]] std::chrono::weekday firstWeekday() const;
 
     /// Orders names without regard to case, by the collation locale; below, above or equal to 0.
     [[nodiscard]] int compareNames(std::string_view left, std::string_view right) const;

@@ -84,6 +84,33 @@ TEST(Locale, DatesAreGregorianInTheOrderOfTheLocale) {
     }
 }
 
+TEST(Locale, WeeksAndMonthsAreWrittenInTheMannerOfTheLocale) {
+    const struct {
+        std::string locale;
+        std::string week;
+        std::string overTheYear;
+        std::string month;
+        std::chrono::weekday firstWeekday;
+    } cases[] = {
+        {"C.UTF-8", "Mar 2\u2009–\u20098, 2026", "Dec 28, 2026\u2009–\u2009Jan 3, 2027", "March 2026",
+         std::chrono::Sunday},
+        {"en_US", "Mar 2\u2009–\u20098, 2026", "Dec 28, 2026\u2009–\u2009Jan 3, 2027", "March 2026",
+         std::chrono::Sunday},
+        {"en_GB", "2–8 Mar 2026", "28 Dec 2026\u2009–\u20093 Jan 2027", "March 2026", std::chrono::Monday},
+        {"de_DE", "2.–8. März 2026", "28. Dez. 2026\u2009–\u20093. Jan. 2027", "März 2026",
+         std::chrono::Monday},
+        {"ja_JP", "2026年3月2日～8日", "2026年12月28日～2027年1月3日", "2026年3月", std::chrono::Sunday},
+        {"ar_EG", "٢–٨ مارس، ٢٠٢٦", "٢٨ ديسمبر، ٢٠٢٦ – ٣ يناير، ٢٠٢٧", "مارس ٢٠٢٦", std::chrono::Saturday},
+    };
+    for (const auto& row : cases) {
+        const auto locale = localeNamed(row.locale);
+        EXPECT_EQ(locale.dayRange(2026y / 3 / 2, 2026y / 3 / 8), row.week) << row.locale;
+        EXPECT_EQ(locale.dayRange(2026y / 12 / 28, 2027y / 1 / 3), row.overTheYear) << row.locale;
+        EXPECT_EQ(locale.monthYear(2026y / 3 / 2), row.month) << row.locale;
+        EXPECT_EQ(locale.firstWeekday(), row.firstWeekday) << row.locale;
+    }
+}
+
 TEST(Locale, EachCategoryFollowsItsOwnName) {
     const Locale locale({"ja_JP", "de_DE", "fr_CH", "sv_SE", "C"});
     EXPECT_EQ(locale.money(Decimal(1000), "JPY"), "￥1,000");
