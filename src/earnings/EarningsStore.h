@@ -13,6 +13,7 @@
 #include "earnings/ProductFigures.h"
 #include "earnings/SalesSelection.h"
 #include "earnings/SalesSnapshot.h"
+#include "earnings/Trend.h"
 #include "earnings/WindowSums.h"
 #include "platform/Defaults.h"
 #include "platform/Locale.h"
@@ -115,6 +116,23 @@ class EarningsStore : public QObject {
     [[nodiscard]] std::vector<ProductStat> productStats(const AppFilter& apps) const;
     /// The countries that brought in most in all time, at most `limit`.
     [[nodiscard]] std::vector<CountryStat> countryStats(const AppFilter& apps, std::size_t limit) const;
+
+    /// The days from `from` to `to` cut into buckets; none if a key is no date or `from` is the later one.
+    [[nodiscard]] TrendBuckets trendBuckets(const std::string& from, const std::string& to,
+                                            TrendGranularity granularity) const;
+    /// The bucket that begins with `start`, for the user.
+    [[nodiscard]] std::string bucketLabel(CivilDate start, TrendGranularity granularity) const;
+    /// Each bucket's figures with a note on how many of its days were fetched, newest first.
+    [[nodiscard]] std::vector<PeriodStat> bucketStats(const std::string& from, const std::string& to,
+                                                      TrendGranularity granularity,
+                                                      const AppFilter& apps) const;
+    /// The apps by what they earned in all time, largest first and equals by identifier. The first eight have
+    /// a colour, which thus depends on neither range nor filter.
+    [[nodiscard]] std::vector<std::int64_t> rankedApps() const;
+    /// Each bucket split by app. Without a filter what belongs to no app with a colour falls under "Other";
+    /// with one every app of the filter stands by itself. Lines without a rate are left out.
+    [[nodiscard]] Trend trend(const std::string& from, const std::string& to, TrendGranularity granularity,
+                              const AppFilter& apps) const;
 
     /// What was paid, newest fiscal period first.
     [[nodiscard]] std::vector<FinancePeriodStat> financePeriods(const AppFilter& apps) const;

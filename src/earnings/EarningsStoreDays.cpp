@@ -27,15 +27,15 @@ std::vector<DayPoint> EarningsStore::dayPoints(const std::string& from, const st
                                                const AppFilter& apps) const {
     LineValues values(salesRows_, converter_);
     std::map<std::string_view, DayPoint> sums;
-    dailyRows(from, to, apps).forEach([&](const SalesRowRef& row) {
-        if (!isSold(row.item().kind)) {
-            return;
-        }
-        if (const auto value = values.value(row)) {
-            DayPoint& sum = sums[row.chunk().reportDate];
-            (*value < 0 ? sum.refunds : sum.proceeds) += *value;
-        }
-    });
+    DayPoint* ofDay = nullptr;
+    dailyRows(from, to, apps)
+        .forEach([&](const SalesChunk& report) { ofDay = &sums[report.reportDate]; },
+                 [&](const SalesRowRef& row) {
+                     const auto value = isSold(row.item().kind) ? values.value(row) : std::nullopt;
+                     if (value) {
+                         (*value < 0 ? ofDay->refunds : ofDay->proceeds) += *value;
+                     }
+                 });
     std::vector<DayPoint> points;
     for (const auto& [key, date] : days(from, to)) {
         DayPoint point = sums[key];
@@ -49,9 +49,10 @@ std::vector<DayPoint> EarningsStore::dayPoints(const std::string& from, const st
 std::vector<DayTableRow> EarningsStore::dayTable(const std::string& from, const std::string& to,
                                                  const AppFilter& apps) const {
     std::map<std::string_view, StatsAccumulator> sums;
-    dailyRows(from, to, apps).forEach([&](const SalesRowRef& row) {
-        row.addTo(sums[row.chunk().reportDate]);
-    });
+    StatsAccumulator* ofDay = nullptr;
+    dailyRows(from, to, apps)
+        .forEach([&](const SalesChunk& report) { ofDay = &sums[report.reportDate]; },
+                 [&](const SalesRowRef& row) { row.addTo(*ofDay); });
     std::vector<DayTableRow> table;
     for (const auto& [key, date] : days(from, to)) {
         const auto sum = sums.find(key);

@@ -47,6 +47,7 @@ std::vector<FinancePeriodStat> EarningsStore::financePeriods(const AppFilter& ap
         }
     }
     std::vector<FinancePeriodStat> stats;
+    stats.reserve(periods.size());
     for (auto& [label, period] : periods) {
         period.label = label;
         stats.push_back(std::move(period));

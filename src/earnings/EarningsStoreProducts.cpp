@@ -78,6 +78,7 @@ std::vector<CountryStat> EarningsStore::countryStats(const AppFilter& apps, std:
         }
     }
     std::vector<CountryStat> countries;
+    countries.reserve(byCountry.size());
     for (const auto& [country, amount] : byCountry) {
         countries.push_back({country, amount});
     }

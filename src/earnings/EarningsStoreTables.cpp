@@ -108,6 +108,7 @@ std::vector<AppTableEntry> EarningsStore::appTable() const {
                             [this](const SalesItem& item) { return catalog_.owningApp(item.appleID); });
     const WindowSums sums(salesRows_, windowRows(), owners);
     std::vector<AppTableEntry> table;
+    table.reserve(catalog_.apps().size());
     for (const AppInfo& app : catalog_.apps()) {
         AppTableEntry& entry = table.emplace_back();
         entry.app = app;
@@ -145,14 +146,15 @@ YearMatrix EarningsStore::yearMatrix() const {
     LineValues values(salesRows_, converter_);
     YearMatrix matrix;
     YearCells cells(matrix, owners);
-    allTimeRows({}).forEach([&](const SalesRowRef& row) {
-        const std::uint32_t owner = owners.ofItem(row.itemNumber());
-        const auto value = owner == ItemGroups::none ? std::nullopt : values.value(row);
-        if (value) {
-            cells.inYear(yearCounted(row.chunk()));
-            cells.add(owner, *value);
-        }
-    });
+    allTimeRows({}).forEach([&](const SalesChunk& report) { cells.inYear(yearCounted(report)); },
+                            [&](const SalesRowRef& row) {
+                                const std::uint32_t owner = owners.ofItem(row.itemNumber());
+                                const auto value =
+                                    owner == ItemGroups::none ? std::nullopt : values.value(row);
+                                if (value) {
+                                    cells.add(owner, *value);
+                                }
+                            });
     return matrix;
 }
 

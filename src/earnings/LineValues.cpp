@@ -11,6 +11,7 @@ constexpr auto fewUnits = static_cast<std::size_t>(mostUnits - fewestUnits + 1);
 
 LineValues::LineValues(const SalesSnapshot& snapshot, const CurrencyConverter& converter)
     : snapshot_(snapshot), ofFewUnits_(snapshot.prices().size() * fewUnits) {
+    conversions_.reserve(snapshot.currencies().size());
     for (std::uint32_t currency = 0; currency < snapshot.currencies().size(); ++currency) {
         conversions_.push_back(converter.conversion(snapshot.currencies().text(currency)));
     }

@@ -40,9 +40,15 @@ class SalesSelection {
     /// Calls `visit` with a SalesRowRef for each line.
     template <typename Visit>
     void forEach(Visit visit) const {
+        forEach([](const SalesChunk&) {}, visit);
+    }
+    /// Before the lines of each report calls `visitReport` with it.
+    template <typename VisitReport, typename Visit>
+    void forEach(VisitReport visitReport, Visit visit) const {
         for (const auto& span : spans_) {
             for (std::size_t chunk = span.first; chunk < span.last; ++chunk) {
                 const SalesChunk& lines = *snapshot_->chunks()[chunk];
+                visitReport(lines);
                 for (std::size_t row = 0; row < lines.size(); ++row) {
                     if (!mask_ || (*mask_)[lines.items[row]]) {
                         visit(SalesRowRef{snapshot_, chunk, row});

@@ -52,6 +52,11 @@ void EarningsFixture::report(ReportFrequency frequency, const std::string& date,
     for (const Line& line : lines) {
         rows.push_back(row(line, firstDay(date)));
     }
+    parsedReport(frequency, date, rows, status);
+}
+
+void EarningsFixture::parsedReport(ReportFrequency frequency, const std::string& date,
+                                   const std::vector<ParsedSalesRow>& rows, ReportStatus status) {
     const std::string raw(rawText(frequency));
     context_->replaceSalesRows(raw, date, rows);
     SalesReport record;
@@ -71,6 +76,11 @@ void EarningsFixture::payments(const std::string& fiscalPeriod, const std::vecto
     for (const Payment& line : lines) {
         rows.push_back(row(line));
     }
+    parsedPayments(fiscalPeriod, rows, status);
+}
+
+void EarningsFixture::parsedPayments(const std::string& fiscalPeriod,
+                                     const std::vector<ParsedFinanceRow>& rows, ReportStatus status) {
     context_->replaceFinanceRows("ZZ", fiscalPeriod, rows);
     FinanceReport record;
     record.fiscalPeriod = fiscalPeriod;

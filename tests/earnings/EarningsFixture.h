@@ -49,12 +49,16 @@ class EarningsFixture {
     /// Puts a report with these lines and status ok into the store, in place of what was there.
     void report(ReportFrequency frequency, const std::string& date, const std::vector<Line>& lines,
                 ReportStatus status = ReportStatus::ok);
+    void parsedReport(ReportFrequency frequency, const std::string& date,
+                      const std::vector<ParsedSalesRow>& rows, ReportStatus status = ReportStatus::ok);
     void daily(const std::string& date, const std::vector<Line>& lines) {
         report(ReportFrequency::daily, date, lines);
     }
     /// Likewise a finance report.
     void payments(const std::string& fiscalPeriod, const std::vector<Payment>& lines,
                   ReportStatus status = ReportStatus::ok);
+    void parsedPayments(const std::string& fiscalPeriod, const std::vector<ParsedFinanceRow>& rows,
+                        ReportStatus status = ReportStatus::ok);
     void rates(const Rates& rates);
     /// Saves and reloads.
     EarningsStore& reload();

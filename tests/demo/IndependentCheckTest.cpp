@@ -1,0 +1,246 @@
+#include "../earnings/EarningsFixture.h"
+#include "earnings/Exports.h"
+#include "reports/FinanceParser.h"
+#include "reports/SalesParser.h"
+#include "sample/FinanceBody.h"
+#include "sample/ReportPeriods.h"
+#include "sample/SalesBody.h"
+#include "sample/SampleTotals.h"
+
+#include <array>
+#include <map>
+
+#include <gtest/gtest.h>
+
+// The sample account's reports through the parsers and the store to the exports, held against what the
+// account itself says was sold and paid. The two sides share no arithmetic.
+
+namespace vantrell {
+namespace {
+
+using sample::MoneyByCurrency;
+using sample::PayoutTotals;
+using sample::ReportKind;
+using sample::SalesTotals;
+
+constexpr std::array periods{"2026-11", "2026-12", "2027-01"};
+constexpr std::array years{"2024", "2025"};
+
+sample::DateRange daysOf(ReportKind kind, const std::string& label) {
+    return *sample::reportDays(kind, label);
+}
+
+/// "1234.5" for a Money of 123450 hundredths.
+std::string plainText(const sample::Money& money) {
+    std::string digits = std::to_string(money.minor < 0 ? -money.minor : money.minor);
+    const auto places = static_cast<std::size_t>(money.digits);
+    digits.insert(0, digits.size() <= places ? places + 1 - digits.size() : 0, '0');
+    if (places != 0) {
+        digits.insert(digits.size() - places, 1, '.');
+        digits.erase(digits.find_last_not_of('0') + 1);
+        digits.erase(digits.find_last_not_of('.') + 1);
+    }
+    return (money.minor < 0 ? "-" : "") + digits;
+}
+
+std::string breakdown(const MoneyByCurrency& amounts) {
+    std::string text;
+    for (const auto& [code, money] : amounts) {
+        text += (text.empty() ? "" : "; ") + code + " " + plainText(money);
+    }
+    return text;
+}
+
+std::string exact(const SalesTotals& totals) {
+    std::string text;
+    for (const std::int64_t units : {totals.appUnits, totals.inAppUnits, totals.updateUnits,
+                                     totals.redownloadUnits, totals.refundedUnits}) {
+        text += std::to_string(units) + "|";
+    }
+    return text + breakdown(totals.proceeds);
+}
+
+std::string exact(const PayoutTotals& totals) {
+    return std::to_string(totals.units) + "|" + std::to_string(totals.returns) + "|" + breakdown(totals.paid);
+}
+
+void add(MoneyByCurrency& sums, const MoneyByCurrency& others) {
+    for (const auto& [code, money] : others) {
+        sums.try_emplace(code, sample::Money{0, money.digits}).first->second.minor += money.minor;
+    }
+}
+
+void add(SalesTotals& sum, const SalesTotals& other) {
+    sum.appUnits += other.appUnits;
+    sum.inAppUnits += other.inAppUnits;
+    sum.updateUnits += other.updateUnits;
+    sum.redownloadUnits += other.redownloadUnits;
+    sum.refundedUnits += other.refundedUnits;
+    add(sum.proceeds, other.proceeds);
+}
+
+using Fields = std::vector<std::string>;
+
+std::vector<Fields> readCSV(const std::string& text) {
+    std::vector<Fields> records{{""}};
+    bool isQuoted = false;
+    for (const char letter : text) {
+        if (letter == '"') {
+            isQuoted = !isQuoted;
+        } else if (letter == ',' && !isQuoted) {
+            records.back().emplace_back();
+        } else if (letter == '\n' && !isQuoted) {
+            records.push_back({""});
+        } else {
+            records.back().back() += letter;
+        }
+    }
+    EXPECT_EQ(records.back(), Fields{""}) << "the text must end in a line feed";
+    records.erase(records.begin());
+    records.pop_back();
+    return records;
+}
+
+/// The columns from `first` on as "1|2|…|EUR 3", without the two that depend on rates.
+std::string exact(const Fields& record, std::size_t first) {
+    std::string text;
+    for (std::size_t column = first; column + 3 < record.size(); ++column) {
+        text += record[column] + "|";
+    }
+    return text + record.back();
+}
+
+/// A small account whose reports of this autumn, of two years and of three fiscal periods are stored.
+class IndependentCheck : public ::testing::Test {
+  protected:
+    IndependentCheck() {
+        for (const KeyedDay& day : days("2026-09-20", "2026-11-21")) {
+            sales(ReportFrequency::daily, ReportKind::daily, day.key);
+        }
+        for (const char* month : {"2026-08", "2026-10"}) {
+            sales(ReportFrequency::monthly, ReportKind::monthly, month);
+        }
+        for (const char* year : years) {
+            sales(ReportFrequency::yearly, ReportKind::yearly, year);
+        }
+        for (const char* period : periods) {
+            const auto range = daysOf(ReportKind::finance, period);
+            fixture_.parsedPayments(period, parseFinance(sample::financeBody(account_, range)).rows);
+        }
+        fixture_.rates({{"USD", 1}, {"EUR", 0.9}, {"JPY", 150}});
+        fixture_.reload();
+    }
+
+    [[nodiscard]] EarningsStore& store() { return fixture_.store(); }
+    [[nodiscard]] std::vector<Fields> records(ExportKind kind) { return readCSV(exportText(store(), kind)); }
+    [[nodiscard]] SalesTotals totals(ReportKind kind, const std::string& label,
+                                     std::optional<std::int64_t> app = {}) const {
+        return sample::salesTotals(account_, daysOf(kind, label), app);
+    }
+    [[nodiscard]] SalesTotals thisYear(std::optional<std::int64_t> app = {}) const {
+        return sample::salesTotals(account_, {sample::dayOf(2026, 9, 20), sample::dayOf(2026, 11, 21)}, app);
+    }
+    [[nodiscard]] SalesTotals allTime(std::optional<std::int64_t> app = {}) const {
+        SalesTotals sum = thisYear(app);
+        for (const char* year : years) {
+            add(sum, totals(ReportKind::yearly, year, app));
+        }
+        return sum;
+    }
+
+    sample::SampleAccount account_{{.ordersPerDay = 8}};
+
+  private:
+    void sales(ReportFrequency frequency, ReportKind kind, const std::string& label) {
+        const auto body = sample::salesBody(account_, daysOf(kind, label));
+        fixture_.parsedReport(frequency, label, parseSales(body).rows);
+    }
+
+    testing::EarningsFixture fixture_;
+};
+
+TEST_F(IndependentCheck, DaysAreWhatWasSoldOnThem) {
+    std::size_t stored = 0;
+    for (const Fields& record : records(ExportKind::days)) {
+        const bool isStored = record[1] == "ok";
+        stored += isStored ? 1U : 0U;
+        EXPECT_EQ(exact(record, 2), exact(isStored ? totals(ReportKind::daily, record[0]) : SalesTotals()))
+            << record[0];
+    }
+    EXPECT_EQ(stored, 63U);
+}
+
+TEST_F(IndependentCheck, MonthsAndYearsAreTheirDaysAddedUp) {
+    std::map<std::string, SalesTotals> expected{
+        {"2026-11", sample::salesTotals(account_, {sample::dayOf(2026, 11, 1), sample::dayOf(2026, 11, 21)})},
+        {"2026-10", totals(ReportKind::monthly, "2026-10")},
+        {"2026-08", totals(ReportKind::monthly, "2026-08")},
+        {"2026", thisYear()},
+        {"2025", totals(ReportKind::yearly, "2025")},
+        {"2024", totals(ReportKind::yearly, "2024")}};
+    const auto months = records(ExportKind::months);
+    EXPECT_EQ(months.size(), 13U);
+    for (const Fields& record : months) {
+        EXPECT_EQ(exact(record, 2), exact(expected[record[0]])) << record[0];
+    }
+    const auto yearly = records(ExportKind::years);
+    EXPECT_EQ(yearly.size(), 3U);
+    for (const Fields& record : yearly) {
+        EXPECT_EQ(exact(record, 2), exact(expected[record[0]])) << record[0];
+    }
+}
+
+TEST_F(IndependentCheck, PayoutsAreWhatWasPaid) {
+    const auto payouts = records(ExportKind::payouts);
+    ASSERT_EQ(payouts.size(), periods.size());
+    for (const Fields& record : payouts) {
+        const auto range = daysOf(ReportKind::finance, record[0]);
+        EXPECT_EQ(exact(record, 3), exact(sample::payoutTotals(account_, range))) << record[0];
+        EXPECT_EQ(record[1] + " " + record[2], dayKey(range.first) + " " + dayKey(range.last));
+    }
+}
+
+TEST_F(IndependentCheck, ProductsMakeTheTotalOfAllTime) {
+    SalesTotals total = allTime();
+    total.updateUnits = 0;
+    total.redownloadUnits = 0;
+    AggregateStats sum;
+    AmountsByCurrency money;
+    for (const ProductStat& product : store().productStats({})) {
+        sum.appUnits += product.stats.appUnits;
+        sum.iapUnits += product.stats.iapUnits;
+        sum.refundedUnits += product.stats.refundedUnits;
+        for (const auto& [code, amount] : product.stats.proceedsByCurrency) {
+            sum.proceedsByCurrency[code] += amount;
+        }
+    }
+    EXPECT_EQ(exact(statsFields(store().converter(), sum), 0), exact(total));
+    EXPECT_EQ(records(ExportKind::products).size(), store().productStats({}).size());
+}
+
+TEST_F(IndependentCheck, AppsAreWhatTheyAndTheirProductsSold) {
+    EXPECT_GT(store().appTable().size(), 5U);
+    for (const AppTableEntry& entry : store().appTable()) {
+        EXPECT_EQ(exact(statsFields(store().converter(), entry.allTime), 0), exact(allTime(entry.app.id)))
+            << entry.app.title;
+        EXPECT_EQ(exact(statsFields(store().converter(), entry.ytd), 0), exact(thisYear(entry.app.id)))
+            << entry.app.title;
+    }
+    for (const AppPayout& payout : store().appPayouts()) {
+        PayoutTotals total;
+        for (const char* period : periods) {
+            add(total.paid,
+                sample::payoutTotals(account_, daysOf(ReportKind::finance, period), payout.app.id).paid);
+        }
+        EXPECT_EQ(testing::money(payout.allTime), [&] {
+            std::string text = breakdown(total.paid);
+            for (auto at = text.find(';'); at != std::string::npos; at = text.find(';', at)) {
+                text[at] = ',';
+            }
+            return text;
+        }()) << payout.app.title;
+    }
+}
+
+}  // namespace
+}  // namespace vantrell
