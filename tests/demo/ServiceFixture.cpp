@@ -5,9 +5,8 @@
 #include <memory>
 #include <variant>
 
+#include <QByteArray>
 #include <QEventLoop>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QNetworkReply>
 #include <QUrlQuery>
 
@@ -45,16 +44,6 @@ std::string bearer(std::string_view header, std::string_view claims, std::string
     return "Bearer " + input + "." + base64url(std::string(signature.begin(), signature.end()));
 }
 
-QJsonObject Reply::json() const {
-    return QJsonDocument::fromJson(QByteArray::fromStdString(body)).object();
-}
-
-std::string Reply::error(const char* member) const {
-    const auto errors = json().value(QLatin1String("errors")).toArray();
-    EXPECT_EQ(errors.size(), 1) << body;
-    return errors.at(0).toObject().value(QLatin1String(member)).toString().toStdString();
-}
-
 Query salesQuery(const std::string& frequency, const std::string& date, const std::string& version) {
     return {{"filter[vendorNumber]", access().vendorNumber},
             {"filter[reportType]", "SALES"},
@@ -71,8 +60,7 @@ Query financeQuery(const std::string& period) {
             {"filter[reportDate]", period}};
 }
 
-Reply ServiceFixture::send(const QByteArray& verb, const std::string& path, const Query& query,
-                           const std::string& authorization) {
+Reply ServiceFixture::get(const std::string& path, const Query& query, const std::string& authorization) {
     QUrlQuery items;
     for (const auto& [name, value] : query) {
         items.addQueryItem(QString::fromStdString(name), QString::fromStdString(value));
@@ -84,12 +72,11 @@ Reply ServiceFixture::send(const QByteArray& verb, const std::string& path, cons
     if (!authorization.empty()) {
         request.setRawHeader("Authorization", QByteArray::fromStdString(authorization));
     }
-    const std::unique_ptr<QNetworkReply> reply{network.sendCustomRequest(request, verb)};
+    const std::unique_ptr<QNetworkReply> reply{network.get(request)};
     QEventLoop loop;
     QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
     loop.exec();
     return {reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(),
-            reply->header(QNetworkRequest::ContentTypeHeader).toString().toStdString(),
             reply->readAll().toStdString()};
 }
 

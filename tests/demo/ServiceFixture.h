@@ -10,8 +10,6 @@
 #include <utility>
 #include <vector>
 
-#include <QByteArray>
-#include <QJsonObject>
 #include <QNetworkAccessManager>
 
 #include <gtest/gtest.h>
@@ -48,12 +46,7 @@ struct Claims {
 /// An answer as it came over the network.
 struct Reply {
     int status = 0;
-    std::string contentType;
     std::string body;
-
-    [[nodiscard]] QJsonObject json() const;
-    /// A member of the only error of the body.
-    [[nodiscard]] std::string error(const char* member) const;
 };
 
 [[nodiscard]] Query salesQuery(const std::string& frequency, const std::string& date,
@@ -63,11 +56,7 @@ struct Reply {
 /// A sample service and a client of it, with a clock that stands at `morning`.
 class ServiceFixture : public ::testing::Test {
   protected:
-    Reply send(const QByteArray& verb, const std::string& path, const Query& query,
-               const std::string& authorization);
-    Reply get(const std::string& path, const Query& query = {}, const std::string& authorization = {}) {
-        return send("GET", path, query, authorization);
-    }
+    Reply get(const std::string& path, const Query& query = {}, const std::string& authorization = {});
     /// With a token that is good now.
     Reply sales(const Query& query) { return get("/v1/salesReports", query, freshToken()); }
     Reply finance(const Query& query) { return get("/v1/financeReports", query, freshToken()); }

@@ -26,8 +26,8 @@ TableReader::TableReader(std::string_view body) {
             for (std::size_t index = 0; index < line.size(); ++index) {
                 columns_.emplace(line[index], index);
             }
-        } else if (!text.empty()) {
-            (line.size() == columns_.size() ? lines_ : oddLines_).push_back(std::move(line));
+        } else if (line.size() == columns_.size()) {
+            lines_.push_back(std::move(line));
         }
     }
 }
@@ -47,13 +47,10 @@ std::int64_t TableReader::number(const Line& line, std::string_view heading) con
 }
 
 std::int64_t TableReader::hundredths(const Line& line, std::string_view heading) const {
-    return inHundredths(cell(line, heading));
-}
-
-std::int64_t inHundredths(std::string_view amount) {
+    const auto amount = cell(line, heading);
     const auto point = std::min(amount.find('.'), amount.size());
-    auto digits = std::string{amount.substr(0, point)};
-    auto fraction = std::string{amount.substr(std::min(point + 1, amount.size()))};
+    const auto digits = amount.substr(0, point);
+    auto fraction = amount.substr(std::min(point + 1, amount.size()));
     fraction.resize(2, '0');
     return std::strtoll((digits + fraction).c_str(), nullptr, 10);
 }

@@ -16,27 +16,20 @@ class TableReader {
 
     explicit TableReader(std::string_view body);
 
-    /// The lines that have as many cells as the heading, which itself is left out.
+    /// The lines that have as many cells as the heading, which itself is left out, as the totals are.
     [[nodiscard]] const std::vector<Line>& lines() const { return lines_; }
-    /// The lines that have other numbers of cells, such as totals.
-    [[nodiscard]] const std::vector<Line>& oddLines() const { return oddLines_; }
-    [[nodiscard]] std::size_t columnCount() const { return columns_.size(); }
 
     /// As it stands in the report, blanks included. `heading` must be one of the report's.
     [[nodiscard]] const std::string& raw(const Line& line, std::string_view heading) const;
     /// Without spaces at either end.
     [[nodiscard]] std::string cell(const Line& line, std::string_view heading) const;
     [[nodiscard]] std::int64_t number(const Line& line, std::string_view heading) const;
-    /// In hundredths, whatever the currency.
+    /// In hundredths, whatever the currency: "-1.5" is -150 and "1200" is 120000.
     [[nodiscard]] std::int64_t hundredths(const Line& line, std::string_view heading) const;
 
   private:
     std::map<std::string, std::size_t, std::less<>> columns_;
     std::vector<Line> lines_;
-    std::vector<Line> oddLines_;
 };
-
-/// "-1.5" is -150 and "1200" is 120000.
-[[nodiscard]] std::int64_t inHundredths(std::string_view amount);
 
 }  // namespace vantrell::testing
