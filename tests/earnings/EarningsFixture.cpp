@@ -73,6 +73,7 @@ void EarningsFixture::parsedReport(ReportFrequency frequency, const std::string&
 void EarningsFixture::payments(const std::string& fiscalPeriod, const std::vector<Payment>& lines,
                                ReportStatus status) {
     std::vector<ParsedFinanceRow> rows;
+    rows.reserve(lines.size());
     for (const Payment& line : lines) {
         rows.push_back(row(line));
     }
