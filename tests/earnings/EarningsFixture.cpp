@@ -49,6 +49,7 @@ std::unique_ptr<EarningsStore> EarningsFixture::another() {
 void EarningsFixture::report(ReportFrequency frequency, const std::string& date,
                              const std::vector<Line>& lines, ReportStatus status) {
     std::vector<ParsedSalesRow> rows;
+    rows.reserve(lines.size());
     for (const Line& line : lines) {
         rows.push_back(row(line, firstDay(date)));
     }
