@@ -2,7 +2,8 @@
 
 namespace vantrell {
 
-FinanceLine encoded(const ParsedFinanceRow& row, TextDictionary& texts) {
+FinanceLine encoded(const ParsedFinanceRow& row, LineTexts& texts) {
+    texts.startLine();
     return {.startDate = row.startDate,
             .endDate = row.endDate,
             .vendorIdentifier = texts.intern(row.vendorIdentifier),

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/FinanceRow.h"
-#include "data/TextDictionary.h"
+#include "data/LineTexts.h"
 
 namespace vantrell {
 
@@ -24,7 +24,7 @@ struct FinanceLine {
     TextID customerCurrency = 0;
 };
 
-[[nodiscard]] FinanceLine encoded(const ParsedFinanceRow& row, TextDictionary& texts);
+[[nodiscard]] FinanceLine encoded(const ParsedFinanceRow& row, LineTexts& texts);
 [[nodiscard]] ParsedFinanceRow decoded(const FinanceLine& line, const TextDictionary& texts);
 
 }  // namespace vantrell

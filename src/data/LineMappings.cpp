@@ -8,17 +8,13 @@
 namespace vantrell {
 namespace {
 
-// Dates of lines are whole seconds, which take a third less room than microseconds.
-std::int64_t seconds(Instant instant) {
-    return std::chrono::floor<std::chrono::seconds>(instant).time_since_epoch().count();
-}
-
 // A date outside the years 1 to 9999, which only a damaged store can hold, reads as none.
 Instant instant(const SqliteStatement& row, int column) {
     constexpr Instant end = std::chrono::sys_days{CivilDate{std::chrono::year{10000} / 1 / 1}};
     const std::int64_t value = row.integer(column);
-    return value < seconds(distantPast) || value >= seconds(end) ? distantPast
-                                                                 : Instant(std::chrono::seconds(value));
+    return value < lineSeconds(distantPast) || value >= lineSeconds(end)
+               ? distantPast
+               : Instant(std::chrono::seconds(value));
 }
 
 // A number outside the dictionary, which only a damaged store can hold, reads as the empty text there.
@@ -26,30 +22,6 @@ TextID textID(const SqliteStatement& row, int column) {
     const std::int64_t value = row.integer(column);
     return value < 0 || value > std::numeric_limits<TextID>::max() ? 0 : static_cast<TextID>(value);
 }
-
-/// Binds values to the parameters of one statement from the second on.
-class LineWriter {
-  public:
-    LineWriter(SqliteStatement& statement, DecimalScratch& scratch)
-        : statement_(statement), scratch_(scratch) {}
-
-    LineWriter& operator<<(std::int64_t value) {
-        statement_.bind(index_++, value);
-        return *this;
-    }
-    LineWriter& operator<<(TextID value) { return *this << static_cast<std::int64_t>(value); }
-    LineWriter& operator<<(Instant value) { return *this << seconds(value); }
-    LineWriter& operator<<(const Decimal& value) {
-        bindDecimal(statement_, index_++, value, scratch_.at(decimals_++));
-        return *this;
-    }
-
-  private:
-    SqliteStatement& statement_;
-    DecimalScratch& scratch_;
-    int index_ = 1;
-    std::size_t decimals_ = 0;
-};
 
 }  // namespace
 
@@ -76,16 +48,13 @@ const LineSQL LineMapping<SalesLine>::sql = {
         " FROM sales_line WHERE id >= ? AND id < ? ORDER BY id",
     .deleteLines = "DELETE FROM sales_line WHERE id >= ? AND id < ?"};
 
-void LineMapping<SalesLine>::write(SqliteStatement& statement, const SalesLine& line,
-                                   DecimalScratch& scratch) {
+void LineMapping<SalesLine>::write(LineWriter& writer, const SalesLine& line) {
     const SalesFigures& figures = line.figures;
-    LineWriter(statement, scratch) << figures.beginDate << figures.sku << figures.title << figures.productType
-                                   << figures.parentSKU << figures.units << figures.proceedsPerUnit
-                                   << figures.proceedsCurrency << figures.customerPrice
-                                   << figures.customerCurrency << figures.country << figures.appleID
-                                   << line.endDate << line.version << line.promoCode << line.subscription
-                                   << line.period << line.device << line.platforms << line.proceedsReason
-                                   << line.client << line.orderType;
+    writer << figures.beginDate << figures.sku << figures.title << figures.productType << figures.parentSKU
+           << figures.units << figures.proceedsPerUnit << figures.proceedsCurrency << figures.customerPrice
+           << figures.customerCurrency << figures.country << figures.appleID << line.endDate << line.version
+           << line.promoCode << line.subscription << line.period << line.device << line.platforms
+           << line.proceedsReason << line.client << line.orderType;
 }
 
 SalesFigures LineMapping<SalesLine>::readFigures(const SqliteStatement& row) {
@@ -145,13 +114,11 @@ const LineSQL LineMapping<FinanceLine>::sql = {
         " FROM finance_line WHERE id >= ? AND id < ? ORDER BY id",
     .deleteLines = "DELETE FROM finance_line WHERE id >= ? AND id < ?"};
 
-void LineMapping<FinanceLine>::write(SqliteStatement& statement, const FinanceLine& line,
-                                     DecimalScratch& scratch) {
-    LineWriter(statement, scratch) << line.startDate << line.endDate << line.vendorIdentifier << line.title
-                                   << line.productType << line.quantity << line.partnerShare
-                                   << line.extendedPartnerShare << line.partnerShareCurrency
-                                   << line.saleOrReturn << line.appleID << line.country << line.promoCode
-                                   << line.customerPrice << line.customerCurrency;
+void LineMapping<FinanceLine>::write(LineWriter& writer, const FinanceLine& line) {
+    writer << line.startDate << line.endDate << line.vendorIdentifier << line.title << line.productType
+           << line.quantity << line.partnerShare << line.extendedPartnerShare << line.partnerShareCurrency
+           << line.saleOrReturn << line.appleID << line.country << line.promoCode << line.customerPrice
+           << line.customerCurrency;
 }
 
 FinanceLine LineMapping<FinanceLine>::read(const SqliteStatement& row) {

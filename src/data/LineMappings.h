@@ -11,7 +11,7 @@ template <>
 struct LineMapping<SalesLine> {
     using Figures = SalesFigures;
     static const LineSQL sql;
-    static void write(SqliteStatement& statement, const SalesLine& line, DecimalScratch& scratch);
+    static void write(LineWriter& writer, const SalesLine& line);
     static SalesLine read(const SqliteStatement& row);
     static SalesFigures readFigures(const SqliteStatement& row);
     static SalesFigures figures(const SalesLine& line) { return line.figures; }
@@ -24,7 +24,7 @@ template <>
 struct LineMapping<FinanceLine> {
     using Figures = FinanceLine;
     static const LineSQL sql;
-    static void write(SqliteStatement& statement, const FinanceLine& line, DecimalScratch& scratch);
+    static void write(LineWriter& writer, const FinanceLine& line);
     static FinanceLine read(const SqliteStatement& row);
     static FinanceLine readFigures(const SqliteStatement& row) { return read(row); }
     static FinanceLine figures(const FinanceLine& line) { return line; }

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "data/LineWriter.h"
 #include "platform/Sqlite.h"
 
-#include <array>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -24,9 +24,6 @@ struct LineBatch {
     std::string label;  ///< report date or fiscal period
     std::int64_t lineCount = 0;
 };
-
-/// Keeps the texts of unusually long decimals until a statement has run.
-using DecimalScratch = std::array<std::string, 3>;
 
 /// The statements for one kind of line and its batches.
 struct LineSQL {
@@ -213,11 +210,10 @@ class LineTable {
         batch.bind(4, entry.batch.lineCount);
         batch.run();
         SqliteStatement& insert = prepared(insertLine_, Mapping::sql.insertLine);
-        DecimalScratch scratch;
+        LineWriter writer(insert);
         for (const Line& line : entry.lines) {
-            insert.bind(0, firstLine++);
-            Mapping::write(insert, line, scratch);
-            insert.run();
+            Mapping::write(writer, line);
+            writer.insert(firstLine++);
         }
     }
 

@@ -6,7 +6,8 @@ namespace vantrell {
 namespace {
 
 template <typename Row>
-auto encodedAll(const std::vector<Row>& rows, TextDictionary& texts) {
+auto encodedAll(const std::vector<Row>& rows, TextDictionary& dictionary) {
+    LineTexts texts(dictionary);
     std::vector<decltype(encoded(rows.front(), texts))> lines;
     lines.reserve(rows.size());
     for (const Row& row : rows) {

@@ -1,6 +1,5 @@
 #include "data/PackedDecimal.h"
 
-#include <cstdint>
 #include <limits>
 
 namespace vantrell {
@@ -10,7 +9,9 @@ constexpr int placesBits = 4;
 constexpr int maxPlaces = (1 << placesBits) - 1;
 constexpr std::int64_t maxCoefficient = std::numeric_limits<std::int64_t>::max() >> placesBits;
 
-std::optional<std::int64_t> packed(const Decimal& value) {
+}  // namespace
+
+std::optional<std::int64_t> packedDecimal(const Decimal& value) {
     const auto parts = value.parts();
     if (!parts || parts->exponent < -maxPlaces) {
         return std::nullopt;
@@ -29,22 +30,14 @@ std::optional<std::int64_t> packed(const Decimal& value) {
     return coefficient * (1 << placesBits) + places;
 }
 
-}  // namespace
-
-void bindDecimal(SqliteStatement& statement, int index, const Decimal& value, std::string& scratch) {
-    if (const auto number = packed(value)) {
-        statement.bind(index, *number);
-        return;
-    }
-    scratch = value.text();
-    statement.bind(index, std::string_view{scratch});
-}
-
 Decimal readDecimal(const SqliteStatement& statement, int column) {
     if (statement.isText(column)) {
         return Decimal::parse(statement.text(column)).value_or(Decimal());
     }
     const std::int64_t number = statement.integer(column);
+    if (number == 0) {
+        return {};  // every line of a free app
+    }
     return Decimal::scaled(number >> placesBits, -static_cast<int>(number & maxPlaces));
 }
 

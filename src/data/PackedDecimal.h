@@ -3,15 +3,15 @@
 #include "platform/Decimal.h"
 #include "platform/Sqlite.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace vantrell {
 
 /// How an exact decimal lies in a column: as the integer `coefficient * 16 + places` where up to 15 decimal
-/// places and 59 bits suffice, which is nearly always, and as exact text otherwise.
-///
-/// `scratch` keeps the text alive until the statement has run.
-void bindDecimal(SqliteStatement& statement, int index, const Decimal& value, std::string& scratch);
+/// places and 59 bits suffice, which is nearly always, and as exact text otherwise. This is the integer.
+[[nodiscard]] std::optional<std::int64_t> packedDecimal(const Decimal& value);
 
 /// What can't be read as a number is 0.
 [[nodiscard]] Decimal readDecimal(const SqliteStatement& statement, int column);

@@ -2,7 +2,8 @@
 
 namespace vantrell {
 
-SalesLine encoded(const ParsedSalesRow& row, TextDictionary& texts) {
+SalesLine encoded(const ParsedSalesRow& row, LineTexts& texts) {
+    texts.startLine();
     return {.figures = {.beginDate = row.beginDate,
                         .sku = texts.intern(row.sku),
                         .title = texts.intern(row.title),

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "data/LineTexts.h"
 #include "data/SalesRow.h"
-#include "data/TextDictionary.h"
 
 namespace vantrell {
 
@@ -36,7 +36,7 @@ struct SalesLine {
     TextID orderType = 0;
 };
 
-[[nodiscard]] SalesLine encoded(const ParsedSalesRow& row, TextDictionary& texts);
+[[nodiscard]] SalesLine encoded(const ParsedSalesRow& row, LineTexts& texts);
 [[nodiscard]] ParsedSalesRow decoded(const SalesLine& line, const TextDictionary& texts);
 
 }  // namespace vantrell

@@ -82,6 +82,9 @@ void SalesLoader::appendDate(SalesChunk& chunk, Instant date) {
 
 std::uint32_t SalesLoader::item(const SalesFigures& line, const TextDictionary& dictionary) {
     const ItemKey key{line.appleID, {line.sku, line.parentSKU, line.title, line.productType}};
+    if (lastItem_ && lastItem_->first == key) {
+        return lastItem_->second;
+    }
     const auto [known, isNew] = itemNumbers_.try_emplace(key, static_cast<std::uint32_t>(items_.size()));
     if (isNew) {
         const auto pooled = [&](TextID id) { return texts_.text(text(id, dictionary)); };
@@ -92,12 +95,16 @@ std::uint32_t SalesLoader::item(const SalesFigures& line, const TextDictionary& 
                           .productType = pooled(line.productType),
                           .kind = productKind(dictionary.text(line.productType))});
     }
+    lastItem_ = &*known;
     return known->second;
 }
 
 std::uint32_t SalesLoader::price(const SalesFigures& line, const TextDictionary& dictionary) {
     const PriceKey key{
         line.proceedsPerUnit, line.customerPrice, {line.proceedsCurrency, line.customerCurrency}};
+    if (lastPrice_ && lastPrice_->first == key) {
+        return lastPrice_->second;
+    }
     const auto [known, isNew] = priceNumbers_.try_emplace(key, static_cast<std::uint32_t>(prices_.size()));
     if (isNew) {
         prices_.push_back({.proceeds = ScaledPrice(line.proceedsPerUnit),
@@ -105,6 +112,7 @@ std::uint32_t SalesLoader::price(const SalesFigures& line, const TextDictionary&
                            .customerPrice = line.customerPrice,
                            .customerCurrency = texts_.text(text(line.customerCurrency, dictionary))});
     }
+    lastPrice_ = &*known;
     return known->second;
 }
 

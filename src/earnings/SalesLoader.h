@@ -53,6 +53,9 @@ class SalesLoader {
     std::vector<SalesPrice>& prices_;
     std::unordered_map<ItemKey, std::uint32_t, Hash> itemNumbers_;
     std::unordered_map<PriceKey, std::uint32_t, Hash> priceNumbers_;
+    // Those of the line before, which the next line often shares.
+    const std::pair<const ItemKey, std::uint32_t>* lastItem_ = nullptr;
+    const std::pair<const PriceKey, std::uint32_t>* lastPrice_ = nullptr;
 
     static constexpr std::uint32_t unknown = std::numeric_limits<std::uint32_t>::max();
     std::vector<std::uint32_t> textNumbers_;  // by number of the store's dictionary

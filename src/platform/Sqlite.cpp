@@ -19,6 +19,13 @@ sqlite3* connection(sqlite3_stmt* statement) {
     return sqlite3_db_handle(statement);
 }
 
+// Values are bound by the million, so that the connection is looked up only for an error.
+void checkBound(int result, sqlite3_stmt* statement) {
+    if (result != SQLITE_OK) {
+        check(result, connection(statement));
+    }
+}
+
 // A file URI is the only way to say "immutable", and a path may hold any character.
 std::string fileURI(const std::string& path, SqliteDatabase::Mode mode) {
     QUrl url = QUrl::fromLocalFile(QString::fromStdString(path));
@@ -39,18 +46,19 @@ void SqliteStatement::Finalizer::operator()(sqlite3_stmt* statement) const {
 }
 
 void SqliteStatement::bind(int index, std::int64_t value) {
-    check(sqlite3_bind_int64(statement_.get(), index + 1, value), connection(statement_.get()));
+    checkBound(sqlite3_bind_int64(statement_.get(), index + 1, value), statement_.get());
 }
 
 void SqliteStatement::bind(int index, double value) {
-    check(sqlite3_bind_double(statement_.get(), index + 1, value), connection(statement_.get()));
+    checkBound(sqlite3_bind_double(statement_.get(), index + 1, value), statement_.get());
 }
 
 void SqliteStatement::bind(int index, std::string_view text) {
     // An empty view may have no address, which SQLite would take for NULL.
     const char* bytes = text.empty() ? "" : text.data();
-    check(sqlite3_bind_text64(statement_.get(), index + 1, bytes, text.size(), SQLITE_STATIC, SQLITE_UTF8),
-          connection(statement_.get()));
+    checkBound(
+        sqlite3_bind_text64(statement_.get(), index + 1, bytes, text.size(), SQLITE_STATIC, SQLITE_UTF8),
+        statement_.get());
 }
 
 void SqliteStatement::bindNull(int index) {

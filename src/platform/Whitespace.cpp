@@ -61,16 +61,21 @@ bool isBlank(char32_t code) {
     return isSpace(code) || isNewline(code);
 }
 
+// Nearly all texts begin and end with one of these, which are no white space.
+bool isGraphicASCII(char letter) {
+    return letter > ' ' && letter <= '~';
+}
+
 template <bool (*isWanted)(char32_t)>
 std::string_view trim(std::string_view text) {
-    while (!text.empty()) {
+    while (!text.empty() && !isGraphicASCII(text.front())) {
         const Character first = firstOf(text);
         if (!isWanted(first.code)) {
             break;
         }
         text.remove_prefix(first.bytes);
     }
-    while (!text.empty()) {
+    while (!text.empty() && !isGraphicASCII(text.back())) {
         const Character last = lastOf(text);
         if (!isWanted(last.code)) {
             break;

@@ -37,8 +37,4 @@ std::size_t ReportColumns::indexOf(std::string_view key) const {
     return found == indexByKey_.end() ? absent : found->second;
 }
 
-std::string_view cell(std::size_t column, const Cells& cells) {
-    return column < cells.size() ? trimWhitespace(cells[column]) : std::string_view();
-}
-
 }  // namespace vantrell

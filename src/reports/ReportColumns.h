@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Whitespace.h"
 #include "reports/ReportLines.h"
 
 #include <cstddef>
@@ -35,6 +36,8 @@ class ReportColumns {
 };
 
 /// The trimmed cell at `column`; empty if the report or this line doesn't have it.
-[[nodiscard]] std::string_view cell(std::size_t column, const Cells& cells);
+[[nodiscard]] inline std::string_view cell(std::size_t column, const Cells& cells) {
+    return column < cells.size() ? trimWhitespace(cells[column]) : std::string_view();
+}
 
 }  // namespace vantrell

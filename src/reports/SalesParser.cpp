@@ -24,6 +24,26 @@ constexpr std::array<TextField<ParsedSalesRow>, 16> textFields{{
     {"order_type", &ParsedSalesRow::orderType},
 }};
 
+/// Reads a date column, whose cells are mostly the same from line to line. The texts must stay.
+class DateColumn {
+  public:
+    explicit DateColumn(std::size_t column) : column_(column) {}
+
+    [[nodiscard]] std::optional<Instant> read(const Cells& cells) {
+        const std::string_view text = cell(column_, cells);
+        if (text != lastText_) {
+            lastText_ = text;
+            lastDate_ = parseReportDate(text);
+        }
+        return lastDate_;
+    }
+
+  private:
+    std::size_t column_;
+    std::string_view lastText_;
+    std::optional<Instant> lastDate_;  // an empty text is no date
+};
+
 class SalesRowReader {
   public:
     using Row = ParsedSalesRow;
@@ -38,15 +58,15 @@ class SalesRowReader {
           appleID_(columns.indexOf("apple_identifier")) {}
 
     /// False, with nothing appended, for a line without a begin date.
-    bool append(const Cells& cells, std::vector<Row>& rows) const {
-        const auto beginDate = parseReportDate(cell(beginDate_, cells));
+    bool append(const Cells& cells, std::vector<Row>& rows) {
+        const auto beginDate = beginDate_.read(cells);
         if (!beginDate) {
             return false;
         }
         Row& row = rows.emplace_back();
         texts_.copy(cells, row);
         row.beginDate = *beginDate;
-        row.endDate = parseReportDate(cell(endDate_, cells)).value_or(*beginDate);
+        row.endDate = endDate_.read(cells).value_or(*beginDate);
         row.units = parseReportInteger(cell(units_, cells));
         row.proceedsPerUnit = parseReportDecimal(cell(proceeds_, cells));
         row.customerPrice = parseReportDecimal(cell(price_, cells));
@@ -56,8 +76,8 @@ class SalesRowReader {
 
   private:
     TextColumns<Row, textFields.size()> texts_;
-    std::size_t beginDate_;
-    std::size_t endDate_;
+    DateColumn beginDate_;
+    DateColumn endDate_;
     std::size_t units_;
     std::size_t proceeds_;
     std::size_t price_;
