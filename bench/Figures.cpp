@@ -1,8 +1,12 @@
 #include "Figures.h"
 
 #include "FirstFigures.h"
+#include "earnings/Exports.h"
 
 #include <functional>
+#include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace vantrell::bench {
 namespace {
@@ -14,12 +18,39 @@ struct Figure {
     std::function<std::size_t(const EarningsStore&)> work;  ///< gives how much came out
 };
 
+std::size_t dayTable(const EarningsStore& store) {
+    const ReportCalendar& calendar = store.calendar();
+    return store.dayTable(calendar.dayKey(365), calendar.dayKey(1), store.appFilter()).size();
+}
+
+std::size_t countries(const EarningsStore& store) {
+    constexpr std::size_t shown = 10;
+    return store.countryStats(store.appFilter(), shown).size();
+}
+
+std::size_t payouts(const EarningsStore& store) {
+    return store.financePeriods(store.appFilter()).size() + store.appPayouts().size();
+}
+
+std::size_t exports(const EarningsStore& store) {
+    std::size_t bytes = 0;
+    for (const ExportKind kind : exportKinds) {
+        bytes += exportText(store, kind).size();
+    }
+    return bytes;
+}
+
 std::vector<Figure> figures(const Locale& locale) {
     return {{"dashboard_ms", [&locale](const EarningsStore& store) { return dashboard(store, locale); }},
-            {"day_table_365_ms", [](const EarningsStore& store) {
-                 const ReportCalendar& calendar = store.calendar();
-                 return store.dayTable(calendar.dayKey(365), calendar.dayKey(1), store.appFilter()).size();
-             }}};
+            {"day_table_365_ms", dayTable},
+            {"apps_table_ms", [](const EarningsStore& store) { return store.appTable().size(); }},
+            {"product_windows_ms", [](const EarningsStore& store) { return store.productWindows().size(); }},
+            {"products_ms",
+             [](const EarningsStore& store) { return store.productStats(store.appFilter()).size(); }},
+            {"countries_ms", countries},
+            {"year_matrix_ms", [](const EarningsStore& store) { return store.yearMatrix().byApp.size(); }},
+            {"payouts_ms", payouts},
+            {"export_all_ms", exports}};
 }
 
 }  // namespace

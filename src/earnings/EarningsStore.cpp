@@ -45,9 +45,11 @@ void EarningsStore::reloadRows(ModelContext& context) {
     const std::int64_t load = loadRevision_ + 1;
     const bool hadSales = !salesRows_.empty();
     const bool hadFinance = !financeRows().empty();
-    salesRows_.load(context, load);
+    const bool salesChanged = salesRows_.load(context, load);
     financeRows_.load(context, load);
-    publish(catalog_, Catalog(salesRows_, locale_), &EarningsStore::catalogChanged);
+    if (salesChanged) {
+        publish(catalog_, Catalog(salesRows_, locale_), &EarningsStore::catalogChanged);
+    }
     if (hadSales || !salesRows_.empty()) {
         Q_EMIT salesRowsChanged();
     }

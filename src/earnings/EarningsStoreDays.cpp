@@ -49,10 +49,9 @@ std::vector<DayPoint> EarningsStore::dayPoints(const std::string& from, const st
 std::vector<DayTableRow> EarningsStore::dayTable(const std::string& from, const std::string& to,
                                                  const AppFilter& apps) const {
     std::map<std::string_view, StatsAccumulator> sums;
-    StatsAccumulator* ofDay = nullptr;
-    dailyRows(from, to, apps)
-        .forEach([&](const SalesChunk& report) { ofDay = &sums[report.reportDate]; },
-                 [&](const SalesRowRef& row) { row.addTo(*ofDay); });
+    const SalesSelection rows = dailyRows(from, to, apps);
+    rows.forEachReport(
+        [&](std::size_t chunk) { rows.addReport(chunk, sums[salesRows_.chunks()[chunk]->reportDate]); });
     std::vector<DayTableRow> table;
     for (const auto& [key, date] : days(from, to)) {
         const auto sum = sums.find(key);

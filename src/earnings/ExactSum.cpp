@@ -16,6 +16,10 @@ ScaledPrice::ScaledPrice(const Decimal& price) : price_(price), scaled_(unscaled
     scaled_ = scaled;
 }
 
+void ExactSum::addRest(std::int64_t units, const ScaledPrice& price) {
+    rest_ += Decimal(units) * price.value();
+}
+
 Decimal ExactSum::total() const {
     // Two halves that each fit in 64 bits, or three for sums that no account has.
     constexpr std::int64_t step = 1'000'000'000'000'000'000;

@@ -31,12 +31,12 @@ class ExactSum {
   public:
     /// An amount of zero leaves no trace.
     void add(std::int64_t units, const ScaledPrice& price) {
-        if (units == 0 || price.isZero()) {
-            return;
-        }
-        touched_ = true;
-        if (price.scaled_ == ScaledPrice::unscaled || units != static_cast<std::int32_t>(units)) {
-            rest_ += Decimal(units) * price.value();
+        // Whether there is an amount can't be guessed from line to line, so it is worked out without
+        // branches.
+        touched_ = touched_ || ((units != 0) & (price.scaled_ != 0));
+        if (price.scaled_ == ScaledPrice::unscaled || units != static_cast<std::int32_t>(units))
+            [[unlikely]] {
+            addRest(units, price);
         } else {
             scaled_ += static_cast<Wide>(units) * price.scaled_;
         }
@@ -52,6 +52,8 @@ class ExactSum {
     [[nodiscard]] Decimal total() const;
 
   private:
+    void addRest(std::int64_t units, const ScaledPrice& price);
+
     // 2^31 units times 2^63 millionths leave room for 2^33 lines.
     __extension__ using Wide = __int128;
     Wide scaled_ = 0;

@@ -57,7 +57,10 @@ struct SalesChunk {
     [[nodiscard]] std::size_t size() const { return items.size(); }
     [[nodiscard]] Instant dateOf(std::size_t row) const { return dates.empty() ? date : dates[row]; }
     [[nodiscard]] std::int64_t unitsOf(std::size_t row) const {
-        return units[row] == largeUnits ? unitsByRow.at(row) : units[row];
+        if (units[row] == largeUnits) [[unlikely]] {
+            return unitsByRow.at(row);
+        }
+        return units[row];
     }
 };
 

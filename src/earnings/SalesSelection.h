@@ -45,18 +45,29 @@ class SalesSelection {
     /// Before the lines of each report calls `visitReport` with it.
     template <typename VisitReport, typename Visit>
     void forEach(VisitReport visitReport, Visit visit) const {
+        forEachReport([&](std::size_t chunk) {
+            const SalesChunk& lines = *snapshot_->chunks()[chunk];
+            visitReport(lines);
+            for (std::size_t row = 0; row < lines.size(); ++row) {
+                if (!mask_ || (*mask_)[lines.items[row]]) {
+                    visit(SalesRowRef{snapshot_, chunk, row});
+                }
+            }
+        });
+    }
+
+    /// Calls `visit` with the number of each report's chunk.
+    template <typename Visit>
+    void forEachReport(Visit visit) const {
         for (const auto& span : spans_) {
             for (std::size_t chunk = span.first; chunk < span.last; ++chunk) {
-                const SalesChunk& lines = *snapshot_->chunks()[chunk];
-                visitReport(lines);
-                for (std::size_t row = 0; row < lines.size(); ++row) {
-                    if (!mask_ || (*mask_)[lines.items[row]]) {
-                        visit(SalesRowRef{snapshot_, chunk, row});
-                    }
-                }
+                visit(chunk);
             }
         }
     }
+
+    /// Adds up those lines of one report that pass the filter.
+    void addReport(std::size_t chunk, StatsAccumulator& sum) const;
 
     /// Whether the report with this number of a chunk is among them; which of its lines pass is another
     /// matter.
@@ -67,9 +78,15 @@ class SalesSelection {
     [[nodiscard]] AggregateStats aggregate() const;
 
   private:
+    friend std::vector<AggregateStats> aggregates(const std::vector<SalesSelection>& selections);
+
     const SalesSnapshot* snapshot_;
     std::vector<SalesSnapshot::Span> spans_;
     ItemMask mask_;
 };
+
+/// `SalesSelection::aggregate` of each, for selections of one snapshot that pass the same items: lines that
+/// lie in several of them are walked through once.
+[[nodiscard]] std::vector<AggregateStats> aggregates(const std::vector<SalesSelection>& selections);
 
 }  // namespace vantrell

@@ -3,16 +3,18 @@
 #include <algorithm>
 #include <tuple>
 #include <unordered_map>
+#include <utility>
 
 namespace vantrell {
 
-void SalesSnapshot::load(ModelContext& context, std::int64_t load) {
+bool SalesSnapshot::load(ModelContext& context, std::int64_t load) {
     load_ = load;
+    const auto before = std::exchange(chunks_, {});
     std::unordered_map<BatchID, std::shared_ptr<const SalesChunk>> known;
-    for (auto& chunk : chunks_) {
-        known.emplace(chunk->batch, std::move(chunk));
+    known.reserve(before.size());
+    for (const auto& chunk : before) {
+        known.emplace(chunk->batch, chunk);
     }
-    chunks_.clear();
     try {
         for (const LineBatch& batch : context.salesLines().batches()) {
             const auto unchanged = known.find(batch.id);
@@ -32,6 +34,7 @@ void SalesSnapshot::load(ModelContext& context, std::int64_t load) {
         firstRow_.push_back(size_);
         size_ += chunk->size();
     }
+    return chunks_ != before;
 }
 
 SalesSnapshot::Span SalesSnapshot::span(ReportFrequency frequency, const std::optional<std::string>& from,

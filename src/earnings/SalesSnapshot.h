@@ -31,7 +31,8 @@ class SalesSnapshot {
 
     /// Takes over what the context holds now; always of the same store. If that can't be read, the snapshot
     /// is empty. `load` numbers the reload, for the identities of the rows.
-    void load(ModelContext& context, std::int64_t load);
+    /// False if the lines are those of the load before.
+    bool load(ModelContext& context, std::int64_t load);
 
     [[nodiscard]] std::size_t size() const { return size_; }
     [[nodiscard]] bool empty() const { return size_ == 0; }

@@ -5,6 +5,8 @@
 #include "earnings/ProductKind.h"
 #include "earnings/TextPool.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -23,15 +25,16 @@ namespace vantrell {
 class StatsAccumulator {
   public:
     /// `currency` is a number of the pool that is handed to `stats`.
+    ///
+    /// Lines come by the million and in no order that a processor could guess, so they are sorted by place
+    /// and not by branches; `stats` reads the table above.
     void add(ProductKind kind, std::int64_t units, const ScaledPrice& price, std::uint32_t currency) {
-        addUnits(kind, units);
-        if (kind == ProductKind::update || kind == ProductKind::redownload || price.isZero()) {
-            return;
-        }
+        const auto row = static_cast<std::size_t>(kind);
+        units_[row][units < 0 ? 1 : 0] += units;
         if (currency >= sums_.size()) {
             sums_.resize(currency + 1U);
         }
-        sums_[currency].add(units, price);
+        sums_[currency].add(bringsMoney[row] ? units : 0, price);
     }
 
     /// Adds all that another one has counted, whose currencies are of the same pool.
@@ -40,9 +43,18 @@ class StatsAccumulator {
     [[nodiscard]] AggregateStats stats(const TextPool& currencies) const;
 
   private:
-    void addUnits(ProductKind kind, std::int64_t units);
+    [[nodiscard]] std::int64_t sold(ProductKind kind) const {
+        return units_[static_cast<std::size_t>(kind)][0];
+    }
+    /// Negative.
+    [[nodiscard]] std::int64_t refunded(ProductKind kind) const {
+        return units_[static_cast<std::size_t>(kind)][1];
+    }
 
-    AggregateStats counts_;
+    // In the order of ProductKind.
+    static constexpr std::size_t kinds = 5;
+    static constexpr std::array<bool, kinds> bringsMoney{true, true, false, false, true};
+    std::array<std::array<std::int64_t, 2>, kinds> units_{};  // of 0 or more, and below 0
     std::vector<ExactSum> sums_;
 };
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 namespace vantrell {
 namespace {
@@ -40,20 +41,28 @@ std::optional<std::string> sinceText(const EarningsStore& store) {
 std::vector<HeadlineFigure> headlineFigures(const EarningsStore& store, const Locale& locale) {
     const ReportCalendar& calendar = store.calendar();
     const AppFilter& apps = store.appFilter();
-    const auto range = [&](const std::string& from, const std::string& to) {
-        return store.dailyRows(from, to, apps).aggregate();
-    };
     const std::string yesterday = calendar.dayKey(1);
     std::vector<HeadlineFigure> figures;
+    std::vector<SalesSelection> rows;
+    const auto add = [&](std::string title, std::optional<std::string> subtitle, SalesSelection selection) {
+        figures.push_back({std::move(title), std::move(subtitle), {}});
+        rows.push_back(std::move(selection));
+    };
     if (const auto day = mostRecentOkDay(store)) {
-        figures.push_back(
-            {"Most recent day with data", dayShortText(store, locale, *day), range(*day, *day)});
+        add("Most recent day with data", dayShortText(store, locale, *day),
+            store.dailyRows(*day, *day, apps));
     }
-    figures.push_back({"Last 7 days", std::nullopt, range(calendar.dayKey(7), yesterday)});
-    figures.push_back({"Last 30 days", std::nullopt, range(calendar.dayKey(30), yesterday)});
-    figures.push_back(
-        {"Year to date", std::nullopt, range(calendar.currentYearLabel() + "-01-01", yesterday)});
-    figures.push_back({"All time", sinceText(store), store.allTimeRows(apps).aggregate()});
+    const auto untilYesterday = [&](const std::string& from) {
+        return store.dailyRows(from, yesterday, apps);
+    };
+    add("Last 7 days", std::nullopt, untilYesterday(calendar.dayKey(7)));
+    add("Last 30 days", std::nullopt, untilYesterday(calendar.dayKey(30)));
+    add("Year to date", std::nullopt, untilYesterday(calendar.currentYearLabel() + "-01-01"));
+    add("All time", sinceText(store), store.allTimeRows(apps));
+    auto stats = aggregates(rows);
+    for (std::size_t number = 0; number < figures.size(); ++number) {
+        figures[number].stats = std::move(stats[number]);
+    }
     return figures;
 }
 
