@@ -3,8 +3,6 @@
 #include "testing/FixedLocalTime.h"
 #include "testing/ManualClock.h"
 
-#include <limits>
-
 #include <gtest/gtest.h>
 
 namespace vantrell {
@@ -24,18 +22,12 @@ TEST(ReportCalendar, DaysAndMonthsBackAreThoseOfTheUsersZone) {
         std::string yesterday;
         std::string lastMonth;
     } cases[] = {
-        {"spring forward in Berlin", "Europe/Berlin", sys_days(2026y / 3 / 29) + 22h + 30min, "2026-03-30",
-         "2026-03-29", "2026-02"},
         {"the long day in Los Angeles", "America/Los_Angeles", sys_days(2026y / 11 / 2) + 7h + 59min,
          "2026-11-01", "2026-10-31", "2026-10"},
         {"after the day that Samoa left out", "Pacific/Apia", sys_days(2011y / 12 / 30) + 10h, "2011-12-31",
          "2011-12-30", "2011-11"},
         {"a day without midnight", "America/Sao_Paulo", sys_days(2018y / 11 / 4) + 3h, "2018-11-04",
          "2018-11-03", "2018-10"},
-        {"the day after one without midnight", "America/Sao_Paulo", sys_days(2018y / 11 / 5) + 3h,
-         "2018-11-05", "2018-11-04", "2018-10"},
-        {"first into the year", "Pacific/Kiritimati", sys_days(2025y / 12 / 31) + 10h, "2026-01-01",
-         "2025-12-31", "2025-12"},
         {"a quarter of an hour before the year", "Asia/Kathmandu", sys_days(2025y / 12 / 31) + 18h,
          "2025-12-31", "2025-12-30", "2025-11"},
         {"the end of a long month", "UTC", sys_days(2026y / 3 / 31), "2026-03-31", "2026-03-30", "2026-02"},
@@ -53,8 +45,7 @@ TEST(ReportCalendar, DaysAndMonthsBackAreThoseOfTheUsersZone) {
 
 TEST(ReportCalendar, AYearOfOffsetsNamesEveryDayOnceInEveryZone) {
     const ManualClock clock(sys_days(2012y / 3 / 1) + 11h);
-    for (const std::string name :
-         {"Pacific/Apia", "America/Sao_Paulo", "Europe/Berlin", "Pacific/Kiritimati"}) {
+    for (const std::string name : {"Pacific/Apia", "America/Sao_Paulo", "Europe/Berlin"}) {
         const FixedLocalTime zone(name);
         const ReportCalendar calendar(clock, zone);
         const auto range = days(calendar.dayKey(365), calendar.dayKey(1));
@@ -83,18 +74,6 @@ TEST(ReportCalendar, FiscalPeriodsTurnAtMidnightInLosAngelesWhereverTheUserIs) {
         const ReportCalendar calendar(clock, zone);
         EXPECT_EQ(calendar.currentFiscalPeriod(), "2026-12") << name;
         EXPECT_EQ(calendar.fiscalPeriodAt(clock.now() + 1min), "2027-01") << name;
-    }
-}
-
-TEST(ReportCalendar, AnOffsetBeyondTheCalendarHasNoDateAndTodaysKey) {
-    const ManualClock clock(sys_days(2026y / 11 / 22));
-    const FixedLocalTime zone("UTC");
-    const ReportCalendar calendar(clock, zone);
-    for (const int offset : {std::numeric_limits<int>::min(), 4'000'000, std::numeric_limits<int>::max()}) {
-        EXPECT_EQ(calendar.dateDaysAgo(offset), std::nullopt);
-        EXPECT_EQ(calendar.dateMonthsAgo(offset), std::nullopt);
-        EXPECT_EQ(calendar.dayKey(offset), "2026-11-22");
-        EXPECT_EQ(calendar.monthKey(offset), "2026-11");
     }
 }
 

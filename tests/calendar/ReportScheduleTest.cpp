@@ -12,21 +12,19 @@ TEST(ReportSchedule, ADayIsAskedForByItsStoredStatusAndAge) {
         bool dueAtOne;
         bool dueAtThree;
         bool dueAtFour;
-        bool dueAtFourteen;
         bool final;
     } table[] = {
-        {ok, false, false, false, false, true},
-        {unavailable, false, false, false, false, true},
-        {empty, true, true, false, false, false},
-        {pending, true, true, true, true, false},
-        {ReportStatus::error, true, true, true, true, false},
-        {missing, true, true, true, true, false},
+        {ok, false, false, false, true},
+        {unavailable, false, false, false, true},
+        {empty, true, true, false, false},
+        {pending, true, true, true, false},
+        {ReportStatus::error, true, true, true, false},
+        {missing, true, true, true, false},
     };
     for (const auto& row : table) {
         EXPECT_EQ(isDayDue(row.stored, 1), row.dueAtOne) << rawText(row.stored);
         EXPECT_EQ(isDayDue(row.stored, 3), row.dueAtThree) << rawText(row.stored);
         EXPECT_EQ(isDayDue(row.stored, 4), row.dueAtFour) << rawText(row.stored);
-        EXPECT_EQ(isDayDue(row.stored, 14), row.dueAtFourteen) << rawText(row.stored);
         EXPECT_EQ(isFinal(row.stored), row.final) << rawText(row.stored);
     }
 }
