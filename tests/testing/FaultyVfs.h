@@ -22,8 +22,6 @@ class FaultyVfs {
     void failWritesFrom(int count, int result);
     /// Every read fails with an I/O error.
     void failReads(bool fail) { failReads_ = fail; }
-    /// How many writes were asked for since `failWritesFrom`.
-    [[nodiscard]] int writes() const { return writes_; }
 
     // For the file layer's own functions.
     [[nodiscard]] int countWrite();

@@ -21,35 +21,18 @@ Lines linesOf(const std::string& text) {
     return lines;
 }
 
-/// For every pair of line numbers: how many lines are common to what follows them, in order.
-std::vector<std::vector<int>> commonTails(const Lines& expected, const Lines& actual) {
-    std::vector<std::vector<int>> tails(expected.size() + 1, std::vector<int>(actual.size() + 1, 0));
-    for (std::size_t left = expected.size(); left-- > 0;) {
-        for (std::size_t right = actual.size(); right-- > 0;) {
-            tails[left][right] = expected[left] == actual[right]
-                                     ? tails[left + 1][right + 1] + 1
-                                     : std::max(tails[left + 1][right], tails[left][right + 1]);
-        }
-    }
-    return tails;
-}
-
+/// The lines between the first and the last that differ.
 std::string difference(const Lines& expected, const Lines& actual) {
-    const auto tails = commonTails(expected, actual);
-    std::string text;
-    std::size_t left = 0;
-    std::size_t right = 0;
-    while (left < expected.size() || right < actual.size()) {
-        if (left < expected.size() && right < actual.size() && expected[left] == actual[right]) {
-            text += "  " + expected[left++] + '\n';
-            ++right;
-        } else if (right == actual.size() ||
-                   (left < expected.size() && tails[left + 1][right] >= tails[left][right + 1])) {
-            text += "- " + expected[left++] + '\n';
-        } else {
-            text += "+ " + actual[right++] + '\n';
-        }
+    const auto [left, right] = std::ranges::mismatch(expected, actual);
+    auto leftEnd = expected.end();
+    auto rightEnd = actual.end();
+    while (leftEnd != left && rightEnd != right && *std::prev(leftEnd) == *std::prev(rightEnd)) {
+        --leftEnd;
+        --rightEnd;
     }
+    std::string text = "from line " + std::to_string(left - expected.begin() + 1) + '\n';
+    std::for_each(left, leftEnd, [&text](const auto& line) { text += "- " + line + '\n'; });
+    std::for_each(right, rightEnd, [&text](const auto& line) { text += "+ " + line + '\n'; });
     return text;
 }
 

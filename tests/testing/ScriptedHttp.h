@@ -15,7 +15,6 @@ class ScriptedHttp final : public HttpClient {
     [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest request, CancelToken cancel) override;
 
     void answer(int status, std::string body) { answers.emplace_back(HttpResponse{status, std::move(body)}); }
-    void fail(std::string description) { answers.emplace_back(HttpFailure{std::move(description)}); }
 
     std::vector<HttpRequest> requests;
     std::deque<HttpResult> answers;
