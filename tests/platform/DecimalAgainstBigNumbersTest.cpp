@@ -27,9 +27,9 @@ class NumberSource {
 
     BigDecimal next(int mostDigits, int mostExponent) {
         std::string digits = std::to_string(1 + below(9));
-        const auto length = static_cast<std::size_t>(1 + below(mostDigits));
+        const auto length = 1 + static_cast<std::size_t>(below(mostDigits));
         while (digits.size() < length) {
-            const auto run = below(3) == 0 ? static_cast<std::size_t>(1 + below(20)) : 1;
+            const auto run = below(3) == 0 ? 1 + static_cast<std::size_t>(below(20)) : 1;
             digits.append(std::min(run, length - digits.size()), "0123456789995"[below(13)]);
         }
         return {(below(2) == 0 ? "-" : "") + digits, below(2 * mostExponent + 1) - mostExponent};
