@@ -28,6 +28,12 @@ std::size_t countries(const EarningsStore& store) {
     return store.countryStats(store.appFilter(), shown).size();
 }
 
+std::size_t trend(const EarningsStore& store) {
+    const ReportCalendar& calendar = store.calendar();
+    return store.trend(calendar.dayKey(365), calendar.dayKey(1), TrendGranularity::day, store.appFilter())
+        .points.size();
+}
+
 std::size_t payouts(const EarningsStore& store) {
     return store.financePeriods(store.appFilter()).size() + store.appPayouts().size();
 }
@@ -49,6 +55,7 @@ std::vector<Figure> figures(const Locale& locale) {
              [](const EarningsStore& store) { return store.productStats(store.appFilter()).size(); }},
             {"countries_ms", countries},
             {"year_matrix_ms", [](const EarningsStore& store) { return store.yearMatrix().byApp.size(); }},
+            {"trend_365_ms", trend},
             {"payouts_ms", payouts},
             {"export_all_ms", exports}};
 }
