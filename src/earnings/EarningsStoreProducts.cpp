@@ -1,8 +1,9 @@
 #include "earnings/EarningsStore.h"
 #include "earnings/ItemGroups.h"
-#include "earnings/LineValues.h"
 
 #include <algorithm>
+#include <map>
+#include <optional>
 #include <utility>
 
 // What sold in all time, by product and by country.
@@ -30,6 +31,27 @@ Name nameOf(std::int64_t id, const Catalog& catalog) {
 
 /// The sum of one product's lines, if it has any.
 using ProductSum = std::optional<StatsAccumulator>;
+
+/// What the lines of one country and currency sum up to. Lines worth nothing make a country appear as well.
+struct CountryMoney {
+    bool isSeen = false;
+    ExactSum sum;
+};
+using CountrySums = std::map<std::uint32_t, std::vector<CountryMoney>>;
+
+/// What could be converted of one country's money; absent if nothing could.
+std::optional<Decimal> converted(const std::vector<CountryMoney>& byCurrency, const TextPool& currencies,
+                                 const CurrencyConverter& converter) {
+    std::optional<Decimal> total;
+    for (std::uint32_t currency = 0; currency < byCurrency.size(); ++currency) {
+        const auto conversion =
+            byCurrency[currency].isSeen ? converter.conversion(currencies.text(currency)) : std::nullopt;
+        if (conversion) {
+            total = total.value_or(Decimal()) + (*conversion)(byCurrency[currency].sum.total());
+        }
+    }
+    return total;
+}
 
 }  // namespace
 
@@ -59,22 +81,29 @@ std::vector<ProductStat> EarningsStore::productStats(const AppFilter& apps) cons
 }
 
 std::vector<CountryStat> EarningsStore::countryStats(const AppFilter& apps, std::size_t limit) const {
-    LineValues values(salesRows_, converter_);
-    std::vector<std::optional<Decimal>> sums(salesRows_.texts().size());
+    // Exact sums by country and currency, each converted once: nearer to the truth than rounding every line
+    // at its last digit, and faster.
+    CountrySums sums;
+    std::vector<std::vector<CountryMoney>*> byText(salesRows_.texts().size());
     allTimeRows(apps).forEach([&](const SalesRowRef& row) {
         if (!isSold(row.item().kind)) {
             return;
         }
-        if (const auto amount = values.amount(row)) {
-            auto& sum = sums[row.chunk().countries[row.index]];
-            sum = sum ? *sum + *amount : *amount;
+        const std::uint32_t country = row.chunk().countries[row.index];
+        if (byText[country] == nullptr) {
+            byText[country] = &sums[country];
+            byText[country]->resize(salesRows_.currencies().size());
         }
+        const SalesPrice& price = row.price();
+        CountryMoney& money = (*byText[country])[price.currency];
+        money.isSeen = true;
+        money.sum.add(row.units(), price.proceeds);
     });
     std::map<std::string, Decimal> byCountry;
-    for (std::uint32_t country = 0; country < sums.size(); ++country) {
-        if (sums[country]) {
+    for (const auto& [country, byCurrency] : sums) {
+        if (const auto amount = converted(byCurrency, salesRows_.currencies(), converter_)) {
             const auto code = salesRows_.texts().text(country);
-            byCountry[code.empty() ? "—" : std::string(code)] += *sums[country];
+            byCountry[code.empty() ? "—" : std::string(code)] += *amount;
         }
     }
     std::vector<CountryStat> countries;

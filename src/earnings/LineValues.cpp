@@ -1,49 +1,65 @@
 #include "earnings/LineValues.h"
 
+#include <cmath>
+#include <limits>
+
 namespace vantrell {
 namespace {
 
 constexpr std::int64_t fewestUnits = -2;
-constexpr std::int64_t mostUnits = 5;
+constexpr std::int64_t mostUnits = 13;
 constexpr auto fewUnits = static_cast<std::size_t>(mostUnits - fewestUnits + 1);
+
+constexpr double notConverted = std::numeric_limits<double>::quiet_NaN();
+constexpr double withoutRate = std::numeric_limits<double>::infinity();
+
+constexpr unsigned unitsBits = 32;
+
+bool fitsInKey(std::int64_t units) {
+    return units == static_cast<std::int32_t>(units);
+}
+
+std::uint64_t key(std::uint32_t price, std::int64_t units) {
+    return std::uint64_t{price} << unitsBits | static_cast<std::uint32_t>(units);
+}
 
 }  // namespace
 
 LineValues::LineValues(const SalesSnapshot& snapshot, const CurrencyConverter& converter)
-    : snapshot_(snapshot), ofFewUnits_(snapshot.prices().size() * fewUnits) {
+    : snapshot_(snapshot), ofFewUnits_(snapshot.prices().size() * fewUnits, notConverted) {
     conversions_.reserve(snapshot.currencies().size());
     for (std::uint32_t currency = 0; currency < snapshot.currencies().size(); ++currency) {
         conversions_.push_back(converter.conversion(snapshot.currencies().text(currency)));
     }
 }
 
-const LineValues::Worth* LineValues::worth(const SalesRowRef& row) {
-    const std::uint32_t number = row.chunk().prices[row.index];
-    const SalesPrice& price = snapshot_.prices()[number];
-    const auto& conversion = conversions_[price.currency];
-    if (!conversion) {
-        return nullptr;
-    }
-    const std::int64_t units = row.units();
-    const bool isFew = units >= fewestUnits && units <= mostUnits;
-    Worth& worth = isFew ? ofFewUnits_[number * fewUnits + static_cast<std::size_t>(units - fewestUnits)]
-                         : ofManyUnits_[number][units];
-    if (!worth.isKnown) {
-        worth.amount = (*conversion)(Decimal(units) * price.proceeds.value());
-        worth.value = worth.amount.toDouble();
-        worth.isKnown = true;
-    }
-    return &worth;
-}
-
-std::optional<Decimal> LineValues::amount(const SalesRowRef& row) {
-    const Worth* known = worth(row);
-    return known == nullptr ? std::nullopt : std::optional(known->amount);
-}
-
 std::optional<double> LineValues::value(const SalesRowRef& row) {
-    const Worth* known = worth(row);
-    return known == nullptr ? std::nullopt : std::optional(known->value);
+    const SalesChunk& chunk = row.chunk();
+    const std::uint32_t price = chunk.prices[row.index];
+    const std::int64_t units = chunk.unitsOf(row.index);
+    double value = notConverted;
+    if (units >= fewestUnits && units <= mostUnits) {
+        double& known = ofFewUnits_[price * fewUnits + static_cast<std::size_t>(units - fewestUnits)];
+        if (std::isnan(known)) [[unlikely]] {
+            known = converted(price, units);
+        }
+        value = known;
+    } else if (fitsInKey(units)) {
+        const auto [known, isNew] = ofManyUnits_.try_emplace(key(price, units), notConverted);
+        if (isNew) {
+            known->second = converted(price, units);
+        }
+        value = known->second;
+    } else {
+        value = converted(price, units);
+    }
+    return value == withoutRate ? std::nullopt : std::optional(value);
+}
+
+double LineValues::converted(std::uint32_t price, std::int64_t units) const {
+    const SalesPrice& known = snapshot_.prices()[price];
+    const auto& conversion = conversions_[known.currency];
+    return conversion ? (*conversion)(Decimal(units) * known.proceeds.value()).toDouble() : withoutRate;
 }
 
 }  // namespace vantrell
