@@ -1,26 +1,38 @@
 #include "earnings/FinanceSnapshot.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vantrell {
 
 void FinanceSnapshot::load(ModelContext& context, std::int64_t load) {
+    const auto batches = context.financeLines().batches();
+    // A batch never changes, so the same batches hold the same rows.
+    const bool isUnchanged = std::ranges::equal(batches, batches_, {}, &LineBatch::id, &LineBatch::id);
+    if (!isUnchanged) {
+        read(context, batches);
+    }
+    for (std::uint64_t index = 0; index < rows_.size(); ++index) {
+        rows_[index].id = {load, index};
+    }
+}
+
+void FinanceSnapshot::read(ModelContext& context, const std::vector<LineBatch>& batches) {
     auto known = std::exchange(rowsByBatch_, {});
     rows_.clear();
+    batches_.clear();
     try {
-        for (const LineBatch& batch : context.financeLines().batches()) {
+        for (const LineBatch& batch : batches) {
             const auto unchanged = known.find(batch.id);
             auto rows = unchanged != known.end() ? std::move(unchanged->second) : readBatch(context, batch);
             rows_.insert(rows_.end(), rows.begin(), rows.end());
             rowsByBatch_.emplace(batch.id, std::move(rows));
         }
+        batches_ = batches;
     } catch (const SqliteError&) {
         // A store that can't be read shows as an empty one; the next reload tries again.
         rows_.clear();
         rowsByBatch_.clear();
-    }
-    for (std::uint64_t index = 0; index < rows_.size(); ++index) {
-        rows_[index].id = {load, index};
     }
 }
 

@@ -25,9 +25,11 @@ class FinanceSnapshot {
     [[nodiscard]] const std::vector<FinanceRowLite>& rows() const { return rows_; }
 
   private:
+    void read(ModelContext& context, const std::vector<LineBatch>& batches);
     std::vector<FinanceRowLite> readBatch(ModelContext& context, const LineBatch& batch);
 
     TextPool texts_;
+    std::vector<LineBatch> batches_;  // what the rows were read from
     std::map<BatchID, std::vector<FinanceRowLite>> rowsByBatch_;
     std::vector<FinanceRowLite> rows_;
 };
