@@ -21,8 +21,6 @@ struct SalesRowRef {
     [[nodiscard]] const SalesItem& item() const { return snapshot->items()[itemNumber()]; }
     [[nodiscard]] const SalesPrice& price() const { return snapshot->prices()[chunk().prices[index]]; }
     [[nodiscard]] std::int64_t units() const { return chunk().unitsOf(index); }
-    [[nodiscard]] Decimal amount() const { return Decimal(units()) * price().proceeds.value(); }
-    [[nodiscard]] std::string_view currency() const { return snapshot->currencies().text(price().currency); }
     void addTo(StatsAccumulator& sum) const {
         sum.add(item().kind, units(), price().proceeds, price().currency);
     }

@@ -49,10 +49,6 @@ void SqliteStatement::bind(int index, std::int64_t value) {
     checkBound(sqlite3_bind_int64(statement_.get(), index + 1, value), statement_.get());
 }
 
-void SqliteStatement::bind(int index, double value) {
-    checkBound(sqlite3_bind_double(statement_.get(), index + 1, value), statement_.get());
-}
-
 void SqliteStatement::bind(int index, std::string_view text) {
     // An empty view may have no address, which SQLite would take for NULL.
     const char* bytes = text.empty() ? "" : text.data();
@@ -90,10 +86,6 @@ void SqliteStatement::reset() {
 
 std::int64_t SqliteStatement::integer(int column) const {
     return sqlite3_column_int64(statement_.get(), column);
-}
-
-double SqliteStatement::real(int column) const {
-    return sqlite3_column_double(statement_.get(), column);
 }
 
 std::string_view SqliteStatement::text(int column) const {

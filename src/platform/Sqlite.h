@@ -25,7 +25,6 @@ class SqliteError : public std::runtime_error {
 class SqliteStatement {
   public:
     void bind(int index, std::int64_t value);
-    void bind(int index, double value);
     /// The bytes must stay where they are until the statement is reset.
     void bind(int index, std::string_view text);
     void bindNull(int index);
@@ -37,7 +36,6 @@ class SqliteStatement {
     void reset();
 
     [[nodiscard]] std::int64_t integer(int column) const;
-    [[nodiscard]] double real(int column) const;
     /// Valid until the next step or reset.
     [[nodiscard]] std::string_view text(int column) const;
     [[nodiscard]] bool isNull(int column) const;

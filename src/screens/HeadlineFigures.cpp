@@ -9,8 +9,6 @@
 namespace vantrell {
 namespace {
 
-constexpr std::size_t yearDigits = 4;
-
 std::optional<std::string> mostRecentOkDay(const EarningsStore& store) {
     const auto& statuses = store.dailyStatuses();
     const auto newest = std::find_if(statuses.rbegin(), statuses.rend(),
@@ -31,7 +29,7 @@ std::optional<std::string> sinceText(const EarningsStore& store) {
         return "Since " + store.yearlyOKLabels().front();
     }
     if (!store.dailyStatuses().empty()) {
-        return "Since " + store.dailyStatuses().begin()->first.substr(0, yearDigits);
+        return "Since " + std::string(yearOf(store.dailyStatuses().begin()->first));
     }
     return std::nullopt;
 }
