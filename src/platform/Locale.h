@@ -40,23 +40,54 @@ class Locale {
     [[nodiscard]] std::optional<std::string> currencyCode() const;
     /// ISO 3166 code of the monetary locale's region, such as "DE"; absent as above.
     [[nodiscard]] std::optional<std::string> regionCode() const;
+    /// BCP 47 tag of the messages locale, such as "de-DE".
+    [[nodiscard]] std::string languageTag() const;
+    /// Whether the messages locale's script is.
+    [[nodiscard]] bool isRightToLeft() const;
+    /// The name of an ISO 3166 region in the messages locale; an unknown code as it is.
+    [[nodiscard]] std::string regionName(std::string_view code) const;
 
     /// `amount` as money in `currency`, with the digits usual for that currency and rounded half away from
     /// zero, such as "$1,234.50". A code that is no currency stands before the amount as it is, and the
     /// amount has two digits then. What rounds to zero has no sign.
     [[nodiscard]] std::string money(const Decimal& amount, std::string_view currency) const;
+    /// As `money` without fraction digits, such as "$1,235".
+    [[nodiscard]] std::string wholeMoney(const Decimal& amount, std::string_view currency) const;
+    /// As `money` with the currency's name after the amount, such as "1,234.50 US dollars".
+    [[nodiscard]] std::string spokenMoney(const Decimal& amount, std::string_view currency) const;
+    /// A short label for a step of an axis, such as "$1.2K", "€12", "$0.50" or "$0.025".
+    [[nodiscard]] std::string compactMoney(double amount, std::string_view currency) const;
     /// A whole number with the locale's grouping.
     [[nodiscard]] std::string count(std::int64_t value) const;
-    /// Abbreviated date and short time, such as "Nov 22, 2026, 10:02 PM". Dates are Gregorian in every
-    /// locale, as the reports are.
+
+    // Dates are Gregorian in every locale, as the reports are.
+
+    /// "Nov 22, 2026, 10:02 PM"
     [[nodiscard]] std::string dateAndTime(Instant instant, const TimeZone& zone) const;
-    /// Abbreviated weekday, month and day, such as "Tue, Mar 3".
+    /// "Mar 3, 10:02:05 AM"
+    [[nodiscard]] std::string logTime(Instant instant, const TimeZone& zone) const;
+    /// "yesterday", "2 hours ago", "in 3 minutes", "now": the distance as RelativeTime has it. The name of
+    /// the next or last unit is used only where the calendar agrees, else it is "1 week ago".
+    [[nodiscard]] std::string relativeTime(Instant then, Instant now, const TimeZone& zone) const;
+    /// "Tuesday, Mar 3, 2026"
+    [[nodiscard]] std::string wideWeekdayDate(CivilDate day) const;
+    /// "Tue, Mar 3, 2026"
+    [[nodiscard]] std::string weekdayDate(CivilDate day) const;
+    /// "Tue, Mar 3"
     [[nodiscard]] std::string weekdayMonthDay(CivilDate day) const;
-    /// Both days with abbreviated month and year, what they share written once, such as "Mar 2 – 8, 2026";
-    /// with the blanks that the locale puts around the dash.
-    [[nodiscard]] std::string dayRange(CivilDate first, CivilDate last) const;
-    /// Such as "March 2026".
+    /// "Mar 3, 2026"
+    [[nodiscard]] std::string date(CivilDate day) const;
+    /// "Mar 3"
+    [[nodiscard]] std::string monthDay(CivilDate day) const;
+    /// "March 2026"
     [[nodiscard]] std::string monthYear(CivilDate day) const;
+    /// "Mar"
+    [[nodiscard]] std::string shortMonth(CivilDate day) const;
+    /// "Mar 2026": in every locale the short month, a blank and the year without grouping.
+    [[nodiscard]] std::string shortMonthYear(CivilDate day) const;
+    /// Both days as by `date`, what they share written once, such as "Mar 2 – 8, 2026"; with the blanks that
+    /// the locale puts around the dash.
+    [[nodiscard]] std::string dayRange(CivilDate first, CivilDate last) const;
     /// On which day weeks begin, by the region of the time locale.
     [[nodiscard]] std::chrono::weekday firstWeekday() const;
 

@@ -40,6 +40,48 @@ TEST(Locale, MoneyHasTheDigitsOfItsCurrencyAndTheSignsOfTheLocale) {
     }
 }
 
+TEST(Locale, MoneyIsSpokenByItsNameAndRoundedToWholeUnits) {
+    const struct {
+        std::string locale;
+        std::string amount;
+        std::string currency;
+        std::string spoken;
+        std::string whole;
+    } cases[] = {
+        {"C", "1234.56", "USD", "1,234.56 US dollars", "$1,235"},
+        {"en_US", "-0.4", "EUR", "-0.40 euros", "€0"},
+        {"en_US", "1", "JPY", "1 Japanese yen", "¥1"},
+        {"de_DE", "1234.56", "USD", "1.234,56 US-Dollar", "1.235\u00A0$"},
+        {"ja_JP", "-1234.56", "KWD", "-1,234.560クウェート ディナール", "-KWD\u00A01,235"},
+        {"en_US", "1234.56", "FOO", "1,234.56 FOO", "FOO\u00A01,235"},
+        {"en_US", "2.5", "", "2.50", "3"},
+    };
+    for (const auto& row : cases) {
+        const auto locale = localeNamed(row.locale);
+        const auto amount = *Decimal::parse(row.amount);
+        EXPECT_EQ(locale.spokenMoney(amount, row.currency), row.spoken);
+        EXPECT_EQ(locale.wholeMoney(amount, row.currency), row.whole);
+    }
+}
+
+TEST(Locale, StepsOfAnAxisAreShortAndNeverTheSame) {
+    const struct {
+        std::string locale;
+        double amount;
+        std::string currency;
+        std::string expected;
+    } cases[] = {
+        {"en_US", -0.0, "USD", "$0"},         {"en_US", 0.1 + 0.2, "USD", "$0.30"},
+        {"en_US", 0.025, "USD", "$0.025"},    {"en_US", 7.5, "JPY", "¥7.50"},
+        {"en_US", 12, "EUR", "€12"},          {"en_US", -1250, "USD", "-$1.25K"},
+        {"en_US", 999'999.999, "USD", "$1M"}, {"de_DE", 12'500, "EUR", "12.500\u00A0€"},
+        {"ja_JP", 25'000, "JPY", "￥2.5万"},  {"en_US", 1500, "FOO", "FOO\u00A01.5K"},
+    };
+    for (const auto& row : cases) {
+        EXPECT_EQ(localeNamed(row.locale).compactMoney(row.amount, row.currency), row.expected);
+    }
+}
+
 TEST(Locale, CurrencyAndRegionComeFromTheMonetaryName) {
     const struct {
         std::string locale;
@@ -109,6 +151,88 @@ TEST(Locale, WeeksAndMonthsAreWrittenInTheMannerOfTheLocale) {
         EXPECT_EQ(locale.monthYear(2026y / 3 / 2), row.month) << row.locale;
         EXPECT_EQ(locale.firstWeekday(), row.firstWeekday) << row.locale;
     }
+}
+
+TEST(Locale, DaysAreWrittenWithAsMuchAsThereIsRoomFor) {
+    const struct {
+        std::string locale;
+        std::vector<std::string> expected;
+    } cases[] = {
+        {"C",
+         {"Tuesday, Mar 3, 2026", "Tue, Mar 3, 2026", "Mar 3, 2026", "Mar 3", "Mar", "Mar 2026",
+          "Mar 3, 10:02:05\u202FAM"}},
+        {"de_DE",
+         {"Dienstag, 3. März 2026", "Di., 3. März 2026", "3. März 2026", "3. März", "Mär", "Mär 2026",
+          "3. März, 10:02:05"}},
+        {"fa_IR",
+         {"سه‌شنبه ۳ مارس ۲۰۲۶", "سه‌شنبه ۳ مارس ۲۰۲۶", "۳ مارس ۲۰۲۶",
+          "۳ مارس", "مارس", "مارس ۲۰۲۶", "۳ مارس، ۱۰:۰۲:۰۵"}},
+    };
+    const auto day = 2026y / 3 / 3;
+    const Instant morning = std::chrono::sys_days(day) + 9h + 2min + 5s;
+    for (const auto& row : cases) {
+        const auto locale = localeNamed(row.locale);
+        const std::vector<std::string> texts = {locale.wideWeekdayDate(day),
+                                                locale.weekdayDate(day),
+                                                locale.date(day),
+                                                locale.monthDay(day),
+                                                locale.shortMonth(day),
+                                                locale.shortMonthYear(day),
+                                                locale.logTime(morning, *TimeZone::named("Europe/Berlin"))};
+        EXPECT_EQ(texts, row.expected) << row.locale;
+    }
+}
+
+TEST(Locale, DistancesInTimeAreNamedWhereTheCalendarAgrees) {
+    const auto day = [](std::chrono::year_month_day date) { return Instant(std::chrono::sys_days(date)); };
+    // A Tuesday; in Berlin it is ten o'clock.
+    const auto now = day(2026y / 3 / 3) + 9h;
+    const struct {
+        Instant then;
+        std::string expected;
+    } cases[] = {
+        {now - 999ms, "now"},
+        {now + 59s, "in 59 seconds"},
+        {now - 119s, "1 minute ago"},
+        {now + 3min, "in 3 minutes"},
+        {now - 24h + 1s, "23 hours ago"},
+        {now - 24h, "yesterday"},
+        {day(2026y / 3 / 1) + 23h, "yesterday"},
+        {day(2026y / 3 / 1) + 22h + 59min, "2 days ago"},
+        {now + 6 * 24h, "in 6 days"},
+        {now - 7 * 24h, "last week"},
+        {day(2026y / 2 / 22) + 9h, "last week"},
+        {day(2026y / 2 / 21) + 9h, "1 week ago"},
+        {day(2026y / 2 / 4), "3 weeks ago"},
+        {day(2026y / 2 / 3), "last month"},
+        {day(2026y / 1 / 20), "1 month ago"},
+        {day(2025y / 3 / 4), "11 months ago"},
+        {day(2025y / 3 / 3), "last year"},
+        {day(2024y / 3 / 4), "1 year ago"},
+        {day(2028y / 3 / 3), "in 2 years"},
+    };
+    const auto locale = localeNamed("en_US");
+    const auto berlin = TimeZone::named("Europe/Berlin").value();
+    for (const auto& row : cases) {
+        EXPECT_EQ(locale.relativeTime(row.then, now, berlin), row.expected) << row.expected;
+    }
+    const auto longDay = day(2026y / 10 / 24) + 22h;
+    EXPECT_EQ(locale.relativeTime(longDay, longDay + 24h, berlin), "24 hours ago");
+    EXPECT_EQ(localeNamed("de_DE").relativeTime(now - 48h, now, berlin), "vorgestern");
+}
+
+TEST(Locale, RegionsAreNamedInTheLanguageOfTheMessages) {
+    const Locale french({"C", "C", "C", "C", "fr_FR@euro"});
+    const std::pair<std::string, std::string> cases[] = {{"DE", "Allemagne"}, {"XK", "Kosovo"}, {"ZZ", "ZZ"},
+                                                         {"QQ", "QQ"},        {"de", "de"},     {"", ""}};
+    for (const auto& [code, name] : cases) {
+        EXPECT_EQ(french.regionName(code), name);
+    }
+    EXPECT_EQ(french.languageTag(), "fr-FR");
+    EXPECT_FALSE(french.isRightToLeft());
+    EXPECT_TRUE(localeNamed("ar_EG@currency=USD").isRightToLeft());
+    EXPECT_EQ(localeNamed("sr_RS@latin").languageTag(), "sr-Latn-RS");
+    EXPECT_EQ(localeNamed("C").languageTag(), "en");
 }
 
 TEST(Locale, EachCategoryFollowsItsOwnName) {
