@@ -1,5 +1,6 @@
 #include "platform/JsonDefaults.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QDir>
@@ -80,6 +81,21 @@ std::optional<bool> JsonDefaults::flag(std::string_view key) const {
     return value.isBool() ? std::optional(value.toBool()) : std::nullopt;
 }
 
+std::optional<TextMap> JsonDefaults::textMap(std::string_view key) const {
+    const auto value = values_.value(toQt(key));
+    const auto members = value.toObject();
+    const bool allTexts =
+        std::ranges::all_of(members, [](const QJsonValue& member) { return member.isString(); });
+    if (!value.isObject() || !allTexts) {
+        return std::nullopt;
+    }
+    TextMap texts;
+    for (auto member = members.begin(); member != members.end(); ++member) {
+        texts.emplace(member.key().toStdString(), member->toString().toStdString());
+    }
+    return texts;
+}
+
 void JsonDefaults::setText(std::string_view key, std::string_view value) {
     set(key, toQt(value));
 }
@@ -90,6 +106,14 @@ void JsonDefaults::setDate(std::string_view key, Instant value) {
 
 void JsonDefaults::setFlag(std::string_view key, bool value) {
     set(key, value);
+}
+
+void JsonDefaults::setTextMap(std::string_view key, const TextMap& value) {
+    QJsonObject members;
+    for (const auto& [name, text] : value) {
+        members.insert(QString::fromStdString(name), QString::fromStdString(text));
+    }
+    set(key, members);
 }
 
 void JsonDefaults::remove(std::string_view key) {

@@ -13,9 +13,9 @@ namespace vantrell {
 ///     {"displayCurrency": "EUR", "lastAutoSyncAt": {"date": 1795348800000000}, "someFlag": true}
 ///
 /// A date is an object of one member, the microseconds since 1970 in UTC, so that no text can be taken for
-/// one. What the program doesn't know stays in the file. A file that can't be read or understood counts as
-/// empty, and is renamed to "<name>.damaged" before the first save. A save that fails keeps the values in
-/// memory and is tried again with the next write.
+/// one; texts by text are an object of texts. What the program doesn't know stays in the file. A file that
+/// can't be read or understood counts as empty, and is renamed to "<name>.damaged" before the first save. A
+/// save that fails keeps the values in memory and is tried again with the next write.
 class JsonDefaults final : public Defaults {
   public:
     /// Reads `file` once. File and folder need not exist; they are made, for the user alone, by the first
@@ -27,10 +27,12 @@ class JsonDefaults final : public Defaults {
     [[nodiscard]] std::optional<std::string> text(std::string_view key) const override;
     [[nodiscard]] std::optional<Instant> date(std::string_view key) const override;
     [[nodiscard]] std::optional<bool> flag(std::string_view key) const override;
+    [[nodiscard]] std::optional<TextMap> textMap(std::string_view key) const override;
 
     void setText(std::string_view key, std::string_view value) override;
     void setDate(std::string_view key, Instant value) override;
     void setFlag(std::string_view key, bool value) override;
+    void setTextMap(std::string_view key, const TextMap& value) override;
     void remove(std::string_view key) override;
 
   private:

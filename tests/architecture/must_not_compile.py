@@ -16,6 +16,7 @@ CASES = [
     ("sync", '#include "earnings/EarningsStore.h"', "earnings/EarningsStore.h: No such file"),
     ("earnings", '#include "sync/SyncEngine.h"', "sync/SyncEngine.h: No such file"),
     ("earnings", '#include "reports/ASCClient.h"', "reports/ASCClient.h: No such file"),
+    ("icons", '#include "data/SalesRow.h"', "data/SalesRow.h: No such file"),
     ("data", '#include "platform/Decimal.h"\nvantrell::Decimal money(0.5);', "use of deleted function"),
     ("data", '#include "platform/Decimal.h"\nvantrell::Decimal money = 0.5F;', "use of deleted function"),
     ("data", '#include "data/ModelContext.h"\nvoid f(vantrell::ModelContext& c) { c.save(); }', "nodiscard"),

@@ -31,6 +31,7 @@ TEST_F(JsonDefaultsTest, KeepsValuesForTheNextStart) {
         defaults.setDate("date", date);
         defaults.setDate("never", distantPast);
         defaults.setFlag("flag", false);
+        defaults.setTextMap("texts", {{"", "x"}, {"7", text}});
         defaults.setFlag("gone", true);
         defaults.remove("gone");
     }
@@ -39,6 +40,7 @@ TEST_F(JsonDefaultsTest, KeepsValuesForTheNextStart) {
     EXPECT_EQ(defaults.date("date"), date);
     EXPECT_EQ(defaults.date("never"), distantPast);
     EXPECT_EQ(defaults.flag("flag"), false);
+    EXPECT_EQ(defaults.textMap("texts"), (TextMap{{"", "x"}, {"7", text}}));
     EXPECT_EQ(defaults.flag("gone"), std::nullopt);
 }
 
@@ -49,19 +51,25 @@ TEST_F(JsonDefaultsTest, AValueOfAnotherTypeIsAbsent) {
         bool text;
         bool date;
         bool flag;
+        bool textMap;
     } cases[] = {
-        {"text", R"("x")", true, false, false},
-        {"flag", "true", false, false, true},
-        {"date", R"({"date": 1})", false, true, false},
-        {"date of a fraction", R"({"date": 1.5})", false, false, false},
-        {"number", "1", false, false, false},
+        {"text", R"("x")", true, false, false, false},
+        {"flag", "true", false, false, true, false},
+        {"date", R"({"date": 1})", false, true, false, false},
+        {"date of a fraction", R"({"date": 1.5})", false, false, false, false},
+        {"number", "1", false, false, false, false},
+        {"texts", R"({"date": "1", "": ""})", false, false, false, true},
+        {"no texts at all", "{}", false, false, false, true},
+        {"one that is no text", R"({"a": "1", "b": null})", false, false, false, false},
+        {"texts without names", R"(["1"])", false, false, false, false},
     };
-    for (const auto& [name, value, text, date, flag] : cases) {
+    for (const auto& [name, value, text, date, flag, textMap] : cases) {
         write(std::string(R"({"key": )") + value + "}");
         const JsonDefaults defaults(file);
         EXPECT_EQ(defaults.text("key").has_value(), text) << name;
         EXPECT_EQ(defaults.date("key").has_value(), date) << name;
         EXPECT_EQ(defaults.flag("key").has_value(), flag) << name;
+        EXPECT_EQ(defaults.textMap("key").has_value(), textMap) << name;
     }
 }
 

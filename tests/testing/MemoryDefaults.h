@@ -17,16 +17,20 @@ class MemoryDefaults final : public Defaults {
         return value<Instant>(key);
     }
     [[nodiscard]] std::optional<bool> flag(std::string_view key) const override { return value<bool>(key); }
+    [[nodiscard]] std::optional<TextMap> textMap(std::string_view key) const override {
+        return value<TextMap>(key);
+    }
 
     void setText(std::string_view key, std::string_view text) override { set(key, std::string(text)); }
     void setDate(std::string_view key, Instant date) override { set(key, date); }
     void setFlag(std::string_view key, bool flag) override { set(key, flag); }
+    void setTextMap(std::string_view key, const TextMap& texts) override { set(key, texts); }
     void remove(std::string_view key) override { values_.erase(std::string(key)); }
 
     int writes = 0;
 
   private:
-    using Value = std::variant<std::string, Instant, bool>;
+    using Value = std::variant<std::string, Instant, bool, TextMap>;
 
     template <typename Type>
     [[nodiscard]] std::optional<Type> value(std::string_view key) const {
