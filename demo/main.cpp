@@ -7,10 +7,37 @@
 #include <vector>
 
 #include <QCoreApplication>
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+namespace {
+
+using namespace vantrell;
+
+// Pictures are drawn by the processor alone, so that they look alike on every machine.
+TrialEnd runWithPictures(const TrialOptions& options) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    int count = 0;
+    const QGuiApplication application(count, nullptr);
+    return runTrial(options, std::cout, std::cerr);
+}
+
+TrialEnd run(const TrialOptions& options, int& argc, char** argv) {
+    if (options.screens) {
+        return runWithPictures(options);
+    }
+    if (options.once) {
+        const QCoreApplication application(argc, argv);
+        return runTrial(options, std::cout, std::cerr);
+    }
+    const QGuiApplication application(argc, argv);
+    return openTrialWindow(options, std::cout, std::cerr);
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
-    using namespace vantrell;
-    const QCoreApplication application(argc, argv);
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     if (std::ranges::find(arguments, "--help") != arguments.end()) {
         std::cout << trialUsage();
@@ -21,5 +48,5 @@ int main(int argc, char** argv) {
         std::cerr << trialUsage() << error->text << std::endl;
         return static_cast<int>(TrialEnd::usage);
     }
-    return static_cast<int>(runTrial(std::get<TrialOptions>(options), std::cout, std::cerr));
+    return static_cast<int>(run(std::get<TrialOptions>(options), argc, argv));
 }

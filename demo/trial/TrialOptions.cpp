@@ -106,6 +106,11 @@ std::map<std::string, Reader> readers(TrialOptions& options) {
                  options.exports = value;
                  return std::nullopt;
              }},
+            {"--screens",
+             [&options](const std::string& value) -> Problem {
+                 options.screens = value;
+                 return std::nullopt;
+             }},
             {"--do", [&options](const std::string& value) { return readDo(value, options); }},
             {"--currency", [&options](const std::string& value) { return readCurrency(value, options); }},
             {"--pause", [&options](const std::string& value) { return readPause(value, options); }}};
@@ -116,10 +121,9 @@ std::map<std::string, Reader> readers(TrialOptions& options) {
 std::variant<TrialOptions, UsageError> parseTrialOptions(const std::vector<std::string>& arguments) {
     TrialOptions options;
     const auto byName = readers(options);
-    bool once = false;
     for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
         if (*argument == "--once") {
-            once = true;
+            options.once = true;
             continue;
         }
         const auto reader = byName.find(*argument);
@@ -129,23 +133,23 @@ std::variant<TrialOptions, UsageError> parseTrialOptions(const std::vector<std::
         if (std::next(argument) == arguments.end()) {
             return UsageError{*argument + " needs a value"};
         }
-        once = once || *argument == "--do" || *argument == "--export";
+        options.once =
+            options.once || *argument == "--do" || *argument == "--export" || *argument == "--screens";
         if (auto problem = reader->second(*++argument)) {
             return *problem;
         }
-    }
-    if (!once) {
-        return UsageError{"the window isn't there yet: give --once, --do or --export"};
     }
     return options;
 }
 
 std::string trialUsage() {
-    return "vantrell-demo --once | --do WHAT | --export DIR  [option ...]\n"
+    return "vantrell-demo [option ...]   opens the window; its first backfill fills the screens\n"
            "  --once              one automatic run, without a window\n"
            "  --do WHAT           another operation in its place: sync, backfill, day=YYYY-MM-DD,\n"
            "                      month=TEXT, finance=PERIOD, rates, test\n"
            "  --export DIR        after the run write the five CSV exports into DIR; implies --once\n"
+           "  --screens DIR       after the run write pictures and texts of all screens into DIR; implies "
+           "--once\n"
            "  --service ORIGIN    a service in place of the built-in sample service\n"
            "  --key FILE          the key to sign with; without it a fresh one\n"
            "  --data DIR          a folder that is kept between runs; without it a temporary one\n"

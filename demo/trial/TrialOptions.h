@@ -31,12 +31,15 @@ using TrialOperation =
 
 /// The command line of the trial program.
 struct TrialOptions {
+    /// One run without a window, instead of the window.
+    bool once = false;
     std::optional<std::string> service;  ///< an origin; absent for the built-in sample service
     std::optional<std::string> key;      ///< the text to sign with; absent for a fresh key
     std::optional<std::filesystem::path> data;
     TrialOperation operation;
     std::optional<std::string> currency;
     std::optional<std::filesystem::path> exports;  ///< the folder to write the CSV files to, if any
+    std::optional<std::filesystem::path> screens;  ///< the folder to write pictures of the screens to, if any
     std::chrono::microseconds pause = std::chrono::milliseconds(150);
 };
 

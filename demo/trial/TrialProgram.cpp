@@ -1,93 +1,27 @@
 #include "trial/TrialProgram.h"
 
+#include "core/AppWindows.h"
 #include "core/MyApp.h"
-#include "data/CredentialsKeychain.h"
-#include "platform/JsonDefaults.h"
-#include "platform/KeyPair.h"
-#include "platform/MemorySecretStore.h"
+#include "platform/DesktopAppearance.h"
 #include "platform/Overloaded.h"
-#include "platform/QtHttpClient.h"
-#include "platform/SystemClock.h"
-#include "reports/APIToken.h"
-#include "sample/SampleService.h"
 #include "trial/ExportFiles.h"
 #include "trial/RunProgress.h"
 #include "trial/RunSummary.h"
+#include "trial/ScreenPictures.h"
+#include "trial/TrialSurroundings.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <memory>
 #include <utility>
 
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QTemporaryDir>
+#include <QGuiApplication>
 
 namespace vantrell {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* issuerID = "3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15";
-constexpr const char* keyID = "7QK2MZ8T5W";
-constexpr const char* vendorNumber = "60419372";
-
-std::optional<std::string> environmentVariable(const char* name) {
-    const char* value = std::getenv(name);
-    return value == nullptr ? std::nullopt : std::optional<std::string>(value);
-}
-
-// Where the store lies: the folder that was named, or a temporary one that stays for whoever wants to look.
-fs::path dataFolder(const TrialOptions& options) {
-    if (options.data) {
-        return *options.data;
-    }
-    QTemporaryDir folder;
-    folder.setAutoRemove(false);
-    return folder.path().toStdString();
-}
-
-// The sample service lets in whoever signs with the key that was given; if that is no key, nobody.
-std::string publicHalf(const std::string& privateKey) {
-    try {
-        return loadSigningKey(privateKey).publicPEM();
-    } catch (const JWTError&) {
-        return {};
-    }
-}
-
-/// Everything around the program for one run: the real network, clock and settings, a secret store that
-/// forgets, and the sample service unless another one is named.
-class TrialSurroundings {
-  public:
-    TrialSurroundings(const TrialOptions& options, const fs::path& folder)
-        : locale_(LocaleNames::fromEnvironment(environmentVariable)), defaults_(folder / "defaults.json") {
-        KeyPair keys = options.key ? KeyPair{*options.key, publicHalf(*options.key)} : generateKeyPair();
-        CredentialsKeychain(secrets_).store({issuerID, keyID, std::move(keys.privatePEM), vendorNumber});
-        if (!options.service) {
-            account_ = std::make_unique<sample::SampleAccount>();
-            service_ = std::make_unique<sample::SampleService>(
-                *account_, sample::SampleAccess{issuerID, keyID, vendorNumber, std::move(keys.publicPEM)},
-                clock_);
-        }
-        origin_ = options.service ? *options.service : service_->origin();
-    }
-
-    [[nodiscard]] MyAppParts parts() { return {http_, clock_, localTime_, locale_, secrets_, defaults_}; }
-    [[nodiscard]] const Locale& locale() const { return locale_; }
-    [[nodiscard]] const std::string& origin() const { return origin_; }
-
-  private:
-    SystemClock clock_;
-    HostLocalTime localTime_;
-    Locale locale_;
-    QtHttpClient http_;
-    MemorySecretStore secrets_;
-    JsonDefaults defaults_;
-    std::unique_ptr<sample::SampleAccount> account_;
-    std::unique_ptr<sample::SampleService> service_;
-    std::string origin_;
-};
 
 QCoro::Task<> write(QCoro::Task<std::string> result, std::ostream& output) {
     const std::string text = co_await std::move(result);
@@ -130,35 +64,56 @@ bool exported(const EarningsStore& store, const fs::path& folder, std::ostream& 
     return true;
 }
 
+bool pictured(MyApp& app, TrialSurroundings& surroundings, const fs::path& folder, std::ostream& output,
+              std::ostream& errors) {
+    if (const auto problem = writeScreens(app, surroundings, folder)) {
+        errors << onOneLine(*problem) << std::endl;
+        return false;
+    }
+    output << "The pictures are in " << folder.string() << std::endl;
+    return true;
+}
+
 }  // namespace
 
 TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostream& errors) {
-    const fs::path folder = dataFolder(options);
-    const fs::path storeFile = folder / "vantrell.sqlite";
-    TrialSurroundings surroundings(options, folder);
-    auto begun = MyApp::start(surroundings.parts(), storeFile,
-                              {surroundings.origin(), surroundings.origin(), options.pause});
+    TrialSurroundings surroundings(options);
+    auto begun = surroundings.start();
     if (const auto* failure = std::get_if<StartFailure>(&begun)) {
         errors << onOneLine(failure->text) << std::endl;
         return TrialEnd::noStore;
     }
     MyApp& app = *std::get<std::unique_ptr<MyApp>>(begun);
-    if (options.currency) {
-        app.store().setDisplayCurrency(*options.currency);
-    }
     const RunProgress progress(app.engine(), errors);
     runToTheEnd(app, options.operation, output);
     app.store().reload(app.context());
     if (!std::holds_alternative<DoTest>(options.operation)) {
         writeRunSummary(app, surroundings.locale(), output);
-        output << "\nThe store is " << fs::absolute(storeFile).string() << std::endl;
+        output << "\nThe store is " << fs::absolute(surroundings.storeFile()).string() << std::endl;
     }
-    const bool isWritten = !options.exports || exported(app.store(), *options.exports, output, errors);
+    const bool isExported = !options.exports || exported(app.store(), *options.exports, output, errors);
+    const bool isPictured = !options.screens || pictured(app, surroundings, *options.screens, output, errors);
     if (const auto error = app.engine().lastError()) {
         errors << onOneLine(*error) << std::endl;
         return TrialEnd::runFailed;
     }
-    return isWritten ? TrialEnd::done : TrialEnd::notWritten;
+    return isExported && isPictured ? TrialEnd::done : TrialEnd::notWritten;
+}
+
+TrialEnd openTrialWindow(const TrialOptions& options, std::ostream& output, std::ostream& errors) {
+    TrialSurroundings surroundings(options);
+    auto begun = surroundings.start();
+    if (const auto* failure = std::get_if<StartFailure>(&begun)) {
+        errors << onOneLine(failure->text) << std::endl;
+        return TrialEnd::noStore;
+    }
+    MyApp& app = *std::get<std::unique_ptr<MyApp>>(begun);
+    output << "The store is " << fs::absolute(surroundings.storeFile()).string() << std::endl;
+    DesktopAppearance appearance;
+    AppWindows windows(app, surroundings.parts(), {surroundings.origins(), appearance});
+    windows.show();
+    QGuiApplication::exec();
+    return TrialEnd::done;
 }
 
 }  // namespace vantrell

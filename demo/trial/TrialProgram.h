@@ -20,4 +20,8 @@ enum class TrialEnd {
 /// these fail too, the run's failure is what the end and the last line tell, and theirs stands before it.
 [[nodiscard]] TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostream& errors);
 
+/// Opens the main window and runs until it is closed. Needs a QGuiApplication.
+[[nodiscard]] TrialEnd openTrialWindow(const TrialOptions& options, std::ostream& output,
+                                       std::ostream& errors);
+
 }  // namespace vantrell

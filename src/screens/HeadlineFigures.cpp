@@ -1,6 +1,7 @@
 #include "screens/HeadlineFigures.h"
 
 #include "calendar/DayKey.h"
+#include "screens/components/DayText.h"
 
 #include <algorithm>
 #include <string_view>
@@ -14,14 +15,6 @@ std::optional<std::string> mostRecentOkDay(const EarningsStore& store) {
     const auto newest = std::find_if(statuses.rbegin(), statuses.rend(),
                                      [](const auto& entry) { return entry.second == ReportStatus::ok; });
     return newest == statuses.rend() ? std::nullopt : std::optional(newest->first);
-}
-
-std::string dayShortText(const EarningsStore& store, const Locale& locale, const std::string& key) {
-    if (key == store.calendar().dayKey(1)) {
-        return "Yesterday";
-    }
-    const auto day = dateFromDayKey(key);
-    return day ? locale.weekdayMonthDay(*day) : key;
 }
 
 std::optional<std::string> sinceText(const EarningsStore& store) {
@@ -47,7 +40,7 @@ std::vector<HeadlineFigure> headlineFigures(const EarningsStore& store, const Lo
         rows.push_back(std::move(selection));
     };
     if (const auto day = mostRecentOkDay(store)) {
-        add("Most recent day with data", dayShortText(store, locale, *day),
+        add("Most recent day with data", dayShortText(store.calendar(), locale, *day),
             store.dailyRows(*day, *day, apps));
     }
     const auto untilYesterday = [&](const std::string& from) {

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "core/MyApp.h"
+#include "platform/JsonDefaults.h"
+#include "platform/MemorySecretStore.h"
+#include "platform/QtHttpClient.h"
+#include "platform/SystemClock.h"
+#include "sample/SampleService.h"
+#include "screens/ScreenParts.h"
+#include "trial/TrialOptions.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <variant>
+
+namespace vantrell {
+
+/// Everything around the program for one run: the real network, clock and settings, a secret store that
+/// forgets, and the sample service unless another one is named.
+class TrialSurroundings {
+  public:
+    explicit TrialSurroundings(const TrialOptions& options);
+
+    /// Opens the store and chooses the display currency of the options.
+    [[nodiscard]] std::variant<std::unique_ptr<MyApp>, StartFailure> start();
+
+    [[nodiscard]] MyAppParts parts() { return {http_, clock_, localTime_, locale_, secrets_, defaults_}; }
+    [[nodiscard]] const ServiceOrigins& origins() const { return origins_; }
+    [[nodiscard]] const Locale& locale() const { return locale_; }
+    [[nodiscard]] std::filesystem::path storeFile() const { return folder_ / "vantrell.sqlite"; }
+
+  private:
+    const TrialOptions& options_;
+    std::filesystem::path folder_;
+    SystemClock clock_;
+    HostLocalTime localTime_;
+    Locale locale_;
+    QtHttpClient http_;
+    MemorySecretStore secrets_;
+    JsonDefaults defaults_;
+    std::unique_ptr<sample::SampleAccount> account_;
+    std::unique_ptr<sample::SampleService> service_;
+    ServiceOrigins origins_;
+};
+
+}  // namespace vantrell

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/MyApp.h"
+#include "screens/RootView.h"
+
+#include <memory>
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QQuickWindow>
+
+namespace vantrell {
+
+/// What the windows need beside the program itself. All of it must outlive them.
+struct AppWindowsParts {
+    const ServiceOrigins& origins;
+    Appearance& appearance;
+};
+
+/// The program's windows. Everything that is shown in them goes with this object.
+class AppWindows : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Builds the main window without showing it. All of it must outlive the windows.
+    AppWindows(MyApp& app, const MyAppParts& parts, const AppWindowsParts& windowParts);
+    ~AppWindows() override;
+
+    [[nodiscard]] RootView& root() { return root_; }
+    [[nodiscard]] QQuickWindow& mainWindow() { return *mainWindow_; }
+
+    /// Shows the main window and sets the data moving.
+    void show();
+    /// Brings the main window to the front.
+    void raise();
+
+  private:
+    void activeChanged();
+
+    RootView root_;
+    QQmlEngine engine_;
+    std::unique_ptr<QQuickWindow> mainWindow_;
+};
+
+}  // namespace vantrell

@@ -1,0 +1,50 @@
+#include "screens/DashboardView.h"
+
+#include "screens/HeadlineFigures.h"
+#include "screens/components/ShownText.h"
+#include "screens/components/StatTile.h"
+
+namespace vantrell {
+
+DashboardView::DashboardView(const ScreenParts& parts, QObject* parent)
+    : Screen(parts, parent), banner_(parts.engine), selectedDay_(parts) {
+    connect(&engine(), &SyncEngine::lastErrorChanged, this, &DashboardView::errorChanged);
+    connect(&engine(), &SyncEngine::hasCredentialsChanged, this, &DashboardView::canFetchChanged);
+    connect(&engine(), &SyncEngine::isSyncingChanged, this, &DashboardView::refreshEmptiness);
+}
+
+QString DashboardView::error() const {
+    return shownText(engine().lastError().value_or(""));
+}
+
+EmptyState DashboardView::emptyState() const {
+    return {.title = tr("No reports yet"),
+            .symbol = QStringLiteral("chart.bar.xaxis"),
+            .description = tr("Fetch a year of daily reports, plus yearly, monthly and finance reports, from "
+                              "App Store Connect. The dashboard fills in as days land.")};
+}
+
+void DashboardView::fetch() {
+    if (canFetch()) {
+        parts().tasks.spawn(engine().runDue());
+    }
+}
+
+void DashboardView::refresh() {
+    refreshEmptiness();
+    std::vector<StatTile> tiles;
+    for (const HeadlineFigure& figure : headlineFigures(store(), locale())) {
+        tiles.push_back(statTile({store(), locale()}, figure));
+    }
+    tiles_.show(tiles);
+}
+
+void DashboardView::refreshEmptiness() {
+    const bool isEmpty = store().salesRows().size() == 0 && !engine().isSyncing();
+    if (isEmpty != isEmpty_) {
+        isEmpty_ = isEmpty;
+        Q_EMIT isEmptyChanged();
+    }
+}
+
+}  // namespace vantrell

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "earnings/AppFilter.h"
+#include "screens/RowList.h"
+#include "screens/Screen.h"
+#include "screens/components/MoneyValue.h"
+
+#include <string>
+
+namespace vantrell {
+
+/// What exactly happened on a day: its proceeds and units, and each line of its report.
+class DayDetailView : public Screen {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by its screen")
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString doneText READ doneText CONSTANT)
+    Q_PROPERTY(QString proceedsTitle READ proceedsTitle CONSTANT)
+    Q_PROPERTY(QString linesTitle READ linesTitle CONSTANT)
+    Q_PROPERTY(QString caption READ caption NOTIFY changed)
+    Q_PROPERTY(vantrell::MoneyValue money READ money NOTIFY changed)
+    Q_PROPERTY(QString noLinesText READ noLinesText NOTIFY changed)
+    Q_PROPERTY(vantrell::RowList* lines READ lines CONSTANT)
+
+  public:
+    /// `dayKey` is what the caller selected and may be any text.
+    DayDetailView(const ScreenParts& parts, std::string dayKey, AppFilter apps, QObject* parent = nullptr);
+
+    [[nodiscard]] QString title() const;
+    [[nodiscard]] QString doneText() const { return tr("Done"); }
+    [[nodiscard]] QString proceedsTitle() const { return tr("Proceeds"); }
+    [[nodiscard]] QString linesTitle() const { return tr("Line items"); }
+    [[nodiscard]] QString caption() const { return caption_; }
+    [[nodiscard]] const MoneyValue& money() const { return money_; }
+    /// What stands in place of the lines; empty if there are some.
+    [[nodiscard]] QString noLinesText() const { return noLinesText_; }
+    [[nodiscard]] RowList* lines() { return &lines_; }
+
+  Q_SIGNALS:
+    void changed();
+
+  private:
+    void refresh() override;
+    [[nodiscard]] QString statusText() const;
+
+    const std::string dayKey_;
+    const AppFilter apps_;
+    QString caption_;
+    MoneyValue money_;
+    QString noLinesText_;
+    RowList lines_;
+};
+
+}  // namespace vantrell

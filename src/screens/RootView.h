@@ -1,0 +1,87 @@
+#pragma once
+
+#include "screens/DashboardView.h"
+#include "screens/Destination.h"
+#include "screens/DriveLoop.h"
+#include "screens/RowList.h"
+#include "screens/ScreenParts.h"
+#include "screens/components/AppFilterPicker.h"
+#include "screens/components/CurrencyBreakdown.h"
+#include "screens/components/SyncToolbarButton.h"
+
+#include <optional>
+
+#include <QObject>
+
+namespace vantrell {
+
+/// The main window's content: the welcome without a key, else the screens behind the sidebar. It owns the
+/// screens' models and keeps the data moving while it lives.
+class RootView : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the program")
+    Q_PROPERTY(QString windowTitle READ windowTitle CONSTANT)
+    Q_PROPERTY(bool isRightToLeft READ isRightToLeft CONSTANT)
+    Q_PROPERTY(vantrell::Appearance* appearance READ appearance CONSTANT)
+    Q_PROPERTY(bool hasCredentials READ hasCredentials NOTIFY hasCredentialsChanged)
+    Q_PROPERTY(vantrell::RowList* destinations READ destinations CONSTANT)
+    Q_PROPERTY(vantrell::Destination::Value selection READ selection WRITE select NOTIFY selectionChanged)
+    Q_PROPERTY(QString screenTitle READ screenTitle NOTIFY selectionChanged)
+    Q_PROPERTY(QString sidebarName READ sidebarName CONSTANT)
+    Q_PROPERTY(bool hasToolbarControls READ hasToolbarControls NOTIFY selectionChanged)
+    Q_PROPERTY(QString footer READ footer NOTIFY footerChanged)
+    Q_PROPERTY(bool isSyncing READ isSyncing NOTIFY footerChanged)
+    Q_PROPERTY(vantrell::AppFilterPicker* filter READ filter CONSTANT)
+    Q_PROPERTY(vantrell::SyncToolbarButton* syncButton READ syncButton CONSTANT)
+    Q_PROPERTY(vantrell::CurrencyBreakdown* breakdown READ breakdown CONSTANT)
+    Q_PROPERTY(vantrell::DashboardView* dashboard READ dashboard CONSTANT)
+
+  public:
+    explicit RootView(const ScreenParts& parts, QObject* parent = nullptr);
+
+    [[nodiscard]] QString windowTitle() const { return QStringLiteral("Vantrell"); }
+    [[nodiscard]] bool isRightToLeft() const { return parts_.locale.isRightToLeft(); }
+    [[nodiscard]] Appearance* appearance() const { return &parts_.appearance; }
+    /// Without credentials the welcome is all that is shown.
+    [[nodiscard]] bool hasCredentials() const { return parts_.engine.hasCredentials(); }
+    [[nodiscard]] RowList* destinations() { return &destinations_; }
+    /// The dashboard as long as nothing was selected.
+    [[nodiscard]] Destination::Value selection() const { return selection_.value_or(Destination::dashboard); }
+    Q_INVOKABLE void select(vantrell::Destination::Value destination);
+    /// Moves the selection along the sidebar, up for -1, and not past its ends.
+    Q_INVOKABLE void selectNext(int steps);
+    [[nodiscard]] QString screenTitle() const;
+    [[nodiscard]] QString sidebarName() const { return tr("Screens"); }
+    [[nodiscard]] bool hasToolbarControls() const { return selection() != Destination::settings; }
+    /// What stands at the bottom of the sidebar; empty before the first run.
+    [[nodiscard]] QString footer() const;
+    [[nodiscard]] bool isSyncing() const { return parts_.engine.isSyncing(); }
+
+    [[nodiscard]] AppFilterPicker* filter() { return &filter_; }
+    [[nodiscard]] SyncToolbarButton* syncButton() { return &syncButton_; }
+    [[nodiscard]] CurrencyBreakdown* breakdown() { return &breakdown_; }
+    [[nodiscard]] DashboardView* dashboard() { return &dashboard_; }
+
+    /// To be called once, when the window first appears.
+    void appear();
+    /// To be called whenever the window becomes active.
+    void becomeActive();
+
+  Q_SIGNALS:
+    void hasCredentialsChanged();
+    void selectionChanged();
+    void footerChanged();
+
+  private:
+    ScreenParts parts_;
+    DriveLoop driveLoop_;
+    RowList destinations_;
+    std::optional<Destination::Value> selection_;
+    AppFilterPicker filter_;
+    SyncToolbarButton syncButton_;
+    CurrencyBreakdown breakdown_;
+    DashboardView dashboard_;
+};
+
+}  // namespace vantrell

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "earnings/EarningsStore.h"
+#include "platform/Appearance.h"
+#include "platform/Clock.h"
+#include "platform/Defaults.h"
+#include "platform/HttpClient.h"
+#include "platform/LocalTime.h"
+#include "platform/Locale.h"
+#include "platform/TaskScope.h"
+#include "sync/SyncEngine.h"
+
+#include <string>
+
+namespace vantrell {
+
+/// Where the services are, as origins ("https://host", no path). The texts name them by their hosts.
+struct ServiceOrigins {
+    std::string reportService;
+    std::string rateService;
+    std::string lookupService;
+    /// The web site where keys are made.
+    std::string keyWebSite;
+};
+
+/// What the screens read and act on. All of it must outlive them.
+struct ScreenParts {
+    EarningsStore& store;
+    SyncEngine& engine;
+    ModelContext& context;
+    Clock& clock;
+    const LocalTime& localTime;
+    const Locale& locale;
+    TaskScope& tasks;
+    HttpClient& http;
+    Defaults& defaults;
+    Appearance& appearance;
+    const ServiceOrigins& origins;
+    /// The store mirrors through the platform's cloud.
+    bool cloudSyncActive = false;
+};
+
+}  // namespace vantrell

@@ -1,0 +1,55 @@
+#include "screens/components/CurrencyBreakdownList.h"
+
+#include "screens/components/RowText.h"
+#include "screens/components/ShownText.h"
+
+#include <algorithm>
+#include <optional>
+
+#include <QCoreApplication>
+
+namespace vantrell {
+namespace {
+
+struct Entry {
+    std::string code;
+    Decimal amount;
+    std::optional<Decimal> converted;
+};
+
+std::vector<Entry> sortedEntries(const CurrencyConverter& converter, const AmountsByCurrency& byCurrency) {
+    std::vector<Entry> entries;
+    for (const auto& [code, amount] : byCurrency) {
+        entries.push_back({code, amount, converter.convert(amount, code)});
+    }
+    std::ranges::stable_sort(entries, [](const Entry& left, const Entry& right) {
+        return left.converted.value_or(Decimal()) > right.converted.value_or(Decimal());
+    });
+    return entries;
+}
+
+}  // namespace
+
+QString BreakdownRow::copyText() const {
+    return rowText({code, amount, converted});
+}
+
+std::vector<BreakdownRow> breakdownRows(const FigureContext& context, const AmountsByCurrency& byCurrency) {
+    const CurrencyConverter& converter = context.store.converter();
+    std::vector<BreakdownRow> rows;
+    for (const Entry& entry : sortedEntries(converter, byCurrency)) {
+        const bool isConverted = entry.converted && entry.code != converter.displayCurrency;
+        rows.push_back(
+            {.code = shownText(entry.code),
+             .amount = shownText(context.locale.money(entry.amount, entry.code)),
+             .spokenAmount = shownText(context.locale.spokenMoney(entry.amount, entry.code)),
+             .converted = !entry.converted ? QCoreApplication::translate("CurrencyBreakdownList", "no rate")
+                          : isConverted
+                              ? shownText(context.locale.money(*entry.converted, converter.displayCurrency))
+                              : QString(),
+             .hasNoRate = !entry.converted});
+    }
+    return rows;
+}
+
+}  // namespace vantrell

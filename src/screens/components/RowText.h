@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace vantrell {
+
+/// What a copied row puts on the clipboard: its texts between tabs, without those that are empty.
+[[nodiscard]] QString rowText(QStringList texts);
+
+/// What a figure of proceeds is called for whoever hears it.
+[[nodiscard]] QString proceedsLabel();
+
+}  // namespace vantrell

@@ -1,0 +1,33 @@
+import QtQuick
+import QtQuick.Templates as T
+import Vantrell
+
+// Help on what lies under the pointer.
+T.ToolTip {
+    id: hint
+
+    property bool shown: false
+
+    visible: shown && text !== ""
+    delay: 500
+    margins: 8
+    padding: 8
+    y: parent ? parent.height + 6 : 0
+    x: 0
+    implicitWidth: Math.min(content.implicitWidth, 360) + leftPadding + rightPadding
+    implicitHeight: content.implicitHeight + topPadding + bottomPadding
+
+    contentItem: Text {
+        id: content
+        text: hint.text
+        textFormat: Text.PlainText
+        wrapMode: Text.Wrap
+        font.pixelSize: Theme.caption
+        color: Theme.primary
+    }
+    background: Rectangle {
+        radius: 6
+        color: Theme.raised
+        border.color: Theme.border
+    }
+}

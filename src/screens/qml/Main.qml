@@ -1,0 +1,65 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Vantrell
+
+// The main window.
+T.ApplicationWindow {
+    id: window
+
+    required property RootView root
+
+    title: root.windowTitle
+    width: 1150
+    height: 760
+    minimumWidth: 640
+    minimumHeight: 480
+    color: Theme.window
+    font.family: "Roboto"
+    font.pixelSize: Theme.body
+    LayoutMirroring.enabled: root.isRightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    Binding {
+        target: Shell
+        property: "breakdown"
+        value: window.root.breakdown
+    }
+    Binding {
+        target: Theme
+        property: "dark"
+        value: window.root.appearance.isDark
+    }
+    Binding {
+        target: Theme
+        property: "reducesMotion"
+        value: window.root.appearance.reducesMotion
+    }
+    RowLayout {
+        anchors.fill: parent
+        spacing: 0
+        Sidebar {
+            Layout.fillHeight: true
+            Layout.preferredWidth: 210
+            Layout.minimumWidth: 180
+            root: window.root
+        }
+        ColumnLayout {
+            spacing: 0
+            Toolbar {
+                Layout.fillWidth: true
+                root: window.root
+            }
+            Loader {
+                id: screen
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                sourceComponent: dashboard
+            }
+        }
+    }
+    Component {
+        id: dashboard
+        DashboardScreen { model: window.root.dashboard }
+    }
+}

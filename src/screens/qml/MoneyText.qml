@@ -1,0 +1,74 @@
+import QtQuick
+import QtQuick.Templates as T
+import Vantrell
+
+// A figure of several currencies. Pressing it opens what it is made of.
+T.AbstractButton {
+    id: figure
+
+    required property moneyValue money
+    property alias fontSizeMode: amount.fontSizeMode
+    property alias minimumPixelSize: amount.minimumPixelSize
+    property real inkOpacity: 1
+
+    property bool showBreakdown: false
+
+    text: figure.money.text
+    implicitWidth: amount.implicitWidth + (mark.visible ? mark.width + 4 : 0)
+    implicitHeight: amount.implicitHeight
+    focusPolicy: Qt.TabFocus
+    Accessible.role: Accessible.StaticText
+    Accessible.name: figure.money.spoken
+    Accessible.description: figure.money.warning
+    Accessible.focusable: true
+    Accessible.onPressAction: figure.click()
+    Keys.onReturnPressed: figure.click()
+    Keys.onEnterPressed: figure.click()
+    onClicked: figure.showBreakdown = !figure.showBreakdown
+
+    PlainText {
+        id: amount
+        anchors.verticalCenter: parent.verticalCenter
+        width: figure.width - (mark.visible ? mark.width + 4 : 0)
+        horizontalAlignment: Text.AlignRight
+        spoken: false
+        text: figure.text
+        font: figure.font
+        opacity: figure.inkOpacity
+    }
+    SymbolItem {
+        id: mark
+        visible: figure.money.warning !== ""
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.right: parent.right
+        width: Theme.smallest
+        height: Theme.smallest
+        name: "exclamationmark.triangle.fill"
+        color: Theme.warning
+    }
+    background: Rectangle {
+        radius: 5
+        anchors.fill: parent
+        anchors.margins: -3
+        color: figure.hovered ? Theme.quaternary : "transparent"
+        border.width: figure.visualFocus ? 2 : 0
+        border.color: Theme.accent
+    }
+    HoverHandler { cursorShape: Qt.PointingHandCursor }
+    Loader {
+        active: figure.hovered && mark.visible
+        sourceComponent: Hint {
+            parent: figure
+            shown: true
+            text: figure.money.warning
+        }
+    }
+    Loader {
+        active: figure.showBreakdown
+        sourceComponent: BreakdownPopover {
+            parent: figure
+            money: figure.money
+            onClosed: figure.showBreakdown = false
+        }
+    }
+}

@@ -1,0 +1,65 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Vantrell
+
+T.Button {
+    id: button
+
+    property string symbol: ""
+    property bool prominent: false
+    property bool destructive: false
+    property bool borderless: false
+    property bool spinning: false
+    property string help: ""
+    property real textSize: Theme.callout
+    readonly property color ink: prominent ? Theme.accentInk
+        : destructive ? Theme.bad
+        : borderless ? Theme.accent : Theme.primary
+
+    implicitWidth: Math.max(implicitContentWidth + leftPadding + rightPadding, borderless ? 0 : 36)
+    implicitHeight: borderless ? 26 : Theme.controlHeight
+    leftPadding: borderless ? 6 : 12
+    rightPadding: leftPadding
+    focusPolicy: Qt.StrongFocus
+    opacity: enabled ? 1 : 0.45
+    Accessible.role: Accessible.Button
+    Accessible.name: button.text
+    Accessible.description: button.help
+    Accessible.onPressAction: button.click()
+
+    Keys.onReturnPressed: if (enabled) button.click()
+    Keys.onEnterPressed: if (enabled) button.click()
+
+    contentItem: RowLayout {
+        spacing: 6
+        Item { Layout.fillWidth: true }
+        SymbolItem {
+            visible: button.symbol !== "" && !button.spinning
+            name: button.symbol
+            color: button.ink
+        }
+        Spinner { visible: button.spinning }
+        DataText {
+            visible: text !== ""
+            Layout.maximumWidth: Math.ceil(implicitWidth)
+            Layout.fillWidth: true
+            spoken: false
+            text: button.text
+            font.pixelSize: button.textSize
+            font.weight: Font.Medium
+            color: button.ink
+        }
+        Item { Layout.fillWidth: true }
+    }
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: button.prominent ? (button.down ? Qt.darker(Theme.accentFill, 1.15) : Theme.accentFill)
+            : button.borderless ? (button.down || button.hovered ? Theme.quaternary : "transparent")
+            : (button.down || button.hovered ? Theme.controlPressed : Theme.control)
+        border.width: button.prominent || button.borderless ? 0 : 1
+        border.color: Theme.border
+        FocusRing { control: button }
+    }
+    Hint { shown: button.hovered && button.help !== ""; text: button.help }
+}

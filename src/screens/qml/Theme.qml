@@ -1,0 +1,59 @@
+pragma Singleton
+import QtQuick
+import Vantrell
+
+// The colours, type scale and measures of every screen, in one place.
+QtObject {
+    // Set by the window from the desktop's appearance.
+    property bool dark: false
+    property bool reducesMotion: false
+
+    readonly property color window: dark ? "#17181B" : "#F4F5F7"
+    readonly property color sidebar: dark ? "#1D1F23" : "#EAECEF"
+    readonly property color card: dark ? "#222429" : "#FFFFFF"
+    readonly property color raised: dark ? "#2B2E34" : "#FFFFFF"
+    readonly property color border: dark ? "#34373E" : "#DFE2E6"
+    readonly property color separator: dark ? "#303339" : "#E6E8EC"
+    readonly property color control: dark ? "#33363D" : "#FFFFFF"
+    readonly property color controlPressed: dark ? "#3D4149" : "#E9EBEF"
+    readonly property color quaternary: dark ? "#2C2F35" : "#EFF1F4"
+    readonly property color selection: dark ? "#2A3444" : "#D9E5F8"
+    readonly property color scrim: dark ? "#99000000" : "#59000000"
+
+    readonly property color primary: dark ? "#F1F2F4" : "#1B1D21"
+    readonly property color secondary: dark ? "#AEB3BC" : "#575D68"
+    readonly property color tertiary: dark ? "#8C929D" : "#6C727D"
+    readonly property color accent: dark ? "#6AA5F8" : "#1F64D0"
+    readonly property color accentFill: dark ? "#3D7BDD" : "#1F64D0"
+    readonly property color accentInk: "#FFFFFF"
+    readonly property color good: dark ? "#4CC38A" : "#1B7F4B"
+    readonly property color warning: dark ? "#F0A35E" : "#A85B00"
+    readonly property color bad: dark ? "#F47C75" : "#C2312A"
+
+    readonly property real smallest: 11
+    readonly property real caption: 12
+    readonly property real callout: 13
+    readonly property real body: 14
+    readonly property real headline: 15
+    readonly property real title3: 18
+    readonly property real title2: 22
+    readonly property real largeTitle: 32
+
+    readonly property real cardRadius: 16
+    readonly property real controlRadius: 8
+    readonly property real controlHeight: 32
+    readonly property int quick: reducesMotion ? 0 : 120
+
+    function tone(value) {
+        switch (value) {
+        case Tone.secondary: return secondary
+        case Tone.tertiary: return tertiary
+        case Tone.accent: return accent
+        case Tone.good: return good
+        case Tone.warning: return warning
+        case Tone.bad: return bad
+        case Tone.muted: return secondary
+        default: return primary
+        }
+    }
+}

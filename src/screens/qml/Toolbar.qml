@@ -1,0 +1,41 @@
+import QtQuick
+import QtQuick.Layouts
+import Vantrell
+
+// The screen's title and the controls that the screens share.
+Rectangle {
+    id: toolbar
+
+    required property RootView root
+
+    implicitHeight: 52
+    color: Theme.window
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: 20
+        anchors.rightMargin: 20
+        spacing: 8
+        DataText {
+            Layout.fillWidth: true
+            text: toolbar.root.screenTitle
+            font.pixelSize: Theme.title3
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+        }
+        FilterMenu {
+            visible: toolbar.root.hasToolbarControls
+            Layout.maximumWidth: 240
+            picker: toolbar.root.filter
+        }
+        PushButton {
+            visible: toolbar.root.hasToolbarControls
+            text: toolbar.root.syncButton.title
+            symbol: toolbar.root.syncButton.symbol
+            spinning: toolbar.root.syncButton.isSpinning
+            enabled: toolbar.root.syncButton.isEnabled
+            help: toolbar.root.syncButton.help
+            onClicked: toolbar.root.syncButton.press()
+        }
+    }
+}
