@@ -13,7 +13,6 @@ std::optional<std::string> writeScreens(MyApp& app, TrialSurroundings& surroundi
     std::filesystem::create_directories(folder);
     FixedAppearance appearance;
     AppWindows windows(app, surroundings.parts(), {surroundings.origins(), appearance});
-    windows.root().dashboard()->setInSight(true);
     windows.mainWindow().show();
     QCoreApplication::processEvents();
     const QImage picture = windows.mainWindow().grabWindow();

@@ -11,7 +11,8 @@ namespace vantrell {
 /// only while it is in sight: a hidden screen catches up when it is shown.
 class Screen : public QObject {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("a base")
     Q_PROPERTY(bool inSight READ inSight WRITE setInSight NOTIFY inSightChanged)
 
   public:

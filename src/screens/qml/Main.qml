@@ -50,16 +50,16 @@ T.ApplicationWindow {
                 Layout.fillWidth: true
                 root: window.root
             }
-            Loader {
-                id: screen
+            Item {
                 Layout.fillWidth: true
                 Layout.fillHeight: true
-                sourceComponent: dashboard
+                ScreenHost {
+                    root: window.root
+                    destination: Destination.dashboard
+                    model: window.root.dashboard
+                    sourceComponent: DashboardScreen { model: window.root.dashboard }
+                }
             }
         }
-    }
-    Component {
-        id: dashboard
-        DashboardScreen { model: window.root.dashboard }
     }
 }
