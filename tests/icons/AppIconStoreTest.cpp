@@ -1,8 +1,8 @@
 #include "icons/AppIconStore.h"
 #include "platform/TaskScope.h"
-#include "testing/ManualClock.h"
 #include "testing/MemoryDefaults.h"
 #include "testing/ScriptedHttp.h"
+#include "testing/SlowHttp.h"
 
 #include <memory>
 
@@ -128,29 +128,15 @@ TEST(IconLookup, TakesAddressesFromABodyThatIsWholeAndNothingFromAnyOther) {
     }
 }
 
-/// Answers when it is told to, or when the request is cancelled.
-class SlowHttp final : public HttpClient {
-  public:
-    QCoro::Task<HttpResult> get(HttpRequest /*request*/, CancelToken cancel) override {
-        ++requests;
-        co_await clock.sleep(std::chrono::seconds(1), std::move(cancel));
-        co_return HttpResponse{200, R"({"results":[{"trackId":1,"artworkUrl100":"https://a/1"}]})"};
-    }
-
-    testing::ManualClock clock;
-    int requests = 0;
-};
-
 TEST_F(AppIconStoreTest, AsksOnceWhileItWaitsAndMayGoAwayMeanwhile) {
-    SlowHttp slow;
-    slow.clock.autoAdvance = false;
+    testing::SlowHttp slow({200, R"({"results":[{"trackId":1,"artworkUrl100":"https://a/1"}]})"});
     TaskScope tasks;
     const Locale home(LocaleNames{"en_US", "C", "C", "C", "C"});
     auto store =
         std::make_unique<AppIconStore>(AppIconStore::Parts{slow, defaults, home}, "https://lookup.test");
     tasks.spawn(store->loadIcons({1}));
     tasks.spawn(store->loadIcons({1}));
-    EXPECT_EQ(slow.requests, 1);
+    EXPECT_EQ(slow.requests.size(), 1U);
     EXPECT_EQ(tasks.pending(), 1);
     store.reset();
     EXPECT_EQ(tasks.pending(), 0);
