@@ -16,9 +16,27 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
       dashboard_(parts) {
     destinations_.show(destinationItems());
     connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &RootView::hasCredentialsChanged);
+    connect(this, &RootView::hasCredentialsChanged, this, &RootView::shownScreenChanged);
+    connect(this, &RootView::selectionChanged, this, &RootView::shownScreenChanged);
     connect(&parts.engine, &SyncEngine::isSyncingChanged, this, &RootView::footerChanged);
     connect(&parts.engine, &SyncEngine::progressTextChanged, this, &RootView::footerChanged);
     connect(&parts.engine, &SyncEngine::lastRunSummaryChanged, this, &RootView::footerChanged);
+}
+
+Screen* RootView::shownScreen() {
+    if (!hasCredentials()) {
+        return nullptr;
+    }
+    switch (selection()) {
+    case Destination::dashboard:
+    case Destination::apps:
+    case Destination::byDay:
+    case Destination::history:
+    case Destination::payouts:
+    case Destination::settings:
+        return &dashboard_;
+    }
+    return nullptr;
 }
 
 void RootView::select(Destination::Value destination) {

@@ -27,6 +27,7 @@ class RootView : public QObject {
     Q_PROPERTY(bool hasCredentials READ hasCredentials NOTIFY hasCredentialsChanged)
     Q_PROPERTY(vantrell::RowList* destinations READ destinations CONSTANT)
     Q_PROPERTY(vantrell::Destination::Value selection READ selection WRITE select NOTIFY selectionChanged)
+    Q_PROPERTY(vantrell::Screen* shownScreen READ shownScreen NOTIFY shownScreenChanged)
     Q_PROPERTY(QString screenTitle READ screenTitle NOTIFY selectionChanged)
     Q_PROPERTY(QString sidebarName READ sidebarName CONSTANT)
     Q_PROPERTY(bool hasToolbarControls READ hasToolbarControls NOTIFY selectionChanged)
@@ -48,6 +49,8 @@ class RootView : public QObject {
     [[nodiscard]] RowList* destinations() { return &destinations_; }
     /// The dashboard as long as nothing was selected.
     [[nodiscard]] Destination::Value selection() const { return selection_.value_or(Destination::dashboard); }
+    /// Null while the welcome is shown.
+    [[nodiscard]] Screen* shownScreen();
     Q_INVOKABLE void select(vantrell::Destination::Value destination);
     /// Moves the selection along the sidebar, up for -1, and not past its ends.
     Q_INVOKABLE void selectNext(int steps);
@@ -71,6 +74,7 @@ class RootView : public QObject {
   Q_SIGNALS:
     void hasCredentialsChanged();
     void selectionChanged();
+    void shownScreenChanged();
     void footerChanged();
 
   private:

@@ -13,7 +13,7 @@ struct StatusBadge {
 
   public:
     QString text;
-    Tone::Value tone = Tone::muted;
+    Tone::Value tone = Tone::Muted;
     bool operator==(const StatusBadge&) const = default;
 };
 

@@ -55,7 +55,6 @@ T.ApplicationWindow {
                 Layout.fillHeight: true
                 ScreenHost {
                     root: window.root
-                    destination: Destination.dashboard
                     model: window.root.dashboard
                     sourceComponent: DashboardScreen { model: window.root.dashboard }
                 }

@@ -6,9 +6,8 @@ Loader {
     id: host
 
     required property RootView root
-    required property int destination
     required property Screen model
-    readonly property bool current: root.hasCredentials && root.selection === destination
+    readonly property bool current: root.shownScreen === model
 
     anchors.fill: parent
     active: false

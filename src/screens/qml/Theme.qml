@@ -46,13 +46,13 @@ QtObject {
 
     function tone(value) {
         switch (value) {
-        case Tone.secondary: return secondary
-        case Tone.tertiary: return tertiary
-        case Tone.accent: return accent
-        case Tone.good: return good
-        case Tone.warning: return warning
-        case Tone.bad: return bad
-        case Tone.muted: return secondary
+        case Tone.Secondary: return secondary
+        case Tone.Tertiary: return tertiary
+        case Tone.Accent: return accent
+        case Tone.Good: return good
+        case Tone.Warning: return warning
+        case Tone.Bad: return bad
+        case Tone.Muted: return secondary
         default: return primary
         }
     }
