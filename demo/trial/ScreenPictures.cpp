@@ -2,24 +2,26 @@
 
 #include "core/AppWindows.h"
 #include "platform/Appearance.h"
-
-#include <QCoreApplication>
-#include <QImage>
+#include "trial/ScreenCamera.h"
 
 namespace vantrell {
+namespace {
+
+void takeDashboard(AppWindows& windows, ScreenCamera& camera) {
+    windows.root().select(Destination::dashboard);
+    camera.take(windows.mainWindow(), "dashboard");
+}
+
+}  // namespace
 
 std::optional<std::string> writeScreens(MyApp& app, TrialSurroundings& surroundings,
                                         const std::filesystem::path& folder) {
-    std::filesystem::create_directories(folder);
     FixedAppearance appearance;
-    AppWindows windows(app, surroundings.parts(), {surroundings.origins(), appearance});
+    ScreenCamera camera(appearance, folder);
+    AppWindows windows(app, surroundings.parts(), surroundings.windowParts(appearance));
     windows.mainWindow().show();
-    QCoreApplication::processEvents();
-    const QImage picture = windows.mainWindow().grabWindow();
-    if (!picture.save(QString::fromStdString(folder / "dashboard-light.png"))) {
-        return "could not write";
-    }
-    return std::nullopt;
+    takeDashboard(windows, camera);
+    return camera.problem();
 }
 
 }  // namespace vantrell

@@ -3,6 +3,7 @@
 #include "core/AppWindows.h"
 #include "core/MyApp.h"
 #include "platform/DesktopAppearance.h"
+#include "platform/InstanceGuard.h"
 #include "platform/Overloaded.h"
 #include "trial/ExportFiles.h"
 #include "trial/RunProgress.h"
@@ -102,6 +103,10 @@ TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostrea
 
 TrialEnd openTrialWindow(const TrialOptions& options, std::ostream& output, std::ostream& errors) {
     TrialSurroundings surroundings(options);
+    InstanceGuard guard(surroundings.folder());
+    if (!guard.isFirst() && guard.wakeFirst()) {
+        return TrialEnd::done;
+    }
     auto begun = surroundings.start();
     if (const auto* failure = std::get_if<StartFailure>(&begun)) {
         errors << onOneLine(failure->text) << std::endl;
@@ -110,7 +115,8 @@ TrialEnd openTrialWindow(const TrialOptions& options, std::ostream& output, std:
     MyApp& app = *std::get<std::unique_ptr<MyApp>>(begun);
     output << "The store is " << fs::absolute(surroundings.storeFile()).string() << std::endl;
     DesktopAppearance appearance;
-    AppWindows windows(app, surroundings.parts(), {surroundings.origins(), appearance});
+    AppWindows windows(app, surroundings.parts(), surroundings.windowParts(appearance));
+    QObject::connect(&guard, &InstanceGuard::wakened, &windows, &AppWindows::raise);
     windows.show();
     QGuiApplication::exec();
     return TrialEnd::done;

@@ -71,4 +71,11 @@ std::variant<std::unique_ptr<MyApp>, StartFailure> TrialSurroundings::start() {
     return begun;
 }
 
+AppWindowsParts TrialSurroundings::windowParts(Appearance& appearance) const {
+    return {.origins = origins_,
+            .appearance = appearance,
+            .icons = {.folder = folder_ / "cache" / "icons", .plainOrigin = origins_.lookupService},
+            .placementFile = folder_ / "window.json"};
+}
+
 }  // namespace vantrell

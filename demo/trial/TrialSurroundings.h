@@ -1,12 +1,12 @@
 #pragma once
 
+#include "core/AppWindows.h"
 #include "core/MyApp.h"
 #include "platform/JsonDefaults.h"
 #include "platform/MemorySecretStore.h"
 #include "platform/QtHttpClient.h"
 #include "platform/SystemClock.h"
 #include "sample/SampleService.h"
-#include "screens/ScreenParts.h"
 #include "trial/TrialOptions.h"
 
 #include <filesystem>
@@ -26,7 +26,8 @@ class TrialSurroundings {
     [[nodiscard]] std::variant<std::unique_ptr<MyApp>, StartFailure> start();
 
     [[nodiscard]] MyAppParts parts() { return {http_, clock_, localTime_, locale_, secrets_, defaults_}; }
-    [[nodiscard]] const ServiceOrigins& origins() const { return origins_; }
+    [[nodiscard]] AppWindowsParts windowParts(Appearance& appearance) const;
+    [[nodiscard]] const std::filesystem::path& folder() const { return folder_; }
     [[nodiscard]] const Locale& locale() const { return locale_; }
     [[nodiscard]] std::filesystem::path storeFile() const { return folder_ / "vantrell.sqlite"; }
 

@@ -1,8 +1,13 @@
 #include "core/AppWindows.h"
 
+#include "screens/AppIconProvider.h"
 #include "screens/QmlModule.h"
 
+#include <chrono>
+
+#include <QGuiApplication>
 #include <QQmlComponent>
+#include <QTimer>
 
 namespace vantrell {
 namespace {
@@ -39,17 +44,28 @@ std::unique_ptr<QQuickWindow> loaded(QQmlEngine& engine, RootView& root) {
 }  // namespace
 
 AppWindows::AppWindows(MyApp& app, const MyAppParts& parts, const AppWindowsParts& windowParts)
-    : root_(screenParts(app, parts, windowParts)) {
+    : icons_(parts.http, windowParts.icons), root_(screenParts(app, parts, windowParts)) {
     prepareQmlEngine(engine_);
+    // The engine owns it from here on.
+    engine_.addImageProvider(QString::fromLatin1(AppIconProvider::name), new AppIconProvider(icons_));
     mainWindow_ = loaded(engine_, root_);
+    if (windowParts.placementFile) {
+        placement_.emplace(*mainWindow_, *windowParts.placementFile);
+    }
+    connect(&engine_, &QQmlEngine::quit, qGuiApp, &QGuiApplication::quit, Qt::QueuedConnection);
     connect(mainWindow_.get(), &QWindow::activeChanged, this, &AppWindows::activeChanged);
+    connect(mainWindow_.get(), &QQuickWindow::frameSwapped, this, &AppWindows::firstPainted,
+            Qt::QueuedConnection);
 }
 
 AppWindows::~AppWindows() = default;
 
+// Reading a large store takes a while: the window comes first. One that is never painted, since it started
+// out hidden, must not wait for ever.
 void AppWindows::show() {
+    constexpr auto longestWait = std::chrono::seconds(2);
     mainWindow_->show();
-    root_.appear();
+    QTimer::singleShot(longestWait, this, &AppWindows::firstPainted);
 }
 
 void AppWindows::raise() {
@@ -59,8 +75,16 @@ void AppWindows::raise() {
 }
 
 void AppWindows::activeChanged() {
-    if (mainWindow_->isActive()) {
+    if (mainWindow_->isActive() && hasAppeared_) {
         root_.becomeActive();
+    }
+}
+
+void AppWindows::firstPainted() {
+    if (!hasAppeared_) {
+        hasAppeared_ = true;
+        disconnect(mainWindow_.get(), &QQuickWindow::frameSwapped, this, nullptr);
+        root_.appear();
     }
 }
 

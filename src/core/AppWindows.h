@@ -1,9 +1,13 @@
 #pragma once
 
 #include "core/MyApp.h"
+#include "core/PlacementKeeper.h"
+#include "icons/ImageLoader.h"
 #include "screens/RootView.h"
 
+#include <filesystem>
 #include <memory>
+#include <optional>
 
 #include <QObject>
 #include <QQmlEngine>
@@ -15,6 +19,9 @@ namespace vantrell {
 struct AppWindowsParts {
     const ServiceOrigins& origins;
     Appearance& appearance;
+    ImageLoaderSettings icons;
+    /// Where the main window's place is remembered; absent to forget it.
+    std::optional<std::filesystem::path> placementFile;
 };
 
 /// The program's windows. Everything that is shown in them goes with this object.
@@ -29,17 +36,21 @@ class AppWindows : public QObject {
     [[nodiscard]] RootView& root() { return root_; }
     [[nodiscard]] QQuickWindow& mainWindow() { return *mainWindow_; }
 
-    /// Shows the main window and sets the data moving.
+    /// Shows the main window, and sets the data moving as soon as it has been painted.
     void show();
     /// Brings the main window to the front.
     void raise();
 
   private:
     void activeChanged();
+    void firstPainted();
 
+    ImageLoader icons_;
     RootView root_;
     QQmlEngine engine_;
     std::unique_ptr<QQuickWindow> mainWindow_;
+    std::optional<PlacementKeeper> placement_;
+    bool hasAppeared_ = false;
 };
 
 }  // namespace vantrell

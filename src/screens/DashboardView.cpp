@@ -31,6 +31,10 @@ void DashboardView::fetch() {
 }
 
 void DashboardView::refresh() {
+    // Before the first load there is nothing to tell, not even that there is nothing.
+    if (!store().isLoaded()) {
+        return;
+    }
     refreshEmptiness();
     std::vector<StatTile> tiles;
     for (const HeadlineFigure& figure : headlineFigures(store(), locale())) {
@@ -40,7 +44,7 @@ void DashboardView::refresh() {
 }
 
 void DashboardView::refreshEmptiness() {
-    const bool isEmpty = store().salesRows().size() == 0 && !engine().isSyncing();
+    const bool isEmpty = store().isLoaded() && store().salesRows().empty() && !engine().isSyncing();
     if (isEmpty != isEmpty_) {
         isEmpty_ = isEmpty;
         Q_EMIT isEmptyChanged();

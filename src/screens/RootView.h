@@ -54,6 +54,7 @@ class RootView : public QObject {
     Q_INVOKABLE void select(vantrell::Destination::Value destination);
     /// Moves the selection along the sidebar, up for -1, and not past its ends.
     Q_INVOKABLE void selectNext(int steps);
+    Q_INVOKABLE void showSettings() { select(Destination::settings); }
     [[nodiscard]] QString screenTitle() const;
     [[nodiscard]] QString sidebarName() const { return tr("Screens"); }
     [[nodiscard]] bool hasToolbarControls() const { return selection() != Destination::settings; }

@@ -35,6 +35,7 @@ T.ApplicationWindow {
         property: "reducesMotion"
         value: window.root.appearance.reducesMotion
     }
+    Shortcuts { root: window.root }
     RowLayout {
         anchors.fill: parent
         spacing: 0

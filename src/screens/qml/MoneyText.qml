@@ -17,7 +17,7 @@ T.AbstractButton {
     implicitWidth: amount.implicitWidth + (mark.visible ? mark.width + 4 : 0)
     implicitHeight: amount.implicitHeight
     focusPolicy: Qt.TabFocus
-    Accessible.role: Accessible.StaticText
+    Accessible.role: Accessible.Button
     Accessible.name: figure.money.spoken
     Accessible.description: figure.money.warning
     Accessible.focusable: true

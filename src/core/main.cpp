@@ -1,0 +1,68 @@
+#include "core/AppWindows.h"
+#include "core/MyApp.h"
+#include "core/ProgramFolders.h"
+#include "core/PublicServices.h"
+#include "platform/DesktopAppearance.h"
+#include "platform/InstanceGuard.h"
+#include "platform/JsonDefaults.h"
+#include "platform/KeychainSecretStore.h"
+#include "platform/QtHttpClient.h"
+#include "platform/SystemClock.h"
+
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+#include <optional>
+#include <variant>
+
+#include <QGuiApplication>
+
+namespace {
+
+using namespace vantrell;
+
+std::optional<std::string> environmentVariable(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::nullopt : std::optional<std::string>(value);
+}
+
+int run(const ProgramFolders& folders, InstanceGuard& guard) {
+    const ServiceOrigins origins = publicServices();
+    SystemClock clock;
+    const HostLocalTime localTime;
+    const Locale locale(LocaleNames::fromEnvironment(environmentVariable));
+    QtHttpClient http;
+    KeychainSecretStore secrets;
+    JsonDefaults defaults(folders.config / "defaults.json");
+    DesktopAppearance appearance;
+    const MyAppParts parts{http, clock, localTime, locale, secrets, defaults};
+    const auto begun =
+        MyApp::start(parts, folders.data / "vantrell.sqlite", {origins.reportService, origins.rateService});
+    if (const auto* failure = std::get_if<StartFailure>(&begun)) {
+        std::cerr << failure->text << std::endl;
+        return EXIT_FAILURE;
+    }
+    AppWindows windows(*std::get<std::unique_ptr<MyApp>>(begun), parts,
+                       {.origins = origins,
+                        .appearance = appearance,
+                        .icons = {.folder = folders.cache / "icons"},
+                        .placementFile = folders.config / "window.json"});
+    QObject::connect(&guard, &InstanceGuard::wakened, &windows, &AppWindows::raise);
+    windows.show();
+    return QGuiApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("vantrell"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Vantrell"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("vantrell"));
+    const ProgramFolders folders = ProgramFolders::ofUser();
+    InstanceGuard guard(folders.data);
+    if (!guard.isFirst() && guard.wakeFirst()) {
+        return EXIT_SUCCESS;
+    }
+    return run(folders, guard);
+}
