@@ -1,5 +1,7 @@
 #include "sample/Lookup.h"
 
+#include "sample/IconDesk.h"
+
 #include <algorithm>
 
 #include <QJsonArray>
@@ -20,15 +22,14 @@ bool isSoldIn(const Item& app, std::string_view country) {
 }
 
 QJsonObject entry(const Item& app, std::string_view origin) {
-    const auto picture = text(origin) + QStringLiteral("/icon/%1").arg(app.appleID);
     QJsonObject found{{QStringLiteral("wrapperType"), QStringLiteral("software")},
                       {QStringLiteral("trackId"), static_cast<qint64>(app.appleID)},
                       {QStringLiteral("trackName"), text(app.titles.back().value)},
-                      {QStringLiteral("bundleId"), text(app.sku)},
-                      {QStringLiteral("artworkUrl60"), picture + QStringLiteral("-60.png")}};
-    // The store has no large picture of the iPad's apps.
-    if (app.hardware != Hardware::iPad) {
-        found.insert(QStringLiteral("artworkUrl100"), picture + QStringLiteral("-100.png"));
+                      {QStringLiteral("bundleId"), text(app.sku)}};
+    for (const int side : {60, 100}) {
+        if (const auto path = iconPath(app, side)) {
+            found.insert(QStringLiteral("artworkUrl%1").arg(side), text(origin) + text(*path));
+        }
     }
     return found;
 }

@@ -77,6 +77,7 @@ SampleService::SampleService(const SampleAccount& account, const SampleAccess& a
       clock_(clock),
       tokens_(access),
       desk_(account, access.vendorNumber),
+      icons_(account.items()),
       listener_(std::make_unique<Listener>([this](const Question& question, std::string target) {
           return serve(question, std::move(target));
       })) {}
@@ -98,7 +99,7 @@ Answer SampleService::serve(const Question& question, std::string target) {
     return given;
 }
 
-Answer SampleService::answer(const Question& question, std::optional<TokenFault>& tokenFault) const {
+Answer SampleService::answer(const Question& question, std::optional<TokenFault>& tokenFault) {
     const bool asksForSales = question.path == salesPath;
     if (!asksForSales && question.path != financePath) {
         return publicAnswer(question);
@@ -111,13 +112,16 @@ Answer SampleService::answer(const Question& question, std::optional<TokenFault>
     return asksForSales ? desk_.sales(question, now) : desk_.finance(question, now);
 }
 
-Answer SampleService::publicAnswer(const Question& question) const {
+Answer SampleService::publicAnswer(const Question& question) {
     if (question.path == ratesPath) {
         return {200, "application/json", ratesBody()};
     }
     if (question.path == lookupPath) {
         return {200, "text/javascript; charset=utf-8",
                 lookupBody(account_.items(), question.item("id"), question.item("country"), origin())};
+    }
+    if (auto picture = icons_.picture(question.path)) {
+        return {200, "image/png", *std::move(picture)};
     }
     return noSuchPath();
 }

@@ -3,6 +3,7 @@
 #include "platform/Clock.h"
 #include "sample/Answer.h"
 #include "sample/Faults.h"
+#include "sample/IconDesk.h"
 #include "sample/ReportDesk.h"
 #include "sample/RequestLog.h"
 #include "sample/SampleAccount.h"
@@ -14,7 +15,7 @@
 namespace vantrell::sample {
 
 /// An HTTP server on 127.0.0.1 that answers for the sample account as the report, exchange-rate and lookup
-/// services do for a real one. It has no update to offer and no pictures. Runs on the event loop of the
+/// services do for a real one. It has no update to offer. Runs on the event loop of the
 /// thread that creates it, and works each answer out when it is asked for.
 class SampleService {
   public:
@@ -38,13 +39,14 @@ class SampleService {
     class Listener;
 
     [[nodiscard]] Answer serve(const Question& question, std::string target);
-    [[nodiscard]] Answer answer(const Question& question, std::optional<TokenFault>& tokenFault) const;
-    [[nodiscard]] Answer publicAnswer(const Question& question) const;
+    [[nodiscard]] Answer answer(const Question& question, std::optional<TokenFault>& tokenFault);
+    [[nodiscard]] Answer publicAnswer(const Question& question);
 
     const SampleAccount& account_;
     const Clock& clock_;
     TokenCheck tokens_;
     ReportDesk desk_;
+    IconDesk icons_;
     RequestLog log_;
     Faults faults_;
     std::unique_ptr<Listener> listener_;

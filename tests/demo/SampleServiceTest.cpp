@@ -3,6 +3,11 @@
 #include "sample/SalesBody.h"
 #include "sample/SampleTotals.h"
 
+#include <set>
+
+#include <QImage>
+#include <QJsonDocument>
+
 #include <gmock/gmock.h>
 #include <libdeflate.h>
 
@@ -136,6 +141,33 @@ TEST_F(SampleService, LooksUpTheAppsThatAreSoldInACountry) {
         EXPECT_EQ(body.find(c.id) != std::string::npos, c.found) << c.name;
         EXPECT_EQ(body.find(service.origin() + "/icon/") != std::string::npos, c.found) << c.name;
     }
+}
+
+TEST_F(SampleService, HasAPictureOfItsOwnAtEveryAddressThatItNames) {
+    std::set<std::string> pictures;
+    std::size_t named = 0;
+    for (const auto& item : account.items()) {
+        const auto id = std::to_string(item.appleID);
+        const auto found =
+            QJsonDocument::fromJson(QByteArray::fromStdString(get("/lookup", {{"id", id}}).body));
+        const auto entry = found[QLatin1StringView("results")][0];
+        for (const int side : {60, 100}) {
+            const auto path = "/icon/" + id + "-" + std::to_string(side) + ".png";
+            const auto address = entry[QLatin1StringView("artworkUrl%1").toString().arg(side)].toString();
+            const auto reply = get(path);
+            if (address.isEmpty()) {
+                EXPECT_EQ(reply.status, 404) << path;
+                continue;
+            }
+            EXPECT_EQ(address.toStdString(), service.origin() + path);
+            EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(reply.body), "PNG").size(),
+                      QSize(side, side));
+            pictures.insert(reply.body);
+            ++named;
+        }
+    }
+    EXPECT_EQ(pictures.size(), named);
+    EXPECT_EQ(named, 23U) << "12 apps, one of them without the large picture; a withdrawn one has none";
 }
 
 TEST_F(SampleService, RefusesOtherSellersAndWhomeverATestTellsItTo) {
