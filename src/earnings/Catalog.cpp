@@ -8,7 +8,7 @@ namespace {
 
 /// What has been seen of one Apple identifier so far.
 struct Seen {
-    const SalesItem* latest = nullptr;  // gives title, SKU and product type
+    const SalesOffer* latest = nullptr;  // gives title, SKU and product type
     Instant date = distantPast;
     ProductKind kind = ProductKind::other;
     std::string_view parentSKU;
@@ -29,35 +29,35 @@ ProductKind preferredKind(ProductKind seen, ProductKind line) {
     return seen;
 }
 
-void look(Seen& seen, const SalesItem& item, Instant date) {
+void look(Seen& seen, const SalesOffer& offer, Instant date) {
     // Of two lines of one day the later one is the newer.
     if (date >= seen.date) {
-        seen.latest = &item;
+        seen.latest = &offer;
         seen.date = date;
     }
-    if (item.kind == ProductKind::iap && (seen.parentSKU.empty() || date >= seen.date)) {
-        seen.parentSKU = item.parentSKU;
+    if (offer.kind == ProductKind::iap && (seen.parentSKU.empty() || date >= seen.date)) {
+        seen.parentSKU = offer.parentSKU;
     }
-    seen.kind = preferredKind(seen.kind, item.kind);
+    seen.kind = preferredKind(seen.kind, offer.kind);
 }
 
 std::map<std::int64_t, Seen> everythingSeen(const SalesSnapshot& rows) {
-    // Items of one identifier share one record, found without a look-up per line.
+    // Offers of one identifier share one record, found without a look-up per line.
     std::map<std::int64_t, Seen> seen;
-    std::vector<Seen*> byItem;
-    byItem.reserve(rows.items().size());
-    for (const SalesItem& item : rows.items()) {
-        byItem.push_back(item.appleID == 0 ? nullptr : &seen[item.appleID]);
+    std::vector<Seen*> byOffer;
+    byOffer.reserve(rows.offers().size());
+    for (const SalesOffer& offer : rows.offers()) {
+        byOffer.push_back(offer.appleID == 0 ? nullptr : &seen[offer.appleID]);
     }
     for (const auto& chunk : rows.chunks()) {
         for (std::size_t row = 0; row < chunk->size(); ++row) {
-            const std::uint32_t number = chunk->items[row];
-            if (Seen* record = byItem[number]) {
-                look(*record, rows.items()[number], chunk->dateOf(row));
+            const std::uint32_t number = chunk->offers[row];
+            if (Seen* record = byOffer[number]) {
+                look(*record, rows.offers()[number], chunk->dateOf(row));
             }
         }
     }
-    // Items outlive their lines, so an identifier may be left without any.
+    // Offers outlive their lines, so an identifier may be left without any.
     std::erase_if(seen, [](const auto& entry) { return entry.second.latest == nullptr; });
     return seen;
 }

@@ -9,6 +9,7 @@
 #include "earnings/Catalog.h"
 #include "earnings/DayFigures.h"
 #include "earnings/FinanceSnapshot.h"
+#include "earnings/OfferGroups.h"
 #include "earnings/Payouts.h"
 #include "earnings/ProductFigures.h"
 #include "earnings/SalesSelection.h"
@@ -23,6 +24,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <QObject>
@@ -170,12 +172,18 @@ class EarningsStore : public QObject {
     [[nodiscard]] WindowSelections windowRows() const;
     /// What an all-time list is sorted by.
     [[nodiscard]] double sortValue(const AggregateStats& stats) const;
+    /// The apps that sales and refunds belong to.
+    [[nodiscard]] OfferGroups ownersOfSold() const;
     /// The greatest label of `yearlyOKLabels`: what a year must be after to count by its daily reports.
     [[nodiscard]] std::string lastYearlyLabel() const;
     /// Whether what belongs to this Apple identifier is of one of the apps.
     [[nodiscard]] bool passes(std::int64_t appleID, const std::set<std::int64_t>& apps) const;
-    [[nodiscard]] ItemMask itemMask(const AppFilter& apps) const;
+    [[nodiscard]] OfferMask offerMask(const AppFilter& apps) const;
     [[nodiscard]] ReportStatus dailyStatus(const std::string& key) const;
+    /// Of the report with this number of a chunk.
+    [[nodiscard]] std::optional<std::string_view> reportDate(std::size_t chunk) const {
+        return salesRows_.chunks()[chunk]->reportDate;
+    }
 
     Defaults& defaults_;
     const Locale& locale_;

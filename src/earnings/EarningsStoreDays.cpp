@@ -1,6 +1,7 @@
 #include "calendar/DayKey.h"
+#include "earnings/ChartSums.h"
 #include "earnings/EarningsStore.h"
-#include "earnings/LineValues.h"
+#include "earnings/StatsAccumulator.h"
 
 #include <algorithm>
 #include <map>
@@ -25,23 +26,22 @@ bool isSilent(const SalesRowLite& row) {
 
 std::vector<DayPoint> EarningsStore::dayPoints(const std::string& from, const std::string& to,
                                                const AppFilter& apps) const {
-    LineValues values(salesRows_, converter_);
-    std::map<std::string_view, DayPoint> sums;
-    DayPoint* ofDay = nullptr;
+    const OfferGroups sold(salesRows_.offers(), [](const SalesOffer& offer) {
+        return isSold(offer.kind) ? std::optional(0) : std::nullopt;
+    });
+    ChartSums sums(sold, salesRows_.currencies(), converter_);
+    std::map<std::string_view, ChartAmount> amounts;
     dailyRows(from, to, apps)
-        .forEach([&](const SalesChunk& report) { ofDay = &sums[report.reportDate]; },
-                 [&](const SalesRowRef& row) {
-                     const auto value = isSold(row.item().kind) ? values.value(row) : std::nullopt;
-                     if (value) {
-                         (*value < 0 ? ofDay->refunds : ofDay->proceeds) += *value;
-                     }
-                 });
+        .forEachSection([this](std::size_t chunk) { return reportDate(chunk); },
+                        [&](std::string_view day, const std::vector<OfferSum>& lines) {
+                            for (const auto& amount : sums.amounts(lines)) {
+                                amounts[day] = amount.value_or(ChartAmount());
+                            }
+                        });
     std::vector<DayPoint> points;
     for (const auto& [key, date] : days(from, to)) {
-        DayPoint point = sums[key];
-        point.day = date;
-        point.status = dailyStatus(key);
-        points.push_back(point);
+        const ChartAmount amount = amounts[key];
+        points.push_back({date, amount.proceeds, amount.refunds, dailyStatus(key)});
     }
     return points;
 }
@@ -49,9 +49,10 @@ std::vector<DayPoint> EarningsStore::dayPoints(const std::string& from, const st
 std::vector<DayTableRow> EarningsStore::dayTable(const std::string& from, const std::string& to,
                                                  const AppFilter& apps) const {
     std::map<std::string_view, StatsAccumulator> sums;
-    const SalesSelection rows = dailyRows(from, to, apps);
-    rows.forEachReport(
-        [&](std::size_t chunk) { rows.addReport(chunk, sums[salesRows_.chunks()[chunk]->reportDate]); });
+    dailyRows(from, to, apps)
+        .forEachSection(
+            [this](std::size_t chunk) { return reportDate(chunk); },
+            [&sums](std::string_view day, const std::vector<OfferSum>& lines) { sums[day].add(lines); });
     std::vector<DayTableRow> table;
     for (const auto& [key, date] : days(from, to)) {
         const auto sum = sums.find(key);

@@ -34,8 +34,10 @@ std::vector<PeriodStat> EarningsStore::yearStats(const AppFilter& apps) const {
             {label, "Yearly report", reportRows(ReportFrequency::yearly, label, apps).aggregate()});
     }
     std::map<std::string_view, StatsAccumulator> sums;
-    SalesSelection(salesRows_, {salesRows_.dailySpanAfterYear(lastYearlyLabel())}, itemMask(apps))
-        .forEach([&sums](const SalesRowRef& row) { row.addTo(sums[yearOf(row.chunk().reportDate)]); });
+    SalesSelection(salesRows_, {salesRows_.dailySpanAfterYear(lastYearlyLabel())}, offerMask(apps))
+        .forEachSection(
+            [this](std::size_t chunk) { return std::optional(yearOf(*reportDate(chunk))); },
+            [&sums](std::string_view year, const std::vector<OfferSum>& lines) { sums[year].add(lines); });
     const std::string thisYear = calendar_.currentYearLabel();
     for (const auto& [year, sum] : sums) {
         years.push_back({std::string(year),

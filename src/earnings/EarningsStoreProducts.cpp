@@ -1,5 +1,5 @@
 #include "earnings/EarningsStore.h"
-#include "earnings/ItemGroups.h"
+#include "earnings/OfferGroups.h"
 
 #include <algorithm>
 #include <map>
@@ -56,17 +56,17 @@ std::optional<Decimal> converted(const std::vector<CountryMoney>& byCurrency, co
 }  // namespace
 
 std::vector<ProductStat> EarningsStore::productStats(const AppFilter& apps) const {
-    const ItemGroups products(salesRows_.items(), [](const SalesItem& item) {
-        return isSold(item.kind) ? std::optional(item.appleID) : std::nullopt;
+    const OfferGroups products(salesRows_.offers(), [](const SalesOffer& offer) {
+        return isSold(offer.kind) ? std::optional(offer.appleID) : std::nullopt;
     });
     std::vector<ProductSum> sums(products.ids().size());
-    allTimeRows(apps).forEach([&](const SalesRowRef& row) {
-        const std::uint32_t product = products.ofItem(row.itemNumber());
-        if (product != ItemGroups::none) {
+    for (const OfferSum& lines : allTimeRows(apps).sums()) {
+        const std::uint32_t product = products.ofOffer(lines.offerNumber);
+        if (product != OfferGroups::none) {
             ProductSum& sum = sums[product];
-            row.addTo(sum ? *sum : sum.emplace());
+            (sum ? *sum : sum.emplace()).add(lines);
         }
-    });
+    }
     std::vector<ProductStat> stats;
     for (std::size_t product = 0; product < sums.size(); ++product) {
         if (sums[product]) {
@@ -85,19 +85,19 @@ std::vector<CountryStat> EarningsStore::countryStats(const AppFilter& apps, std:
     // at its last digit, and faster.
     CountrySums sums;
     std::vector<std::vector<CountryMoney>*> byText(salesRows_.texts().size());
-    allTimeRows(apps).forEach([&](const SalesRowRef& row) {
-        if (!isSold(row.item().kind)) {
+    allTimeRows(apps).forEach([&](const SalesChunk& lines, std::size_t row) {
+        const SalesOffer& offer = salesRows_.offers()[lines.offers[row]];
+        if (!isSold(offer.kind)) {
             return;
         }
-        const std::uint32_t country = row.chunk().countries[row.index];
+        const std::uint32_t country = lines.countries[row];
         if (byText[country] == nullptr) {
             byText[country] = &sums[country];
             byText[country]->resize(salesRows_.currencies().size());
         }
-        const SalesPrice& price = row.price();
-        CountryMoney& money = (*byText[country])[price.currency];
+        CountryMoney& money = (*byText[country])[offer.currency];
         money.isSeen = true;
-        money.sum.add(row.units(), price.proceeds);
+        money.sum.add(lines.unitsOf(row), offer.proceeds);
     });
     std::map<std::string, Decimal> byCountry;
     for (const auto& [country, byCurrency] : sums) {

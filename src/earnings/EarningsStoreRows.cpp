@@ -8,19 +8,19 @@
 namespace vantrell {
 SalesSelection EarningsStore::dailyRows(const std::optional<std::string>& from,
                                         const std::optional<std::string>& to, const AppFilter& apps) const {
-    return {salesRows_, {salesRows_.span(ReportFrequency::daily, from, to)}, itemMask(apps)};
+    return {salesRows_, {salesRows_.span(ReportFrequency::daily, from, to)}, offerMask(apps)};
 }
 
 SalesSelection EarningsStore::allTimeRows(const AppFilter& apps) const {
     return {salesRows_,
             {salesRows_.dailySpanAfterYear(lastYearlyLabel()),
              salesRows_.span(ReportFrequency::yearly, std::nullopt, std::nullopt)},
-            itemMask(apps)};
+            offerMask(apps)};
 }
 
 SalesSelection EarningsStore::reportRows(ReportFrequency frequency, const std::string& reportDate,
                                          const AppFilter& apps) const {
-    return {salesRows_, {salesRows_.span(frequency, reportDate, reportDate)}, itemMask(apps)};
+    return {salesRows_, {salesRows_.span(frequency, reportDate, reportDate)}, offerMask(apps)};
 }
 
 WindowSelections EarningsStore::windowRows() const {
@@ -28,6 +28,12 @@ WindowSelections EarningsStore::windowRows() const {
     constexpr int year = 365;
     return {dailyRows(calendar_.dayKey(month), {}, {}), dailyRows(calendar_.dayKey(year), {}, {}),
             dailyRows(calendar_.currentYearLabel() + "-01-01", {}, {}), allTimeRows({})};
+}
+
+OfferGroups EarningsStore::ownersOfSold() const {
+    return {salesRows_.offers(), [this](const SalesOffer& offer) {
+                return isSold(offer.kind) ? catalog_.owningApp(offer.appleID) : std::nullopt;
+            }};
 }
 
 std::string EarningsStore::lastYearlyLabel() const {
@@ -39,14 +45,14 @@ bool EarningsStore::passes(std::int64_t appleID, const std::set<std::int64_t>& a
     return owner && apps.contains(*owner);
 }
 
-ItemMask EarningsStore::itemMask(const AppFilter& apps) const {
+OfferMask EarningsStore::offerMask(const AppFilter& apps) const {
     if (!apps) {
         return nullptr;
     }
     auto mask = std::make_shared<std::vector<bool>>();
-    mask->reserve(salesRows_.items().size());
-    for (const SalesItem& item : salesRows_.items()) {
-        mask->push_back(passes(item.appleID, *apps));
+    mask->reserve(salesRows_.offers().size());
+    for (const SalesOffer& offer : salesRows_.offers()) {
+        mask->push_back(passes(offer.appleID, *apps));
     }
     return mask;
 }

@@ -1,9 +1,10 @@
+#include "earnings/ChartSums.h"
 #include "earnings/EarningsStore.h"
-#include "earnings/ItemGroups.h"
-#include "earnings/LineValues.h"
+#include "earnings/OfferGroups.h"
 #include "earnings/WindowSums.h"
 
 #include <algorithm>
+#include <set>
 #include <string_view>
 #include <utility>
 
@@ -22,17 +23,17 @@ void fillWindows(Entry& entry, const WindowSums& sums, std::uint32_t group) {
     entry.allTime = sums.stats(FigureWindow::allTime, group);
 }
 
-/// The product whose figures an item's lines are part of: the item itself, where the catalog knows it as an
+/// The product whose figures an offer's lines are part of: its own, where the catalog knows it as an
 /// app or as a product of an app. Updates and redownloads are part of none.
-OptionalID productOf(const SalesItem& item, const Catalog& catalog) {
+OptionalID productOf(const SalesOffer& offer, const Catalog& catalog) {
     const auto& products = catalog.productByID();
-    if (item.kind == ProductKind::app) {
-        return catalog.appByID().contains(item.appleID) ? OptionalID(item.appleID) : std::nullopt;
+    if (offer.kind == ProductKind::app) {
+        return catalog.appByID().contains(offer.appleID) ? OptionalID(offer.appleID) : std::nullopt;
     }
-    const auto product = products.find(item.appleID);
+    const auto product = products.find(offer.appleID);
     const bool isOwned =
-        item.kind == ProductKind::iap && product != products.end() && product->second.appID.has_value();
-    return isOwned ? OptionalID(item.appleID) : std::nullopt;
+        offer.kind == ProductKind::iap && product != products.end() && product->second.appID.has_value();
+    return isOwned ? OptionalID(offer.appleID) : std::nullopt;
 }
 
 ProductWindowStat emptyProduct(std::int64_t id, const Catalog& catalog) {
@@ -55,44 +56,6 @@ std::string_view yearCounted(const SalesChunk& report) {
     return report.frequency == ReportFrequency::yearly ? report.reportDate : yearOf(report.reportDate);
 }
 
-/// Adds to the cells of a matrix year by year, and looks each cell up once a year.
-class YearCells {
-  public:
-    YearCells(YearMatrix& matrix, const ItemGroups& apps)
-        : matrix_(matrix), apps_(apps), cells_(apps.ids().size()) {}
-
-    void inYear(std::string_view year) {
-        if (year != year_) {
-            year_ = year;
-            std::ranges::fill(cells_, nullptr);
-        }
-    }
-
-    void add(std::uint32_t app, double value) {
-        double*& cell = cells_[app];
-        if (cell == nullptr) {
-            cell = &matrix_.byApp[apps_.ids()[app]][std::string(year_)];
-        }
-        *cell += value;
-        if (value != 0) {
-            note(year_);
-        }
-    }
-
-  private:
-    void note(std::string_view year) {
-        const auto place = std::ranges::lower_bound(matrix_.years, year);
-        if (place == matrix_.years.end() || *place != year) {
-            matrix_.years.emplace(place, year);
-        }
-    }
-
-    YearMatrix& matrix_;
-    const ItemGroups& apps_;
-    std::string_view year_;
-    std::vector<double*> cells_;  // by app, in the current year
-};
-
 bool standsBefore(const ProductWindowStat& left, const ProductWindowStat& right) {
     return std::pair(left.isAppPurchases, left.sortValue) > std::pair(right.isAppPurchases, right.sortValue);
 }
@@ -104,8 +67,8 @@ double EarningsStore::sortValue(const AggregateStats& stats) const {
 }
 
 std::vector<AppTableEntry> EarningsStore::appTable() const {
-    const ItemGroups owners(salesRows_.items(),
-                            [this](const SalesItem& item) { return catalog_.owningApp(item.appleID); });
+    const OfferGroups owners(salesRows_.offers(),
+                             [this](const SalesOffer& offer) { return catalog_.owningApp(offer.appleID); });
     const WindowSums sums(salesRows_, windowRows(), owners);
     std::vector<AppTableEntry> table;
     table.reserve(catalog_.apps().size());
@@ -120,8 +83,8 @@ std::vector<AppTableEntry> EarningsStore::appTable() const {
 }
 
 ProductWindows EarningsStore::productWindows() const {
-    const ItemGroups products(salesRows_.items(),
-                              [this](const SalesItem& item) { return productOf(item, catalog_); });
+    const OfferGroups products(salesRows_.offers(),
+                               [this](const SalesOffer& offer) { return productOf(offer, catalog_); });
     const WindowSums sums(salesRows_, windowRows(), products);
     ProductWindows windows;
     for (std::uint32_t group = 0; group < products.ids().size(); ++group) {
@@ -140,21 +103,24 @@ ProductWindows EarningsStore::productWindows() const {
 }
 
 YearMatrix EarningsStore::yearMatrix() const {
-    const ItemGroups owners(salesRows_.items(), [this](const SalesItem& item) {
-        return isSold(item.kind) ? catalog_.owningApp(item.appleID) : std::nullopt;
-    });
-    LineValues values(salesRows_, converter_);
+    const OfferGroups owners = ownersOfSold();
+    ChartSums sums(owners, salesRows_.currencies(), converter_);
+    std::set<std::string_view> years;
     YearMatrix matrix;
-    YearCells cells(matrix, owners);
-    allTimeRows({}).forEach([&](const SalesChunk& report) { cells.inYear(yearCounted(report)); },
-                            [&](const SalesRowRef& row) {
-                                const std::uint32_t owner = owners.ofItem(row.itemNumber());
-                                const auto value =
-                                    owner == ItemGroups::none ? std::nullopt : values.value(row);
-                                if (value) {
-                                    cells.add(owner, *value);
-                                }
-                            });
+    allTimeRows({}).forEachSection(
+        [this](std::size_t chunk) { return std::optional(yearCounted(*salesRows_.chunks()[chunk])); },
+        [&](std::string_view year, const std::vector<OfferSum>& lines) {
+            const auto amounts = sums.amounts(lines);
+            for (std::size_t owner = 0; owner < amounts.size(); ++owner) {
+                if (const auto& amount = amounts[owner]) {
+                    matrix.byApp[owners.ids()[owner]][std::string(year)] += amount->total();
+                    if (!amount->isZero()) {
+                        years.insert(year);
+                    }
+                }
+            }
+        });
+    matrix.years.assign(years.begin(), years.end());
     return matrix;
 }
 

@@ -1,11 +1,13 @@
 #include "calendar/DayKey.h"
+#include "earnings/ChartSums.h"
 #include "earnings/EarningsStore.h"
-#include "earnings/ItemGroups.h"
-#include "earnings/LineValues.h"
+#include "earnings/OfferGroups.h"
 
 #include <algorithm>
 #include <iterator>
 #include <ranges>
+#include <set>
+#include <string_view>
 #include <utility>
 
 // Figures by day, week or month, and who earned them.
@@ -55,20 +57,8 @@ class TrendSeries {
     std::size_t colored_ = 0;
 };
 
-/// What one series moved in one bucket.
-struct Cell {
-    bool isUsed = false;
-    double proceeds = 0;
-    double refunds = 0;
-
-    void add(double value) {
-        isUsed = true;
-        (value < 0 ? refunds : proceeds) += value;
-    }
-};
-
-/// The cells of one bucket by series.
-using Cells = std::vector<Cell>;
+/// What each series moved in one bucket. A series that moved nothing has no cell.
+using Cells = std::map<std::size_t, ChartAmount>;
 using CellsByStart = std::map<CivilDate, Cells>;
 
 /// How many of a bucket's days need no further request.
@@ -81,54 +71,47 @@ std::string fetchedNote(const std::vector<ReportStatus>& statuses) {
     return isComplete ? total + " days" : std::to_string(fetched) + " of " + total + " days fetched";
 }
 
+std::optional<CivilDate> bucketOf(const TrendBuckets& buckets, std::string_view day) {
+    const auto start = buckets.startByDay.find(day);
+    return start == buckets.startByDay.end() ? std::nullopt : std::optional(start->second);
+}
+
 CellsByStart trendCells(const EarningsStore& store, const SalesSelection& rows, const TrendBuckets& buckets,
                         const TrendSeries& series) {
-    std::vector<std::size_t> seriesOfItem;
-    seriesOfItem.reserve(store.salesRows().items().size());
-    for (const SalesItem& item : store.salesRows().items()) {
-        seriesOfItem.push_back(series.of(store.catalog().owningApp(item.appleID)));
-    }
+    const SalesSnapshot& snapshot = store.salesRows();
+    const OfferGroups groups(snapshot.offers(), [&](const SalesOffer& offer) {
+        return isSold(offer.kind) ? std::optional(series.of(store.catalog().owningApp(offer.appleID)))
+                                  : std::nullopt;
+    });
+    ChartSums sums(groups, snapshot.currencies(), store.converter());
     CellsByStart cells;
-    for (const CivilDate& start : buckets.starts) {
-        cells[start].resize(series.size());
-    }
-    LineValues values(store.salesRows(), store.converter());
-    Cells* bucket = nullptr;
-    rows.forEach(
-        [&](const SalesChunk& report) {
-            const auto start = buckets.startByDay.find(report.reportDate);
-            bucket = start == buckets.startByDay.end() ? nullptr : &cells[start->second];
-        },
-        [&](const SalesRowRef& row) {
-            if (bucket == nullptr || !isSold(row.item().kind)) {
-                return;
-            }
-            if (const double value = values.value(row).value_or(0); value != 0) {
-                (*bucket)[seriesOfItem[row.itemNumber()]].add(value);
+    rows.forEachSection(
+        [&](std::size_t chunk) { return bucketOf(buckets, snapshot.chunks()[chunk]->reportDate); },
+        [&](CivilDate start, const std::vector<OfferSum>& lines) {
+            const auto amounts = sums.amounts(lines);
+            for (std::size_t group = 0; group < amounts.size(); ++group) {
+                if (amounts[group] && !amounts[group]->isZero()) {
+                    cells[start].emplace(groups.ids()[group], *amounts[group]);
+                }
             }
         });
     return cells;
 }
 
-std::vector<std::size_t> seriesInUse(const CellsByStart& cells, std::size_t count) {
-    std::vector<std::size_t> used;
-    for (std::size_t series = 0; series < count; ++series) {
-        if (std::ranges::any_of(cells,
-                                [series](const auto& bucket) { return bucket.second[series].isUsed; })) {
-            used.push_back(series);
-        }
+std::set<std::size_t> seriesInUse(const CellsByStart& cells) {
+    std::set<std::size_t> used;
+    for (const auto& [start, ofBucket] : cells) {
+        std::ranges::copy(ofBucket | std::views::keys, std::inserter(used, used.end()));
     }
     return used;
 }
 
-std::vector<TrendSlice> slices(const Cells& cells, const std::vector<std::size_t>& used,
-                               const std::vector<TrendLegendItem>& legend) {
+std::vector<TrendSlice> slices(const Cells& cells, const std::map<std::size_t, TrendLegendItem>& legend) {
     std::vector<TrendSlice> slices;
-    for (std::size_t place = 0; place < used.size(); ++place) {
-        if (const Cell& cell = cells[used[place]]; cell.isUsed) {
-            const TrendLegendItem& item = legend[place];
-            slices.push_back({item.appID, item.title, item.colorIndex, cell.proceeds, cell.refunds});
-        }
+    slices.reserve(cells.size());
+    for (const auto& [series, amount] : cells) {
+        const TrendLegendItem& item = legend.at(series);
+        slices.push_back({item.appID, item.title, item.colorIndex, amount.proceeds, amount.refunds});
     }
     return slices;
 }
@@ -169,18 +152,10 @@ std::vector<PeriodStat> EarningsStore::bucketStats(const std::string& from, cons
                                                    const AppFilter& apps) const {
     const TrendBuckets buckets = trendBuckets(from, to, granularity);
     std::map<CivilDate, StatsAccumulator> sums;
-    StatsAccumulator* sum = nullptr;
     dailyRows(from, to, apps)
-        .forEach(
-            [&](const SalesChunk& report) {
-                const auto start = buckets.startByDay.find(report.reportDate);
-                sum = start == buckets.startByDay.end() ? nullptr : &sums[start->second];
-            },
-            [&](const SalesRowRef& row) {
-                if (sum != nullptr) {
-                    row.addTo(*sum);
-                }
-            });
+        .forEachSection(
+            [&](std::size_t chunk) { return bucketOf(buckets, *reportDate(chunk)); },
+            [&sums](CivilDate start, const std::vector<OfferSum>& lines) { sums[start].add(lines); });
     std::vector<PeriodStat> stats;
     stats.reserve(buckets.starts.size());
     for (const auto& [start, statuses] : buckets.statuses) {
@@ -192,22 +167,13 @@ std::vector<PeriodStat> EarningsStore::bucketStats(const std::string& from, cons
 }
 
 std::vector<std::int64_t> EarningsStore::rankedApps() const {
-    const ItemGroups owners(salesRows_.items(), [this](const SalesItem& item) {
-        return isSold(item.kind) ? catalog_.owningApp(item.appleID) : std::nullopt;
-    });
-    LineValues values(salesRows_, converter_);
-    std::vector<std::optional<double>> sums(owners.ids().size());
-    allTimeRows({}).forEach([&](const SalesRowRef& row) {
-        const std::uint32_t owner = owners.ofItem(row.itemNumber());
-        const auto value = owner == ItemGroups::none ? std::nullopt : values.value(row);
-        if (value) {
-            sums[owner] = sums[owner].value_or(0) + *value;
-        }
-    });
+    const OfferGroups owners = ownersOfSold();
+    ChartSums sums(owners, salesRows_.currencies(), converter_);
+    const auto amounts = sums.amounts(allTimeRows({}).sums());
     std::vector<std::pair<double, std::int64_t>> ranking;
-    for (std::size_t owner = 0; owner < sums.size(); ++owner) {
-        if (sums[owner]) {
-            ranking.emplace_back(*sums[owner], owners.ids()[owner]);
+    for (std::size_t owner = 0; owner < amounts.size(); ++owner) {
+        if (amounts[owner]) {
+            ranking.emplace_back(amounts[owner]->total(), owners.ids()[owner]);
         }
     }
     std::ranges::stable_sort(ranking, std::ranges::greater(), &std::pair<double, std::int64_t>::first);
@@ -223,17 +189,17 @@ Trend EarningsStore::trend(const std::string& from, const std::string& to, Trend
         return {};
     }
     const TrendSeries series(rankedApps(), apps);
-    const CellsByStart cells = trendCells(*this, dailyRows(from, to, apps), buckets, series);
-    const auto used = seriesInUse(cells, series.size());
-    Trend trend;
-    trend.legend.reserve(used.size());
-    trend.points.reserve(cells.size());
-    for (const std::size_t number : used) {
-        trend.legend.push_back(series.legend(number, catalog_));
+    CellsByStart cells = trendCells(*this, dailyRows(from, to, apps), buckets, series);
+    std::map<std::size_t, TrendLegendItem> legend;
+    for (const std::size_t used : seriesInUse(cells)) {
+        legend.emplace(used, series.legend(used, catalog_));
     }
-    for (const auto& [start, ofBucket] : cells) {
+    Trend trend;
+    std::ranges::copy(legend | std::views::values, std::back_inserter(trend.legend));
+    trend.points.reserve(buckets.starts.size());
+    for (const CivilDate& start : buckets.starts) {
         trend.points.push_back(
-            {start, combinedStatus(buckets.statuses.at(start)), slices(ofBucket, used, trend.legend)});
+            {start, combinedStatus(buckets.statuses.at(start)), slices(cells[start], legend)});
     }
     return trend;
 }

@@ -33,4 +33,9 @@ Decimal ExactSum::total() const {
     return sum;
 }
 
+long double ExactSum::approximateTotal() const {
+    const long double total = static_cast<long double>(scaled_) / ScaledPrice::scale;
+    return rest_.isZero() ? total : total + rest_.toLongDouble();
+}
+
 }  // namespace vantrell

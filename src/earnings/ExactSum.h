@@ -20,6 +20,7 @@ class ScaledPrice {
   private:
     friend class ExactSum;
     static constexpr int places = 6;
+    static constexpr std::int64_t scale = 1'000'000;
     static constexpr std::int64_t unscaled = std::numeric_limits<std::int64_t>::min();
 
     Decimal price_;
@@ -33,7 +34,7 @@ class ExactSum {
     void add(std::int64_t units, const ScaledPrice& price) {
         // Whether there is an amount can't be guessed from line to line, so it is worked out without
         // branches.
-        touched_ = touched_ || ((units != 0) & (price.scaled_ != 0));
+        touched_ = static_cast<bool>(touched_ | ((units != 0) & (price.scaled_ != 0)));
         if (price.scaled_ == ScaledPrice::unscaled || units != static_cast<std::int32_t>(units))
             [[unlikely]] {
             addRest(units, price);
@@ -50,6 +51,8 @@ class ExactSum {
 
     [[nodiscard]] bool isTouched() const { return touched_; }
     [[nodiscard]] Decimal total() const;
+    /// The same, to be converted for a chart.
+    [[nodiscard]] long double approximateTotal() const;
 
   private:
     void addRest(std::int64_t units, const ScaledPrice& price);

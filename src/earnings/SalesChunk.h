@@ -2,46 +2,23 @@
 
 #include "data/LineTable.h"
 #include "data/ReportFrequency.h"
-#include "earnings/ExactSum.h"
-#include "earnings/ProductKind.h"
-#include "platform/Decimal.h"
 #include "platform/Instant.h"
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <vector>
 
 namespace vantrell {
 
-/// What the lines about one product share. A product that was renamed has an item for each of its titles.
-struct SalesItem {
-    std::int64_t appleID = 0;
-    std::string_view sku;
-    std::string_view parentSKU;
-    std::string_view title;
-    std::string_view productType;
-    ProductKind kind = ProductKind::other;
-};
-
-/// What the lines at one price share.
-struct SalesPrice {
-    ScaledPrice proceeds;        ///< per unit
-    std::uint32_t currency = 0;  ///< of the proceeds, as a number of the snapshot's currencies
-    Decimal customerPrice;
-    std::string_view customerCurrency;
-};
-
-/// The lines of one stored report in columns of equal length: numbers of items, of prices and of countries,
-/// and units. Chunks never change; a report that was replaced is another chunk.
+/// The lines of one stored report in columns of equal length: numbers of offers and of countries, and units.
+/// Chunks never change; a report that was replaced is another chunk.
 struct SalesChunk {
     BatchID batch = 0;
     ReportFrequency frequency = ReportFrequency::daily;
     std::string reportDate;
 
-    std::vector<std::uint32_t> items;
-    std::vector<std::uint32_t> prices;
+    std::vector<std::uint32_t> offers;
     std::vector<std::uint32_t> countries;
     std::vector<std::int32_t> units;
 
@@ -54,7 +31,7 @@ struct SalesChunk {
     Instant date = distantPast;
     std::vector<Instant> dates;
 
-    [[nodiscard]] std::size_t size() const { return items.size(); }
+    [[nodiscard]] std::size_t size() const { return offers.size(); }
     [[nodiscard]] Instant dateOf(std::size_t row) const { return dates.empty() ? date : dates[row]; }
     [[nodiscard]] std::int64_t unitsOf(std::size_t row) const {
         if (units[row] == largeUnits) [[unlikely]] {

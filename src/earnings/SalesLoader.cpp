@@ -23,17 +23,10 @@ std::size_t mixed(std::size_t hash, const Decimal& value) {
 
 }  // namespace
 
-std::size_t SalesLoader::Hash::operator()(const ItemKey& key) const {
+std::size_t SalesLoader::Hash::operator()(const Key& key) const {
     std::size_t hash = mixed(0, static_cast<std::uint64_t>(key.appleID));
+    hash = mixed(mixed(hash, key.proceeds), key.customerPrice);
     for (const TextID text : key.texts) {
-        hash = mixed(hash, text);
-    }
-    return hash;
-}
-
-std::size_t SalesLoader::Hash::operator()(const PriceKey& key) const {
-    std::size_t hash = mixed(mixed(0, key.proceeds), key.customerPrice);
-    for (const TextID text : key.currencies) {
         hash = mixed(hash, text);
     }
     return hash;
@@ -46,8 +39,7 @@ std::shared_ptr<const SalesChunk> SalesLoader::chunk(ModelContext& context, cons
     chunk->reportDate = batch.label;
     context.salesLines().readFigures(
         batch, [&](const SalesFigures& line) { append(*chunk, line, context.texts()); });
-    chunk->items.shrink_to_fit();
-    chunk->prices.shrink_to_fit();
+    chunk->offers.shrink_to_fit();
     chunk->countries.shrink_to_fit();
     chunk->units.shrink_to_fit();
     chunk->dates.shrink_to_fit();
@@ -56,8 +48,7 @@ std::shared_ptr<const SalesChunk> SalesLoader::chunk(ModelContext& context, cons
 
 void SalesLoader::append(SalesChunk& chunk, const SalesFigures& line, const TextDictionary& dictionary) {
     appendDate(chunk, line.beginDate);
-    chunk.items.push_back(item(line, dictionary));
-    chunk.prices.push_back(price(line, dictionary));
+    chunk.offers.push_back(offer(line, dictionary));
     chunk.countries.push_back(text(line.country, dictionary));
     const bool fits =
         line.units > SalesChunk::largeUnits && line.units <= std::numeric_limits<std::int32_t>::max();
@@ -68,52 +59,47 @@ void SalesLoader::append(SalesChunk& chunk, const SalesFigures& line, const Text
 }
 
 void SalesLoader::appendDate(SalesChunk& chunk, Instant date) {
-    if (chunk.items.empty()) {
+    if (chunk.offers.empty()) {
         chunk.date = date;
         return;
     }
     if (chunk.dates.empty() && date != chunk.date) {
-        chunk.dates.assign(chunk.items.size(), chunk.date);
+        chunk.dates.assign(chunk.offers.size(), chunk.date);
     }
     if (!chunk.dates.empty()) {
         chunk.dates.push_back(date);
     }
 }
 
-std::uint32_t SalesLoader::item(const SalesFigures& line, const TextDictionary& dictionary) {
-    const ItemKey key{line.appleID, {line.sku, line.parentSKU, line.title, line.productType}};
-    if (lastItem_ && lastItem_->first == key) {
-        return lastItem_->second;
+std::uint32_t SalesLoader::offer(const SalesFigures& line, const TextDictionary& dictionary) {
+    const Key key{line.appleID,
+                  line.proceedsPerUnit,
+                  line.customerPrice,
+                  {line.sku, line.parentSKU, line.title, line.productType, line.proceedsCurrency,
+                   line.customerCurrency}};
+    if (last_ && last_->first == key) {
+        return last_->second;
     }
-    const auto [known, isNew] = itemNumbers_.try_emplace(key, static_cast<std::uint32_t>(items_.size()));
+    const auto [known, isNew] = offerNumbers_.try_emplace(key, static_cast<std::uint32_t>(offers_.size()));
     if (isNew) {
-        const auto pooled = [&](TextID id) { return texts_.text(text(id, dictionary)); };
-        items_.push_back({.appleID = line.appleID,
-                          .sku = pooled(line.sku),
-                          .parentSKU = pooled(line.parentSKU),
-                          .title = pooled(line.title),
-                          .productType = pooled(line.productType),
-                          .kind = productKind(dictionary.text(line.productType))});
+        offers_.push_back(newOffer(line, dictionary));
     }
-    lastItem_ = &*known;
+    last_ = &*known;
     return known->second;
 }
 
-std::uint32_t SalesLoader::price(const SalesFigures& line, const TextDictionary& dictionary) {
-    const PriceKey key{
-        line.proceedsPerUnit, line.customerPrice, {line.proceedsCurrency, line.customerCurrency}};
-    if (lastPrice_ && lastPrice_->first == key) {
-        return lastPrice_->second;
-    }
-    const auto [known, isNew] = priceNumbers_.try_emplace(key, static_cast<std::uint32_t>(prices_.size()));
-    if (isNew) {
-        prices_.push_back({.proceeds = ScaledPrice(line.proceedsPerUnit),
-                           .currency = currencies_.intern(dictionary.text(line.proceedsCurrency)),
-                           .customerPrice = line.customerPrice,
-                           .customerCurrency = texts_.text(text(line.customerCurrency, dictionary))});
-    }
-    lastPrice_ = &*known;
-    return known->second;
+SalesOffer SalesLoader::newOffer(const SalesFigures& line, const TextDictionary& dictionary) {
+    const auto pooled = [&](TextID id) { return texts_.text(text(id, dictionary)); };
+    return {.kind = productKind(dictionary.text(line.productType)),
+            .currency = currencies_.intern(dictionary.text(line.proceedsCurrency)),
+            .proceeds = ScaledPrice(line.proceedsPerUnit),
+            .appleID = line.appleID,
+            .sku = pooled(line.sku),
+            .parentSKU = pooled(line.parentSKU),
+            .title = pooled(line.title),
+            .productType = pooled(line.productType),
+            .customerPrice = line.customerPrice,
+            .customerCurrency = pooled(line.customerCurrency)};
 }
 
 std::uint32_t SalesLoader::text(TextID id, const TextDictionary& dictionary) {

@@ -1,5 +1,7 @@
 #include "earnings/SalesSelection.h"
 
+#include "earnings/StatsAccumulator.h"
+
 #include <algorithm>
 #include <map>
 
@@ -13,56 +15,52 @@ bool SalesSelection::containsReport(std::size_t chunk) const {
 
 std::vector<SalesRowLite> SalesSelection::rows() const {
     std::vector<SalesRowLite> rows;
-    forEach([&](const SalesRowRef& row) { rows.push_back(snapshot_->row(row.chunkNumber, row.index)); });
+    forEachReport([&](std::size_t chunk) {
+        const SalesChunk& lines = *snapshot_->chunks()[chunk];
+        for (std::size_t row = 0; row < lines.size(); ++row) {
+            if (passes(lines.offers[row])) {
+                rows.push_back(snapshot_->row(chunk, row));
+            }
+        }
+    });
     return rows;
 }
 
-// The walk that all sums are made of: its columns are looked up once and not once a line.
-void SalesSelection::addReport(std::size_t chunk, StatsAccumulator& sum) const {
-    const SalesChunk& lines = *snapshot_->chunks()[chunk];
-    const std::uint32_t* const itemNumbers = lines.items.data();
-    const std::uint32_t* const priceNumbers = lines.prices.data();
-    const SalesItem* const items = snapshot_->items().data();
-    const SalesPrice* const prices = snapshot_->prices().data();
-    const std::vector<bool>* const mask = mask_.get();
-    const std::size_t size = lines.size();
-    for (std::size_t row = 0; row < size; ++row) {
-        if (mask == nullptr || (*mask)[itemNumbers[row]]) {
-            const SalesPrice& price = prices[priceNumbers[row]];
-            sum.add(items[itemNumbers[row]].kind, lines.unitsOf(row), price.proceeds, price.currency);
-        }
-    }
+std::vector<OfferSum> SalesSelection::sums() const {
+    OfferSums sums(snapshot_->offers());
+    forEachReport([&](std::size_t chunk) { sums.add(*snapshot_->chunks()[chunk]); });
+    return sums.take(mask_);
 }
 
 AggregateStats SalesSelection::aggregate() const {
-    StatsAccumulator sum;
-    forEachReport([&](std::size_t chunk) { addReport(chunk, sum); });
-    return sum.stats(snapshot_->currencies());
+    StatsAccumulator total;
+    total.add(sums());
+    return total.stats(snapshot_->currencies());
 }
 
-std::vector<AggregateStats> aggregates(const std::vector<SalesSelection>& selections) {
-    // By the set of selections that a report lies in: those sets are few, and most reports lie in several.
-    std::map<std::vector<bool>, StatsAccumulator> sums;
-    const SalesSelection& any = selections.front();
-    for (std::size_t chunk = 0; chunk < any.snapshot_->chunks().size(); ++chunk) {
-        std::vector<bool> containing(selections.size());
-        std::transform(selections.begin(), selections.end(), containing.begin(),
-                       [chunk](const SalesSelection& selection) { return selection.containsReport(chunk); });
-        StatsAccumulator& sum = sums[containing];
-        if (std::ranges::find(containing, true) != containing.end()) {
-            any.addReport(chunk, sum);
-        }
+SelectionSet selectionsOf(std::size_t chunk, std::span<const SalesSelection> selections) {
+    SelectionSet containing = 0;
+    for (std::size_t number = 0; number < selections.size(); ++number) {
+        containing |= selections[number].containsReport(chunk) ? 1U << number : 0U;
     }
+    return containing;
+}
+
+std::vector<AggregateStats> aggregates(std::span<const SalesSelection> selections) {
+    std::map<SelectionSet, StatsAccumulator> sums;
+    forEachShared(selections, [&sums](SelectionSet containing, const std::vector<OfferSum>& lines) {
+        sums[containing].add(lines);
+    });
     std::vector<AggregateStats> stats;
     stats.reserve(selections.size());
     for (std::size_t number = 0; number < selections.size(); ++number) {
         StatsAccumulator total;
         for (const auto& [containing, sum] : sums) {
-            if (containing[number]) {
+            if ((containing >> number & 1U) != 0) {
                 total.add(sum);
             }
         }
-        stats.push_back(total.stats(any.snapshot_->currencies()));
+        stats.push_back(total.stats(selections.front().snapshot_->currencies()));
     }
     return stats;
 }

@@ -1,58 +1,22 @@
 #pragma once
 
 #include "earnings/AggregateStats.h"
+#include "earnings/OfferSums.h"
 #include "earnings/SalesSnapshot.h"
-#include "earnings/StatsAccumulator.h"
 
 #include <cstdint>
-#include <memory>
+#include <optional>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace vantrell {
 
-/// One line of a snapshot in place, without copying it.
-struct SalesRowRef {
-    const SalesSnapshot* snapshot;
-    std::size_t chunkNumber;
-    std::size_t index;
-
-    [[nodiscard]] const SalesChunk& chunk() const { return *snapshot->chunks()[chunkNumber]; }
-    [[nodiscard]] std::uint32_t itemNumber() const { return chunk().items[index]; }
-    [[nodiscard]] const SalesItem& item() const { return snapshot->items()[itemNumber()]; }
-    [[nodiscard]] const SalesPrice& price() const { return snapshot->prices()[chunk().prices[index]]; }
-    [[nodiscard]] std::int64_t units() const { return chunk().unitsOf(index); }
-    void addTo(StatsAccumulator& sum) const {
-        sum.add(item().kind, units(), price().proceeds, price().currency);
-    }
-};
-
-/// Which items of a snapshot pass a filter, by their numbers. Absent passes all.
-using ItemMask = std::shared_ptr<const std::vector<bool>>;
-
 /// Lines of a snapshot, in its order; valid until the snapshot's next load. Nothing is copied.
 class SalesSelection {
   public:
-    SalesSelection(const SalesSnapshot& snapshot, std::vector<SalesSnapshot::Span> spans, ItemMask mask)
+    SalesSelection(const SalesSnapshot& snapshot, std::vector<SalesSnapshot::Span> spans, OfferMask mask)
         : snapshot_(&snapshot), spans_(std::move(spans)), mask_(std::move(mask)) {}
-
-    /// Calls `visit` with a SalesRowRef for each line.
-    template <typename Visit>
-    void forEach(Visit visit) const {
-        forEach([](const SalesChunk&) {}, visit);
-    }
-    /// Before the lines of each report calls `visitReport` with it.
-    template <typename VisitReport, typename Visit>
-    void forEach(VisitReport visitReport, Visit visit) const {
-        forEachReport([&](std::size_t chunk) {
-            const SalesChunk& lines = *snapshot_->chunks()[chunk];
-            visitReport(lines);
-            for (std::size_t row = 0; row < lines.size(); ++row) {
-                if (!mask_ || (*mask_)[lines.items[row]]) {
-                    visit(SalesRowRef{snapshot_, chunk, row});
-                }
-            }
-        });
-    }
 
     /// Calls `visit` with the number of each report's chunk.
     template <typename Visit>
@@ -64,8 +28,44 @@ class SalesSelection {
         }
     }
 
-    /// Adds up those lines of one report that pass the filter.
-    void addReport(std::size_t chunk, StatsAccumulator& sum) const;
+    /// Calls `visit` with the chunk and the row of each line.
+    template <typename Visit>
+    void forEach(Visit visit) const {
+        forEachReport([&](std::size_t chunk) {
+            const SalesChunk& lines = *snapshot_->chunks()[chunk];
+            for (std::size_t row = 0; row < lines.size(); ++row) {
+                if (passes(lines.offers[row])) {
+                    visit(lines, row);
+                }
+            }
+        });
+    }
+
+    /// Cuts the reports into sections and calls `visit` with the section and a vector of OfferSum, which is
+    /// all that was sold and refunded in it. `sectionOf` gives the section of the report with that number of
+    /// a chunk, or nothing for one that is left out; a section ends where another one begins.
+    template <typename SectionOf, typename Visit>
+    void forEachSection(SectionOf sectionOf, Visit visit) const {
+        OfferSums sums(snapshot_->offers());
+        decltype(sectionOf(std::size_t{})) section;
+        const auto finishSection = [&] {
+            if (section) {
+                visit(*section, sums.take(mask_));
+            }
+        };
+        forEachReport([&](std::size_t chunk) {
+            if (auto next = sectionOf(chunk); next != section) {
+                finishSection();
+                section = std::move(next);
+            }
+            if (section) {
+                sums.add(*snapshot_->chunks()[chunk]);
+            }
+        });
+        finishSection();
+    }
+    /// As one section.
+    [[nodiscard]] std::vector<OfferSum> sums() const;
 
     /// Whether the report with this number of a chunk is among them; which of its lines pass is another
     /// matter.
@@ -76,15 +76,38 @@ class SalesSelection {
     [[nodiscard]] AggregateStats aggregate() const;
 
   private:
-    friend std::vector<AggregateStats> aggregates(const std::vector<SalesSelection>& selections);
+    template <typename Visit>
+    friend void forEachShared(std::span<const SalesSelection> selections, Visit visit);
+    friend std::vector<AggregateStats> aggregates(std::span<const SalesSelection> selections);
+
+    [[nodiscard]] bool passes(std::uint32_t offer) const { return !mask_ || (*mask_)[offer]; }
 
     const SalesSnapshot* snapshot_;
     std::vector<SalesSnapshot::Span> spans_;
-    ItemMask mask_;
+    OfferMask mask_;
 };
 
-/// `SalesSelection::aggregate` of each, for selections of one snapshot that pass the same items: lines that
-/// lie in several of them are walked through once.
-[[nodiscard]] std::vector<AggregateStats> aggregates(const std::vector<SalesSelection>& selections);
+/// Some of several selections, a bit each.
+using SelectionSet = unsigned;
+
+/// Those that the report with this number of a chunk lies in.
+[[nodiscard]] SelectionSet selectionsOf(std::size_t chunk, std::span<const SalesSelection> selections);
+
+/// `SalesSelection::forEachSection` for selections of one snapshot that pass the same offers: the sections
+/// are the sets of selections that the reports lie in. A line is looked at once, in however many it lies.
+template <typename Visit>
+void forEachShared(std::span<const SalesSelection> selections, Visit visit) {
+    const SalesSelection& any = selections.front();
+    SalesSelection(*any.snapshot_, {{0, any.snapshot_->chunks().size()}}, any.mask_)
+        .forEachSection(
+            [selections](std::size_t chunk) {
+                const SelectionSet containing = selectionsOf(chunk, selections);
+                return containing == 0 ? std::nullopt : std::optional(containing);
+            },
+            visit);
+}
+
+/// `SalesSelection::aggregate` of each, for selections as above.
+[[nodiscard]] std::vector<AggregateStats> aggregates(std::span<const SalesSelection> selections);
 
 }  // namespace vantrell

@@ -60,23 +60,22 @@ SalesSnapshot::Span SalesSnapshot::dailySpanAfterYear(std::string_view label) co
 
 SalesRowLite SalesSnapshot::row(std::size_t chunk, std::size_t index) const {
     const SalesChunk& report = *chunks_[chunk];
-    const SalesItem& item = items_[report.items[index]];
-    const SalesPrice& price = prices_[report.prices[index]];
+    const SalesOffer& offer = offers_[report.offers[index]];
     return {.id = {load_, firstRow_[chunk] + index},
             .frequency = report.frequency,
             .reportDate = report.reportDate,
             .date = report.dateOf(index),
-            .appleID = item.appleID,
-            .sku = item.sku,
-            .parentSKU = item.parentSKU,
-            .title = item.title,
-            .kind = item.kind,
-            .productType = item.productType,
+            .appleID = offer.appleID,
+            .sku = offer.sku,
+            .parentSKU = offer.parentSKU,
+            .title = offer.title,
+            .kind = offer.kind,
+            .productType = offer.productType,
             .units = report.unitsOf(index),
-            .proceedsPerUnit = price.proceeds.value(),
-            .currency = currencies_.text(price.currency),
-            .customerPrice = price.customerPrice,
-            .customerCurrency = price.customerCurrency,
+            .proceedsPerUnit = offer.proceeds.value(),
+            .currency = currencies_.text(offer.currency),
+            .customerPrice = offer.customerPrice,
+            .customerCurrency = offer.customerCurrency,
             .country = texts_.text(report.countries[index])};
 }
 

@@ -3,6 +3,7 @@
 #include "data/ModelContext.h"
 #include "earnings/SalesChunk.h"
 #include "earnings/SalesLoader.h"
+#include "earnings/SalesOffer.h"
 #include "earnings/SalesRowLite.h"
 #include "earnings/TextPool.h"
 
@@ -38,8 +39,7 @@ class SalesSnapshot {
     [[nodiscard]] bool empty() const { return size_ == 0; }
 
     [[nodiscard]] const std::vector<std::shared_ptr<const SalesChunk>>& chunks() const { return chunks_; }
-    [[nodiscard]] const std::vector<SalesItem>& items() const { return items_; }
-    [[nodiscard]] const std::vector<SalesPrice>& prices() const { return prices_; }
+    [[nodiscard]] const std::vector<SalesOffer>& offers() const { return offers_; }
     [[nodiscard]] const TextPool& texts() const { return texts_; }
     /// The currencies of proceeds, in a pool of their own, so that their numbers are few and small.
     [[nodiscard]] const TextPool& currencies() const { return currencies_; }
@@ -63,13 +63,12 @@ class SalesSnapshot {
   private:
     TextPool texts_;
     TextPool currencies_;
-    std::vector<SalesItem> items_;
-    std::vector<SalesPrice> prices_;
+    std::vector<SalesOffer> offers_;
     std::vector<std::shared_ptr<const SalesChunk>> chunks_;
     std::vector<std::uint64_t> firstRow_;  // number of each chunk's first row
     std::size_t size_ = 0;
     std::int64_t load_ = 0;
-    SalesLoader loader_{texts_, currencies_, items_, prices_};
+    SalesLoader loader_{texts_, currencies_, offers_};
 };
 
 }  // namespace vantrell

@@ -2,6 +2,7 @@
 
 #include "earnings/AggregateStats.h"
 #include "earnings/ExactSum.h"
+#include "earnings/OfferSums.h"
 #include "earnings/ProductKind.h"
 #include "earnings/TextPool.h"
 
@@ -24,22 +25,27 @@ namespace vantrell {
 /// A refund is told from a sale by nothing but the sign of its units. An amount of zero makes no entry.
 class StatsAccumulator {
   public:
-    /// `currency` is a number of the pool that is handed to `stats`.
-    ///
-    /// Lines come by the million and in no order that a processor could guess, so they are sorted by place
-    /// and not by branches; `stats` reads the table above.
-    void add(ProductKind kind, std::int64_t units, const ScaledPrice& price, std::uint32_t currency) {
-        const auto row = static_cast<std::size_t>(kind);
-        units_[row][units < 0 ? 1 : 0] += units;
-        if (currency >= sums_.size()) {
-            sums_.resize(currency + 1U);
+    /// Lines come in no order that a processor could guess, so they are sorted by place and not by branches;
+    /// `stats` reads the table above.
+    void add(const OfferSum& lines) {
+        const SalesOffer& offer = *lines.offer;
+        const auto row = static_cast<std::size_t>(offer.kind);
+        units_[row][lines.units < 0 ? 1 : 0] += lines.units;
+        if (offer.currency >= sums_.size()) {
+            sums_.resize(offer.currency + 1U);
         }
-        sums_[currency].add(bringsMoney[row] ? units : 0, price);
+        sums_[offer.currency].add(bringsMoney[row] ? lines.units : 0, offer.proceeds);
+    }
+    void add(const std::vector<OfferSum>& sums) {
+        for (const OfferSum& sum : sums) {
+            add(sum);
+        }
     }
 
     /// Adds all that another one has counted, whose currencies are of the same pool.
     void add(const StatsAccumulator& other);
 
+    /// The pool is that of the offers' currencies.
     [[nodiscard]] AggregateStats stats(const TextPool& currencies) const;
 
   private:

@@ -3,32 +3,23 @@
 namespace vantrell {
 
 WindowSums::WindowSums(const SalesSnapshot& snapshot, const WindowSelections& windows,
-                       const ItemGroups& groups)
+                       const OfferGroups& groups)
     : snapshot_(snapshot) {
-    for (std::size_t chunk = 0; chunk < snapshot.chunks().size(); ++chunk) {
-        WindowSet inWindows = 0;
-        for (std::size_t window = 0; window < windows.size(); ++window) {
-            inWindows |= windows[window].containsReport(chunk) ? 1U << window : 0U;
-        }
-        if (inWindows == 0) {
-            continue;
-        }
-        auto& sums = sums_[inWindows];
+    forEachShared(windows, [&](SelectionSet containing, const std::vector<OfferSum>& lines) {
+        auto& sums = sums_[containing];
         sums.resize(groups.ids().size());
-        const SalesChunk& lines = *snapshot.chunks()[chunk];
-        for (std::size_t row = 0; row < lines.size(); ++row) {
-            const std::uint32_t group = groups.ofItem(lines.items[row]);
-            if (group != ItemGroups::none) {
-                SalesRowRef{&snapshot, chunk, row}.addTo(sums[group]);
+        for (const OfferSum& sum : lines) {
+            if (const std::uint32_t group = groups.ofOffer(sum.offerNumber); group != OfferGroups::none) {
+                sums[group].add(sum);
             }
         }
-    }
+    });
 }
 
 AggregateStats WindowSums::stats(FigureWindow window, std::uint32_t group) const {
     StatsAccumulator sum;
-    for (const auto& [windows, sums] : sums_) {
-        if ((windows >> static_cast<unsigned>(window) & 1U) != 0 && group < sums.size()) {
+    for (const auto& [containing, sums] : sums_) {
+        if ((containing >> static_cast<unsigned>(window) & 1U) != 0 && group < sums.size()) {
             sum.add(sums[group]);
         }
     }

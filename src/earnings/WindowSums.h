@@ -1,7 +1,7 @@
 #pragma once
 
 #include "earnings/AggregateStats.h"
-#include "earnings/ItemGroups.h"
+#include "earnings/OfferGroups.h"
 #include "earnings/SalesSelection.h"
 #include "earnings/StatsAccumulator.h"
 
@@ -20,22 +20,18 @@ inline constexpr std::size_t figureWindowCount = 4;
 /// Which lines count for each window, in the order of FigureWindow.
 using WindowSelections = std::array<SalesSelection, figureWindowCount>;
 
-/// The lines of several windows added up by group in one walk: a line that lies in several windows is added
-/// once, to the sum for just these windows.
+/// The lines of several windows added up by group in one walk.
 class WindowSums {
   public:
     /// Both are only read here.
-    WindowSums(const SalesSnapshot& snapshot, const WindowSelections& windows, const ItemGroups& groups);
+    WindowSums(const SalesSnapshot& snapshot, const WindowSelections& windows, const OfferGroups& groups);
 
-    /// Empty figures for `ItemGroups::none`.
+    /// Empty figures for `OfferGroups::none`.
     [[nodiscard]] AggregateStats stats(FigureWindow window, std::uint32_t group) const;
 
   private:
-    /// The windows that a report lies in, a bit each.
-    using WindowSet = unsigned;
-
     const SalesSnapshot& snapshot_;
-    std::map<WindowSet, std::vector<StatsAccumulator>> sums_;  // by group
+    std::map<SelectionSet, std::vector<StatsAccumulator>> sums_;  // by group
 };
 
 }  // namespace vantrell

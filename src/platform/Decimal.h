@@ -16,7 +16,8 @@ class WideUnsigned;
 /// Sums, differences and products are exact while they fit in 38 digits; a longer result, like a quotient,
 /// is rounded half away from zero at 38 digits. A result whose first digit would stand above 10^6144 stays at
 /// the largest number of its sign, and one whose first digit would stand below 10^-6144 becomes 0. There is
-/// no way in from a floating-point number but `fromShortestText`, and none out but `toDouble`.
+/// no way in from a floating-point number but `fromShortestText`, and none out but `toDouble` and
+/// `toLongDouble`.
 ///
 ///     Decimal::parse("1.40")->text()                 "1.4"
 ///     (*Decimal::parse("1.4") * Decimal(3)).text()   "4.2"
@@ -53,6 +54,8 @@ class Decimal {
 
     /// The nearest double, at most the largest finite one; for sorting and charting only.
     [[nodiscard]] double toDouble() const;
+    /// Likewise with more digits, for a result that several roundings lead to.
+    [[nodiscard]] long double toLongDouble() const;
 
     [[nodiscard]] constexpr bool isZero() const { return coefficient_ == 0; }
     [[nodiscard]] constexpr bool isNegative() const { return coefficient_ < 0; }
@@ -92,6 +95,7 @@ class Decimal {
     /// Without the signs; neither is zero.
     static std::strong_ordering compareSizes(const Decimal& left, const Decimal& right);
     [[nodiscard]] Magnitude magnitude() const;
+    [[nodiscard]] std::string scientificText() const;
     [[nodiscard]] bool fitsWord() const { return coefficient_ == static_cast<std::int64_t>(coefficient_); }
 
     Coefficient coefficient_ = 0;

@@ -131,6 +131,20 @@ std::optional<double> quickDouble(const std::optional<Decimal::Parts>& parts) {
     return parts->exponent < 0 ? coefficient / powers[place] : coefficient * powers[place];
 }
 
+/// At most the largest finite number.
+template <typename Real>
+Real nearest(const std::string& scientific) {
+    Real value = 0;
+    const auto read = std::from_chars(scientific.data(), scientific.data() + scientific.size(), value);
+    if (read.ec == std::errc::result_out_of_range) {
+        const bool isSmall = scientific.find("e-") != std::string::npos;
+        const bool isNegative = scientific.front() == '-';
+        const Real largest = std::numeric_limits<Real>::max();
+        return isSmall ? 0 : (isNegative ? -largest : largest);
+    }
+    return value;
+}
+
 }  // namespace
 
 std::optional<Decimal> Decimal::parse(std::string_view text) {
@@ -180,15 +194,16 @@ double Decimal::toDouble() const {
     if (const auto quick = quickDouble(parts())) {
         return *quick;
     }
+    return nearest<double>(scientificText());
+}
+
+long double Decimal::toLongDouble() const {
+    return nearest<long double>(scientificText());
+}
+
+std::string Decimal::scientificText() const {
     std::string text(isNegative() ? "-" : "");
-    text.append(DigitText(magnitude()).view()).append("e").append(std::to_string(exponent_));
-    double value = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (read.ec == std::errc::result_out_of_range) {
-        const double largest = std::numeric_limits<double>::max();
-        return exponent_ < 0 ? 0 : (isNegative() ? -largest : largest);
-    }
-    return value;
+    return text.append(DigitText(magnitude()).view()).append("e").append(std::to_string(exponent_));
 }
 
 }  // namespace vantrell

@@ -1,5 +1,6 @@
 #include "EarningsFixture.h"
 #include "earnings/Exports.h"
+#include "earnings/StatsAccumulator.h"
 
 #include <algorithm>
 #include <random>
@@ -141,17 +142,36 @@ void expectAppsAndTheRestToMakeTheTotal(const EarningsStore& store) {
     }
     StatsAccumulator rest;
     StatsAccumulator sold;
-    store.allTimeRows({}).forEach([&](const SalesRowRef& row) {
-        if (!store.catalog().owningApp(row.item().appleID)) {
-            row.addTo(rest);
+    for (const OfferSum& lines : store.allTimeRows({}).sums()) {
+        if (!store.catalog().owningApp(lines.offer->appleID)) {
+            rest.add(lines);
         }
-        if (isSold(row.item().kind)) {
-            row.addTo(sold);
+        if (isSold(lines.offer->kind)) {
+            sold.add(lines);
         }
-    });
+    }
     add(total, rest.stats(store.salesRows().currencies()));
     EXPECT_EQ(total, store.allTimeRows({}).aggregate());
     EXPECT_EQ(sumOf(store.productStats({}), &ProductStat::stats), sold.stats(store.salesRows().currencies()));
+}
+
+/// The rule of the chart line by line, with numbers rounded at each.
+void expectChartsToShowEveryLine(const EarningsStore& store) {
+    double proceeds = 0;
+    double refunds = 0;
+    for (const SalesRowLite& row : store.dailyRows(firstDay, lastDay, {}).rows()) {
+        const auto value = store.converter().convert(row.amount(), row.currency);
+        if (isSold(row.kind) && value) {
+            (value->isNegative() ? refunds : proceeds) += value->toDouble();
+        }
+    }
+    for (const DayPoint& point : store.dayPoints(firstDay, lastDay, {})) {
+        proceeds -= point.proceeds;
+        refunds -= point.refunds;
+    }
+    constexpr double roundings = 1e-6;
+    EXPECT_NEAR(proceeds, 0, roundings);
+    EXPECT_NEAR(refunds, 0, roundings);
 }
 
 /// An export without its header and its third column from the end, which is the converted one.
@@ -190,6 +210,7 @@ TEST(Figures, HoldTogetherForAnyAccount) {
         expectEveryDayInOneBucket(store);
         expectEverySaleOnceInAllTime(store);
         expectAppsAndTheRestToMakeTheTotal(store);
+        expectChartsToShowEveryLine(store);
         const auto inDollars = sortedExports(store);
         store.setDisplayCurrency("JPY");
         EXPECT_EQ(sortedExports(store), inDollars);
