@@ -32,12 +32,17 @@ QCoro::Task<> StandingClock::sleep(std::chrono::microseconds /*duration*/, Cance
     co_return;
 }
 
-BenchProgram::BenchProgram(MemoryService& service, const std::filesystem::path& folder)
-    : locale_({"en_US", "en_US", "en_US", "en_US", "en_US"}), defaults_(folder / "defaults.json") {
+BenchProgram::BenchProgram(HttpClient& service, const std::filesystem::path& folder)
+    : BenchProgram(service, standingClock_, folder) {}
+
+BenchProgram::BenchProgram(HttpClient& service, Clock& clock, const std::filesystem::path& folder)
+    : service_(service),
+      clock_(clock),
+      locale_({"en_US", "en_US", "en_US", "en_US", "en_US"}),
+      defaults_(folder / "defaults.json") {
     CredentialsKeychain(secrets_).store(
         {"3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15", "7QK2MZ8T5W", generateKeyPair().privatePEM, "60419372"});
-    auto started = MyApp::start({service, clock_, localTime_, locale_, secrets_, defaults_},
-                                folder / "vantrell.sqlite", {origin, origin, {}});
+    auto started = MyApp::start(parts(), folder / "vantrell.sqlite", {origin, origin, {}});
     if (const auto* failure = std::get_if<StartFailure>(&started)) {
         throw std::runtime_error(failure->text);
     }

@@ -5,6 +5,7 @@
 #include "platform/JsonDefaults.h"
 #include "platform/Locale.h"
 #include "platform/MemorySecretStore.h"
+#include "platform/SystemClock.h"
 
 #include <filesystem>
 #include <memory>
@@ -19,6 +20,19 @@ class StandingClock final : public Clock {
     [[nodiscard]] QCoro::Task<> sleep(std::chrono::microseconds duration, CancelToken cancel) override;
 };
 
+/// A clock that stands at the same noon for whoever asks for the date, and otherwise goes on.
+class NoonClock final : public Clock {
+  public:
+    [[nodiscard]] Instant now() const override { return today + std::chrono::hours{12}; }
+    [[nodiscard]] std::chrono::microseconds monotonic() const override { return real_.monotonic(); }
+    [[nodiscard]] QCoro::Task<> sleep(std::chrono::microseconds duration, CancelToken cancel) override {
+        return real_.sleep(duration, std::move(cancel));
+    }
+
+  private:
+    SystemClock real_;
+};
+
 class UtcTime final : public LocalTime {
   public:
     [[nodiscard]] TimeZone zone() const override { return zone_; }
@@ -31,7 +45,12 @@ class UtcTime final : public LocalTime {
 class BenchProgram {
   public:
     /// Throws std::runtime_error if the store can't be opened.
-    BenchProgram(MemoryService& service, const std::filesystem::path& folder);
+    BenchProgram(HttpClient& service, const std::filesystem::path& folder);
+    BenchProgram(HttpClient& service, Clock& clock, const std::filesystem::path& folder);
+
+    [[nodiscard]] MyAppParts parts() {
+        return {service_, clock_, localTime_, locale_, secrets_, defaults_};
+    }
 
     [[nodiscard]] MyApp& app() { return *app_; }
     [[nodiscard]] ModelContext& context() { return app_->context(); }
@@ -44,7 +63,9 @@ class BenchProgram {
     void fetchRates();
 
   private:
-    StandingClock clock_;
+    HttpClient& service_;
+    StandingClock standingClock_;
+    Clock& clock_;
     UtcTime localTime_;
     Locale locale_;
     MemorySecretStore secrets_;

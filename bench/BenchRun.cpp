@@ -4,6 +4,7 @@
 #include "FirstFigures.h"
 #include "IngestFloor.h"
 #include "LoadFloor.h"
+#include "WindowFigures.h"
 #include "calendar/DayKey.h"
 #include "reports/Gunzip.h"
 #include "reports/SalesParser.h"
@@ -23,7 +24,8 @@ constexpr int repeats = 5;
 class BenchRun {
   public:
     explicit BenchRun(std::int64_t dailyLines)
-        : folder_(temporary_.path().toStdString()),
+        : dailyLines_(dailyLines),
+          folder_(temporary_.path().toStdString()),
           plainFile_(folder_ / "plain.sqlite"),
           data_(makeBenchData(dailyLines)),
           rows_(data_.lines()),
@@ -32,14 +34,8 @@ class BenchRun {
     std::vector<Result> run() {
         ingest();
         firstLoad();
-        BenchProgram program(service_, folder_);
-        program.store().reload(program.context());
-        checkFloors(program.store());
-        reloads(program);
-        for (Result& figure : measureFigures(program)) {
-            add(std::move(figure));
-        }
-        storeReport(program);
+        figures();
+        window();
         return std::move(results_);
     }
 
@@ -87,6 +83,25 @@ class BenchRun {
         add({"first_figures_ms", median(std::move(figures)), "ms", rows_});
         add({"snapshot_bytes_per_row", static_cast<double>(bytes) / static_cast<double>(rows_), "bytes",
              rows_});
+    }
+
+    void figures() {
+        BenchProgram program(service_, folder_);
+        program.store().reload(program.context());
+        checkFloors(program.store());
+        reloads(program);
+        for (Result& figure : measureFigures(program)) {
+            add(std::move(figure));
+        }
+        storeReport(program);
+    }
+
+    void window() {
+        const WindowFigures figures = measureWindow(folder_, dailyLines_);
+        add({"startup_first_frame_ms", figures.firstFrame, "ms", rows_});
+        add({"screen_switch_ms", figures.screenSwitch, "ms", rows_});
+        add({"filter_change_ms", figures.filterChange, "ms", rows_});
+        add({"longest_stall_ms", figures.longestStall, "ms", rows_});
     }
 
     void checkFloors(const EarningsStore& store) const {
@@ -140,6 +155,7 @@ class BenchRun {
         add({"store_report_ms", median(std::move(times)), "ms", lines});
     }
 
+    const std::int64_t dailyLines_;
     QTemporaryDir temporary_;
     std::filesystem::path folder_;
     std::filesystem::path plainFile_;

@@ -1,15 +1,19 @@
 #include "BenchRun.h"
 #include "FirstFigures.h"
+#include "WindowFigures.h"
 
 #include <charconv>
 #include <exception>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include <QCoreApplication>
+#include <QGuiApplication>
+#include <QQuickWindow>
 
 namespace {
 
@@ -37,6 +41,12 @@ int run(const std::vector<std::string>& arguments) {
         showFirstFigures(arguments[1]);
         return 0;
     }
+    if (arguments.size() == 3 && arguments[0] == "--window") {
+        if (const auto rows = positiveNumber(arguments[2])) {
+            showWindowFigures(arguments[1], *rows);
+            return 0;
+        }
+    }
     if (arguments.size() == 2 && arguments[0] == "--rows") {
         if (const auto rows = positiveNumber(arguments[1])) {
             runBench(*rows);
@@ -47,12 +57,24 @@ int run(const std::vector<std::string>& arguments) {
     return usageError;
 }
 
+// Windows are painted off-screen by the processor, so that figures compare between machines.
+std::unique_ptr<QCoreApplication> makeApplication(const std::vector<std::string>& arguments, int& argc,
+                                                  char** argv) {
+    if (arguments.empty() || arguments[0] != "--window") {
+        return std::make_unique<QCoreApplication>(argc, argv);
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    const QCoreApplication application(argc, argv);
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    const auto application = makeApplication(arguments, argc, argv);
     try {
-        return run({argv + 1, argv + argc});
+        return run(arguments);
     } catch (const std::exception& error) {
         std::cerr << error.what() << "\n";
         return 1;

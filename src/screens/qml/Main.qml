@@ -15,7 +15,7 @@ T.ApplicationWindow {
     minimumWidth: 640
     minimumHeight: 480
     color: Theme.window
-    font.family: "Roboto"
+    font.family: Theme.family
     font.pixelSize: Theme.body
     LayoutMirroring.enabled: root.isRightToLeft
     LayoutMirroring.childrenInherit: true

@@ -9,6 +9,7 @@ Text {
     property bool spoken: true
 
     textFormat: Text.PlainText
+    font.family: Theme.family
     font.pixelSize: Theme.body
     color: Theme.primary
     elide: wrapMode === Text.NoWrap ? Text.ElideRight : Text.ElideNone

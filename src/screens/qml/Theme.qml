@@ -30,6 +30,8 @@ QtObject {
     readonly property color warning: dark ? "#F0A35E" : "#A85B00"
     readonly property color bad: dark ? "#F47C75" : "#C2312A"
 
+    // Its digits are all of one width.
+    readonly property string family: "Roboto"
     readonly property real smallest: 11
     readonly property real caption: 12
     readonly property real callout: 13

@@ -26,6 +26,8 @@ Grid {
                     width: parent.width
                     text: tile.row.title
                     font.pixelSize: Theme.caption
+                    fontSizeMode: Text.HorizontalFit
+                    minimumPixelSize: 10
                     font.weight: Font.Medium
                     color: Theme.secondary
                 }
