@@ -48,9 +48,7 @@ class BenchProgram {
     BenchProgram(HttpClient& service, const std::filesystem::path& folder);
     BenchProgram(HttpClient& service, Clock& clock, const std::filesystem::path& folder);
 
-    [[nodiscard]] MyAppParts parts() {
-        return {service_, clock_, localTime_, locale_, secrets_, defaults_};
-    }
+    [[nodiscard]] MyAppParts parts() { return {service_, clock_, localTime_, locale_, secrets_, defaults_}; }
 
     [[nodiscard]] MyApp& app() { return *app_; }
     [[nodiscard]] ModelContext& context() { return app_->context(); }

@@ -55,8 +55,8 @@ class Heartbeat : public QObject {
 // From `act` to the next frame.
 double untilPainted(QQuickWindow& window, const std::function<void()>& act) {
     QEventLoop loop;
-    const auto painted =
-        QObject::connect(&window, &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit, Qt::QueuedConnection);
+    const auto painted = QObject::connect(&window, &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit,
+                                          Qt::QueuedConnection);
     const double elapsed = millisecondsOf([&] {
         act();
         window.update();
@@ -94,8 +94,8 @@ double slowestFilterChange(AppWindows& windows, EarningsStore& store) {
     for (const Destination::Value destination : destinations) {
         windows.root().select(destination);
         for (const AppFilter& filter : {AppFilter({app}), AppFilter()}) {
-            slowest = std::max(
-                slowest, untilPainted(windows.mainWindow(), [&] { store.setAppFilter(filter); }));
+            slowest =
+                std::max(slowest, untilPainted(windows.mainWindow(), [&] { store.setAppFilter(filter); }));
         }
     }
     return slowest;

@@ -28,13 +28,13 @@ Screen* RootView::shownScreen() {
         return nullptr;
     }
     switch (selection()) {
-    case Destination::dashboard:
-    case Destination::apps:
-    case Destination::byDay:
-    case Destination::history:
-    case Destination::payouts:
-    case Destination::settings:
-        return &dashboard_;
+        case Destination::dashboard:
+        case Destination::apps:
+        case Destination::byDay:
+        case Destination::history:
+        case Destination::payouts:
+        case Destination::settings:
+            return &dashboard_;
     }
     return nullptr;
 }
