@@ -33,11 +33,13 @@ QCoro::Task<> StandingClock::sleep(std::chrono::microseconds /*duration*/, Cance
 }
 
 BenchProgram::BenchProgram(HttpClient& service, const std::filesystem::path& folder)
-    : BenchProgram(service, standingClock_, folder) {}
+    : BenchProgram(service, standingClock_, immediateWorker_, folder) {}
 
-BenchProgram::BenchProgram(HttpClient& service, Clock& clock, const std::filesystem::path& folder)
+BenchProgram::BenchProgram(HttpClient& service, Clock& clock, Worker& worker,
+                           const std::filesystem::path& folder)
     : service_(service),
       clock_(clock),
+      worker_(worker),
       locale_({"en_US", "en_US", "en_US", "en_US", "en_US"}),
       defaults_(folder / "defaults.json") {
     CredentialsKeychain(secrets_).store(
@@ -49,7 +51,7 @@ BenchProgram::BenchProgram(HttpClient& service, Clock& clock, const std::filesys
     app_ = std::move(std::get<std::unique_ptr<MyApp>>(started));
 }
 
-// The service and the clock answer at once, so that each of these has ended when it returns.
+// Service, clock and worker answer at once, so that each of these has ended when it returns.
 
 void BenchProgram::syncSales(ReportFrequency frequency, const std::string& label) {
     app_->tasks().spawn(storeSales(app_->engine(), frequency, label));

@@ -46,9 +46,11 @@ class BenchProgram {
   public:
     /// Throws std::runtime_error if the store can't be opened.
     BenchProgram(HttpClient& service, const std::filesystem::path& folder);
-    BenchProgram(HttpClient& service, Clock& clock, const std::filesystem::path& folder);
+    BenchProgram(HttpClient& service, Clock& clock, Worker& worker, const std::filesystem::path& folder);
 
-    [[nodiscard]] MyAppParts parts() { return {service_, clock_, localTime_, locale_, secrets_, defaults_}; }
+    [[nodiscard]] MyAppParts parts() {
+        return {service_, clock_, worker_, localTime_, locale_, secrets_, defaults_};
+    }
 
     [[nodiscard]] MyApp& app() { return *app_; }
     [[nodiscard]] ModelContext& context() { return app_->context(); }
@@ -64,6 +66,8 @@ class BenchProgram {
     HttpClient& service_;
     StandingClock standingClock_;
     Clock& clock_;
+    ImmediateWorker immediateWorker_;
+    Worker& worker_;
     UtcTime localTime_;
     Locale locale_;
     MemorySecretStore secrets_;

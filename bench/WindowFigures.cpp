@@ -5,6 +5,7 @@
 #include "Measure.h"
 #include "core/AppWindows.h"
 #include "platform/Appearance.h"
+#include "platform/ThreadWorker.h"
 
 #include <algorithm>
 #include <array>
@@ -142,7 +143,8 @@ void showWindowFigures(const std::filesystem::path& folder, std::int64_t dailyLi
     MemoryService memory;
     LaterService service(memory);
     NoonClock clock;
-    BenchProgram program(service, clock, folder);
+    ThreadWorker worker;
+    BenchProgram program(service, clock, worker, folder);
     FixedAppearance appearance;
     const ServiceOrigins origins;
     AppWindows windows(program.app(), program.parts(),

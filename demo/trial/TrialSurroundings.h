@@ -6,6 +6,7 @@
 #include "platform/MemorySecretStore.h"
 #include "platform/QtHttpClient.h"
 #include "platform/SystemClock.h"
+#include "platform/ThreadWorker.h"
 #include "sample/SampleService.h"
 #include "trial/TrialOptions.h"
 
@@ -25,7 +26,9 @@ class TrialSurroundings {
     /// Opens the store and chooses the display currency of the options.
     [[nodiscard]] std::variant<std::unique_ptr<MyApp>, StartFailure> start();
 
-    [[nodiscard]] MyAppParts parts() { return {http_, clock_, localTime_, locale_, secrets_, defaults_}; }
+    [[nodiscard]] MyAppParts parts() {
+        return {http_, clock_, worker_, localTime_, locale_, secrets_, defaults_};
+    }
     [[nodiscard]] AppWindowsParts windowParts(Appearance& appearance) const;
     [[nodiscard]] const std::filesystem::path& folder() const { return folder_; }
     [[nodiscard]] const Locale& locale() const { return locale_; }
@@ -35,6 +38,7 @@ class TrialSurroundings {
     const TrialOptions& options_;
     std::filesystem::path folder_;
     SystemClock clock_;
+    ThreadWorker worker_;
     HostLocalTime localTime_;
     Locale locale_;
     QtHttpClient http_;

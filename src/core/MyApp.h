@@ -16,6 +16,7 @@ namespace vantrell {
 struct MyAppParts {
     HttpClient& http;
     Clock& clock;
+    Worker& worker;
     const LocalTime& localTime;
     const Locale& locale;
     SecretStore& secrets;

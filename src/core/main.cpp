@@ -8,6 +8,7 @@
 #include "platform/KeychainSecretStore.h"
 #include "platform/QtHttpClient.h"
 #include "platform/SystemClock.h"
+#include "platform/ThreadWorker.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -29,13 +30,14 @@ std::optional<std::string> environmentVariable(const char* name) {
 int run(const ProgramFolders& folders, InstanceGuard& guard) {
     const ServiceOrigins origins = publicServices();
     SystemClock clock;
+    ThreadWorker worker;
     const HostLocalTime localTime;
     const Locale locale(LocaleNames::fromEnvironment(environmentVariable));
     QtHttpClient http;
     KeychainSecretStore secrets;
     JsonDefaults defaults(folders.config / "defaults.json");
     DesktopAppearance appearance;
-    const MyAppParts parts{http, clock, localTime, locale, secrets, defaults};
+    const MyAppParts parts{http, clock, worker, localTime, locale, secrets, defaults};
     const auto begun =
         MyApp::start(parts, folders.data / "vantrell.sqlite", {origins.reportService, origins.rateService});
     if (const auto* failure = std::get_if<StartFailure>(&begun)) {

@@ -31,15 +31,9 @@ HttpRequest reportRequest(std::string url, const std::string& token) {
     return request;
 }
 
-ReportResponse reportResponse(HttpResponse answer) {
-    if (!answer.status) {
-        return response::Failure{"no HTTP response"};
-    }
-    if (*answer.status != 200) {
-        return classifyResponse(*answer.status, answer.body);
-    }
+ReportResponse unpacked(std::string body) {
     try {
-        return response::Success{repairedUtf8(gunzipIfNeeded(std::move(answer.body)))};
+        return response::Success{repairedUtf8(gunzipIfNeeded(std::move(body)))};
     } catch (const GunzipError& error) {
         return response::Failure{error.what()};
     }
@@ -47,8 +41,8 @@ ReportResponse reportResponse(HttpResponse answer) {
 
 }  // namespace
 
-ASCClient::ASCClient(HttpClient& http, const Clock& clock, std::string origin)
-    : http_(http), clock_(clock), origin_(std::move(origin)) {}
+ASCClient::ASCClient(HttpClient& http, const Clock& clock, Worker& worker, std::string origin)
+    : http_(http), clock_(clock), worker_(worker), origin_(std::move(origin)) {}
 
 void ASCClient::setCredentials(APICredentials credentials) {
     credentials_ = std::move(credentials);
@@ -97,11 +91,22 @@ QCoro::Task<ReportResponse> ASCClient::send(std::string path, std::vector<QueryI
     } catch (const std::exception& error) {
         co_return response::AuthFailure{error.what()};
     }
-    HttpResult result = co_await http_.get(std::move(request), std::move(cancel));
-    if (auto* const answer = std::get_if<HttpResponse>(&result)) {
-        co_return reportResponse(std::move(*answer));
+    HttpResult result = co_await http_.get(std::move(request), cancel);
+    auto* const answer = std::get_if<HttpResponse>(&result);
+    if (answer == nullptr) {
+        co_return response::Failure{std::get<HttpFailure>(std::move(result)).description};
     }
-    co_return response::Failure{std::get<HttpFailure>(std::move(result)).description};
+    if (!answer->status) {
+        co_return response::Failure{"no HTTP response"};
+    }
+    if (*answer->status != 200) {
+        co_return classifyResponse(*answer->status, answer->body);
+    }
+    std::function<ReportResponse()> unpack = [body = std::move(answer->body)]() mutable {
+        return unpacked(std::move(body));
+    };
+    auto report = co_await worker_.run(std::move(unpack), std::move(cancel));
+    co_return report ? *std::move(report) : response::Failure{"The request was cancelled."};
 }
 
 std::string ASCClient::currentToken() {

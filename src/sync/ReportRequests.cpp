@@ -1,8 +1,5 @@
 #include "sync/ReportRequests.h"
 
-#include "reports/FinanceParser.h"
-#include "reports/SalesParser.h"
-
 #include <algorithm>
 
 namespace vantrell {
@@ -46,11 +43,10 @@ QCoro::Task<ReportResponse> SalesReportRequest::fetch(ASCClient& client, CancelT
     return client.fetchSales(frequency, reportDate, std::nullopt, std::move(cancel));
 }
 
-void SalesReportRequest::storeRows(ModelContext& context, SalesReport& report, std::string_view text) const {
-    auto parsed = parseSales(text);
+void SalesReportRequest::storeRows(ModelContext& context, SalesReport& report, const Parsed& parsed) const {
     context.replaceSalesRows(report.frequencyRaw, report.reportDate, parsed.rows);
     report.rowCount = static_cast<std::int64_t>(parsed.rows.size());
-    report.message = std::move(parsed.skippedLines);
+    report.message = parsed.skippedLines;
 }
 
 void SalesReportRequest::removeRows(ModelContext& context) const {
@@ -81,11 +77,10 @@ QCoro::Task<ReportResponse> FinanceReportRequest::fetch(ASCClient& client, Cance
 }
 
 void FinanceReportRequest::storeRows(ModelContext& context, FinanceReport& report,
-                                     std::string_view text) const {
-    auto parsed = parseFinance(text);
+                                     const Parsed& parsed) const {
     context.replaceFinanceRows(report.region, report.fiscalPeriod, parsed.rows);
     report.rowCount = static_cast<std::int64_t>(parsed.rows.size());
-    report.message = std::move(parsed.skippedLines);
+    report.message = parsed.skippedLines;
     noteDates(report, parsed.rows);
 }
 

@@ -3,6 +3,8 @@
 #include "data/ModelContext.h"
 #include "data/ReportFrequency.h"
 #include "reports/ASCClient.h"
+#include "reports/FinanceParser.h"
+#include "reports/SalesParser.h"
 
 #include <cstddef>
 #include <string>
@@ -16,6 +18,7 @@ namespace vantrell {
 /// differ on their way from a request to stored rows.
 struct SalesReportRequest {
     using Record = SalesReport;
+    using Parsed = ParsedSales;
 
     ReportFrequency frequency;
     std::string reportDate;
@@ -27,14 +30,17 @@ struct SalesReportRequest {
     [[nodiscard]] static RecordTable<SalesReport>& records(ModelContext& context);
     [[nodiscard]] QCoro::Task<ReportResponse> fetch(ASCClient& client, CancelToken cancel) const;
 
-    /// Replaces the stored rows with those of `text`, and notes their number and the skipped lines.
-    void storeRows(ModelContext& context, SalesReport& report, std::string_view text) const;
+    /// What the text of the report says; needs nothing but the text.
+    [[nodiscard]] static Parsed parse(std::string_view text) { return parseSales(text); }
+    /// Replaces the stored rows with those of `parsed`, and notes their number and the skipped lines.
+    void storeRows(ModelContext& context, SalesReport& report, const Parsed& parsed) const;
     void removeRows(ModelContext& context) const;
 };
 
 /// One finance report to ask for, always of the consolidated region.
 struct FinanceReportRequest {
     using Record = FinanceReport;
+    using Parsed = ParsedFinance;
 
     std::string fiscalPeriod;
 
@@ -45,8 +51,9 @@ struct FinanceReportRequest {
     [[nodiscard]] static RecordTable<FinanceReport>& records(ModelContext& context);
     [[nodiscard]] QCoro::Task<ReportResponse> fetch(ASCClient& client, CancelToken cancel) const;
 
+    [[nodiscard]] static Parsed parse(std::string_view text) { return parseFinance(text); }
     /// As above, and notes the dates that the rows span.
-    void storeRows(ModelContext& context, FinanceReport& report, std::string_view text) const;
+    void storeRows(ModelContext& context, FinanceReport& report, const Parsed& parsed) const;
     void removeRows(ModelContext& context) const;
 };
 

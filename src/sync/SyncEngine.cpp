@@ -16,13 +16,14 @@ SyncEngine::SyncEngine(const SyncEngineParts& parts, SyncEngineSettings settings
     : context_(parts.context),
       http_(parts.http),
       clock_(parts.clock),
+      worker_(parts.worker),
       localTime_(parts.localTime),
       defaults_(parts.defaults),
       locale_(parts.locale),
       settings_(std::move(settings)),
       calendar_(parts.clock, parts.localTime),
       keychain_(parts.secrets),
-      client_(parts.http, parts.clock, settings_.reportService) {
+      client_(parts.http, parts.clock, parts.worker, settings_.reportService) {
     loadCredentials();
 }
 

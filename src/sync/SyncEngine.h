@@ -11,6 +11,7 @@
 #include "platform/LocalTime.h"
 #include "platform/Locale.h"
 #include "platform/SecretStore.h"
+#include "platform/Worker.h"
 #include "reports/ASCClient.h"
 #include "sync/ReportRequests.h"
 
@@ -31,6 +32,7 @@ struct SyncEngineParts {
     ModelContext& context;
     HttpClient& http;
     Clock& clock;
+    Worker& worker;
     const LocalTime& localTime;
     SecretStore& secrets;
     Defaults& defaults;
@@ -144,9 +146,11 @@ class SyncEngine : public QObject {
     template <typename Request>
     QCoro::Task<ReportStatus> syncReport(Request request, bool force);
     template <typename Request>
-    Applied apply(const Request& request, const ReportResponse& answer, Instant started);
+    Applied apply(const Request& request, const ReportResponse& answer,
+                  const typename Request::Parsed& parsed, Instant started);
     template <typename Request>
-    void settle(const Request& request, const ReportResponse& answer, typename Request::Record& report);
+    void settle(const Request& request, const ReportResponse& answer, const typename Request::Parsed& parsed,
+                typename Request::Record& report);
     void stopForRateLimit(const std::string& key, const std::string& message);
     void log(std::string key, std::string_view outcome, std::string_view message);
     void save();
@@ -172,6 +176,7 @@ class SyncEngine : public QObject {
     ModelContext& context_;
     HttpClient& http_;
     Clock& clock_;
+    Worker& worker_;
     const LocalTime& localTime_;
     Defaults& defaults_;
     const Locale& locale_;

@@ -45,11 +45,18 @@ QCoro::Task<ReportStatus> SyncEngine::syncReport(Request request, bool force) {
         co_return before;
     }
     const Instant started = clock_.now();
-    const ReportResponse answer = co_await request.fetch(client_, life_.token());
+    ReportResponse answer = co_await request.fetch(client_, life_.token());
+    std::optional<typename Request::Parsed> parsed(std::in_place);
+    if (auto* const success = std::get_if<response::Success>(&answer)) {
+        std::function<typename Request::Parsed()> parse = [text = std::move(success->text)] {
+            return Request::parse(text);
+        };
+        parsed = co_await worker_.run(std::move(parse), life_.token());
+    }
     if (isClosing()) {
         co_return before;
     }
-    switch (apply(request, answer, started)) {
+    switch (apply(request, answer, *parsed, started)) {
         case Applied::rateLimited:
             co_return findOrCreate(request).record.status();
         case Applied::skipped:
@@ -66,8 +73,9 @@ QCoro::Task<ReportStatus> SyncEngine::syncReport(Request request, bool force) {
 }
 
 template <typename Request>
-SyncEngine::Applied SyncEngine::apply(const Request& request, const ReportResponse& answer, Instant started) {
-    // The record may have changed while the request was out, so it is read again.
+SyncEngine::Applied SyncEngine::apply(const Request& request, const ReportResponse& answer,
+                                      const typename Request::Parsed& parsed, Instant started) {
+    // The record may have changed while the request was out and read, so it is looked up again.
     auto [id, report] = findOrCreate(request);
     if (const auto* limited = std::get_if<response::RateLimited>(&answer)) {
         stopForRateLimit(request.logKey(), limited->message);
@@ -78,7 +86,7 @@ SyncEngine::Applied SyncEngine::apply(const Request& request, const ReportRespon
         log(request.logKey(), "skipped", "A fresher copy synced in from another device.");
         return Applied::skipped;
     }
-    settle(request, answer, report);
+    settle(request, answer, parsed, report);
     report.fetchedAt = clock_.now();
     log(request.logKey(), report.statusRaw, report.message);
     Request::records(context_).update(id, std::move(report));
@@ -89,15 +97,15 @@ SyncEngine::Applied SyncEngine::apply(const Request& request, const ReportRespon
 // failure never loses what was there.
 template <typename Request>
 void SyncEngine::settle(const Request& request, const ReportResponse& answer,
-                        typename Request::Record& report) {
+                        const typename Request::Parsed& parsed, typename Request::Record& report) {
     const auto attempted = [&report](ReportStatus status, const std::string& message) {
         report.setStatus(status);
         report.message = message;
     };
     std::visit(
         Overloaded{
-            [&](const response::Success& success) {
-                request.storeRows(context_, report, success.text);
+            [&](const response::Success&) {
+                request.storeRows(context_, report, parsed);
                 report.setStatus(ReportStatus::ok);
             },
             [&](const response::NoSales& none) {

@@ -42,7 +42,8 @@ class ASCClientTest : public ::testing::Test {
 
     testing::ScriptedHttp http;
     testing::ManualClock clock;
-    ASCClient client{http, clock, "https://reports.example"};
+    ImmediateWorker worker;
+    ASCClient client{http, clock, worker, "https://reports.example"};
     APICredentials credentials{"issuer", "key", generateKeyPair().privatePEM, "60419372"};
 };
 
@@ -149,7 +150,7 @@ TEST_F(ASCClientTest, AnUnreadableKeyIsReportedWithoutTraffic) {
 TEST_F(ASCClientTest, AnOriginThatIsNoneIsReportedWithoutTraffic) {
     for (const char* const origin : {"", "reports.example", "ftp://reports.example",
                                      "https://user@reports.example", "https://reports.example/v1"}) {
-        ASCClient lost(http, clock, origin);
+        ASCClient lost(http, clock, worker, origin);
         lost.setCredentials(credentials);
         EXPECT_TRUE(QCoro::waitFor(lost.fetchFinance("2026-11", {})) ==
                     ReportResponse(response::Failure{"could not build request URL"}))

@@ -192,5 +192,19 @@ TEST(Run, ThatIsUnderWayWhenTheProgramEndsChangesNothingMore) {
     EXPECT_EQ(fixture.log().size(), 1U);
 }
 
+TEST(Run, ThatIsReadingAReportWhenTheProgramEndsChangesNothingMore) {
+    EngineFixture fixture;
+    fixture.otherwise = EngineFixture::sales(2);
+    fixture.worker.isHeld = true;
+    TaskScope tasks;
+    tasks.spawn(fixture.engine().runBackfill());
+    fixture.worker.release();
+    ASSERT_TRUE(fixture.worker.hasWork()) << "unpacked, not yet parsed";
+    fixture.destroyEngine();
+    EXPECT_EQ(tasks.pending(), 0);
+    EXPECT_TRUE(fixture.log().empty());
+    EXPECT_TRUE(fixture.context().salesLines().batches().empty());
+}
+
 }  // namespace
 }  // namespace vantrell

@@ -71,6 +71,25 @@ TEST(StoringAReport, StopsTheRunAtARateLimitAndLeavesTheReportAsItWas) {
     EXPECT_FALSE(fixture.context().hasChanges()) << "the end of the run saves the log line";
 }
 
+TEST(StoringAReport, LooksAgainForAFresherCopyWhenItsTextWasRead) {
+    for (const bool isFresher : {true, false}) {
+        EngineFixture fixture;
+        fixture.otherwise = EngineFixture::sales(2);
+        fixture.store(ReportFrequency::daily, day, ReportStatus::ok);
+        fixture.worker.isHeld = true;
+        fixture.tasks().spawn(fixture.engine().refetchDay(*dateFromDayKey(day)));
+        fixture.worker.release();
+        auto found = *fixture.context().salesReports().find(salesReportKey("DAILY", day));
+        found.record.fetchedAt = fixture.clock.now() + std::chrono::seconds(isFresher ? 1 : -1);
+        fixture.context().salesReports().update(found.id, found.record);
+        fixture.engine().requestStop();
+        fixture.worker.release();
+        EXPECT_EQ(fixture.daily(day).rowCount, isFresher ? 1 : 2)
+            << "what was asked for is stored after a stop";
+        EXPECT_FALSE(fixture.engine().isSyncing());
+    }
+}
+
 TEST(StoringAReport, KeepsAFresherCopyThatCameWhileTheRequestWasOut) {
     struct Fresher {
         const char* name;

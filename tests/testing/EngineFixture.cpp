@@ -44,7 +44,7 @@ EngineFixture::EngineFixture(const std::string& vfs) : context_(store_.open(vfs)
     };
     CredentialsKeychain(secrets).store({"issuer", "key", generateKeyPair().privatePEM, "6041"});
     engine_ = std::make_unique<SyncEngine>(
-        SyncEngineParts{*context_, http, clock, localTime, secrets, defaults, locale_},
+        SyncEngineParts{*context_, http, clock, worker, localTime, secrets, defaults, locale_},
         SyncEngineSettings{"https://reports.test", "https://rates.test"});
 }
 

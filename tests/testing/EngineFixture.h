@@ -6,6 +6,7 @@
 #include "platform/TaskScope.h"
 #include "sync/SyncEngine.h"
 #include "testing/FixedLocalTime.h"
+#include "testing/HeldWorker.h"
 #include "testing/ManualClock.h"
 #include "testing/MemoryDefaults.h"
 #include "testing/ScriptedHttp.h"
@@ -59,6 +60,7 @@ class EngineFixture {
     static HttpResult rates(const std::string& body = R"({"result":"success","rates":{"USD":1,"EUR":0.9}})");
 
     ManualClock clock;
+    HeldWorker worker;
     FixedLocalTime localTime{"Europe/Berlin"};
     MemoryDefaults defaults;
     MemorySecretStore secrets;
