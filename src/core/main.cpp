@@ -14,6 +14,7 @@
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <variant>
 
 #include <QGuiApplication>
@@ -44,10 +45,12 @@ int run(const ProgramFolders& folders, InstanceGuard& guard) {
         std::cerr << failure->text << std::endl;
         return EXIT_FAILURE;
     }
+    ImageLoaderSettings icons;
+    icons.folder = folders.cache / "icons";
     AppWindows windows(*std::get<std::unique_ptr<MyApp>>(begun), parts,
                        {.origins = origins,
                         .appearance = appearance,
-                        .icons = {.folder = folders.cache / "icons"},
+                        .icons = std::move(icons),
                         .placementFile = folders.config / "window.json"});
     QObject::connect(&guard, &InstanceGuard::wakened, &windows, &AppWindows::raise);
     windows.show();
