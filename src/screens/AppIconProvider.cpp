@@ -3,15 +3,30 @@
 #include <atomic>
 
 #include <QFutureWatcher>
+#include <QPainter>
 #include <QUrl>
 
 namespace vantrell {
 namespace {
 
+constexpr qreal cornerRadius = 0.22;  // of the side
+
 QImage scaledDown(const QImage& picture, const QSize& wanted) {
     const bool isSmaller =
         !wanted.isEmpty() && (wanted.width() < picture.width() || wanted.height() < picture.height());
     return isSmaller ? picture.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : picture;
+}
+
+// Done here, since drawing without a graphics card can cut only along straight lines.
+QImage rounded(const QImage& picture) {
+    QImage shape(picture.size(), QImage::Format_ARGB32_Premultiplied);
+    shape.fill(Qt::transparent);
+    QPainter painter(&shape);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QBrush(picture));
+    painter.drawRoundedRect(shape.rect(), picture.width() * cornerRadius, picture.height() * cornerRadius);
+    return shape;
 }
 
 /// Lives on the thread of the engine that reads images.
@@ -25,9 +40,9 @@ class AppIconResponse final : public QQuickImageResponse {
     // An error would be a warning in the log; without a texture the image is just empty.
     [[nodiscard]] QQuickTextureFactory* textureFactory() const override {
         const auto picture = watcher_.future();
-        return picture.isResultReadyAt(0)
-                   ? QQuickTextureFactory::textureFactoryForImage(scaledDown(picture.result(), wanted_))
-                   : nullptr;
+        return picture.isResultReadyAt(0) ? QQuickTextureFactory::textureFactoryForImage(
+                                                rounded(scaledDown(picture.result(), wanted_)))
+                                          : nullptr;
     }
 
     void cancel() override {

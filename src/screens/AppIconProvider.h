@@ -12,7 +12,8 @@ namespace vantrell {
 /// Lets QML show the pictures of an ImageLoader: an Image whose source is `AppIconProvider::source(address)`.
 /// It is added to the engine, which owns it from then on, under the name `AppIconProvider::name`.
 ///
-/// Where there is no picture the Image gets ready with an implicit width of 0, and nothing is logged.
+/// Pictures come with rounded corners. Where there is none the Image gets ready with an implicit width of 0,
+/// and nothing is logged.
 class AppIconProvider final : public QQuickAsyncImageProvider {
   public:
     static constexpr const char* name = "appicon";

@@ -1,0 +1,84 @@
+import QtQuick
+import QtQuick.Templates as T
+import Vantrell
+
+// A row that takes the focus and can be copied. In a ListView the arrow keys reach it, elsewhere Tab does.
+T.AbstractButton {
+    id: frame
+
+    property string copyText: ""
+    // It opens something when it is pressed.
+    property bool opens: false
+    // Tab stops here, and at what the row holds. Only at one row of a list, lest it takes a hundred steps.
+    property bool tabStop: ListView.view === null || ListView.isCurrentItem
+
+    signal activated()
+
+    function copy() {
+        Shell.clipboard.copy(frame.copyText)
+    }
+    function openMenu(x, y) {
+        menu.active = true
+        menu.item.x = x
+        menu.item.y = y
+        menu.item.open()
+    }
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    topPadding: 8
+    bottomPadding: 8
+    focusPolicy: frame.tabStop ? Qt.StrongFocus : Qt.ClickFocus
+    Accessible.role: Accessible.ListItem
+    Accessible.name: frame.copyText
+    Accessible.focusable: true
+    Accessible.onPressAction: frame.activated()
+    onClicked: frame.activated()
+    Keys.onReturnPressed: frame.activated()
+    Keys.onEnterPressed: frame.activated()
+    Keys.onMenuPressed: frame.openMenu(24, frame.height)
+    Keys.onPressed: event => {
+        if (event.matches(StandardKey.Copy)) {
+            frame.copy()
+            event.accepted = true
+        }
+    }
+    // Whoever got the focus by the pointer is where the arrow keys go on from.
+    onActiveFocusChanged: {
+        const list = frame.ListView.view
+        if (frame.activeFocus && list !== null)
+            list.currentIndex = list.indexAt(frame.x + 1, frame.y + 1)
+    }
+
+    background: Item {
+        Rectangle {
+            anchors.fill: parent
+            anchors.leftMargin: -8
+            anchors.rightMargin: -8
+            radius: Theme.controlRadius
+            color: frame.opens && frame.hovered || frame.down && frame.opens ? Theme.quaternary : "transparent"
+            border.width: frame.activeFocus ? 2 : 0
+            border.color: Theme.accent
+        }
+    }
+    HoverHandler {
+        enabled: frame.opens
+        cursorShape: Qt.PointingHandCursor
+    }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: point => {
+            frame.forceActiveFocus(Qt.MouseFocusReason)
+            frame.openMenu(point.position.x, point.position.y)
+        }
+    }
+    Loader {
+        id: menu
+        active: false
+        sourceComponent: CopyMenu {
+            parent: frame
+            onCopied: frame.copy()
+            onClosed: menu.active = false
+        }
+    }
+}
