@@ -13,7 +13,8 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
       filter_(parts.store),
       syncButton_(parts.engine, parts.tasks),
       breakdown_(parts),
-      dashboard_(parts) {
+      dashboard_(parts),
+      history_(parts) {
     destinations_.show(destinationItems());
     connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &RootView::hasCredentialsChanged);
     connect(this, &RootView::hasCredentialsChanged, this, &RootView::shownScreenChanged);
@@ -31,10 +32,11 @@ Screen* RootView::shownScreen() {
         case Destination::dashboard:
         case Destination::apps:
         case Destination::byDay:
-        case Destination::history:
         case Destination::payouts:
         case Destination::settings:
             return &dashboard_;
+        case Destination::history:
+            return &history_;
     }
     return nullptr;
 }

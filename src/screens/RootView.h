@@ -3,6 +3,7 @@
 #include "screens/DashboardView.h"
 #include "screens/Destination.h"
 #include "screens/DriveLoop.h"
+#include "screens/HistoryView.h"
 #include "screens/RowList.h"
 #include "screens/ScreenParts.h"
 #include "screens/components/AppFilterPicker.h"
@@ -37,6 +38,7 @@ class RootView : public QObject {
     Q_PROPERTY(vantrell::SyncToolbarButton* syncButton READ syncButton CONSTANT)
     Q_PROPERTY(vantrell::CurrencyBreakdown* breakdown READ breakdown CONSTANT)
     Q_PROPERTY(vantrell::DashboardView* dashboard READ dashboard CONSTANT)
+    Q_PROPERTY(vantrell::HistoryView* history READ history CONSTANT)
 
   public:
     explicit RootView(const ScreenParts& parts, QObject* parent = nullptr);
@@ -66,6 +68,7 @@ class RootView : public QObject {
     [[nodiscard]] SyncToolbarButton* syncButton() { return &syncButton_; }
     [[nodiscard]] CurrencyBreakdown* breakdown() { return &breakdown_; }
     [[nodiscard]] DashboardView* dashboard() { return &dashboard_; }
+    [[nodiscard]] HistoryView* history() { return &history_; }
 
     /// To be called once, when the window first appears.
     void appear();
@@ -87,6 +90,7 @@ class RootView : public QObject {
     SyncToolbarButton syncButton_;
     CurrencyBreakdown breakdown_;
     DashboardView dashboard_;
+    HistoryView history_;
 };
 
 }  // namespace vantrell

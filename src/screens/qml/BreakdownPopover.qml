@@ -7,7 +7,7 @@ Popover {
     id: popover
 
     required property moneyValue money
-    readonly property CurrencyBreakdown breakdown: Shell.breakdown
+    readonly property CurrencyBreakdown breakdown: Theme.breakdown
 
     onMoneyChanged: popover.breakdown.open(popover.money)
     Component.onCompleted: {

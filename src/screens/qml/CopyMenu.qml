@@ -6,6 +6,7 @@ import Vantrell
 Popover {
     id: menu
 
+    required property string copyTitle
     signal copied()
 
     padding: 6
@@ -14,7 +15,7 @@ Popover {
         implicitWidth: label.implicitWidth + 44
         implicitHeight: 30
         focus: true
-        text: Shell.clipboard.copyTitle
+        text: menu.copyTitle
         Accessible.role: Accessible.MenuItem
         Accessible.name: item.text
         Accessible.onPressAction: item.click()

@@ -21,7 +21,7 @@ T.ApplicationWindow {
     LayoutMirroring.childrenInherit: true
 
     Binding {
-        target: Shell
+        target: Theme
         property: "breakdown"
         value: window.root.breakdown
     }
@@ -58,6 +58,11 @@ T.ApplicationWindow {
                     root: window.root
                     model: window.root.dashboard
                     sourceComponent: DashboardScreen { model: window.root.dashboard }
+                }
+                ScreenHost {
+                    root: window.root
+                    model: window.root.history
+                    sourceComponent: HistoryScreen { history: window.root.history }
                 }
             }
         }

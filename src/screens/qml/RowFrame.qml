@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Vantrell
 
 // A row that takes the focus and can be copied. In a ListView the arrow keys reach it, elsewhere Tab does.
-T.AbstractButton {
+T.ItemDelegate {
     id: frame
 
     property string copyText: ""
@@ -15,7 +15,7 @@ T.AbstractButton {
     signal activated()
 
     function copy() {
-        Shell.clipboard.copy(frame.copyText)
+        clipboard.copy(frame.copyText)
     }
     function openMenu(x, y) {
         menu.active = true
@@ -72,11 +72,13 @@ T.AbstractButton {
             frame.openMenu(point.position.x, point.position.y)
         }
     }
+    Clipboard { id: clipboard }
     Loader {
         id: menu
         active: false
         sourceComponent: CopyMenu {
             parent: frame
+            copyTitle: clipboard.copyTitle
             onCopied: frame.copy()
             onClosed: menu.active = false
         }

@@ -2,11 +2,13 @@ pragma Singleton
 import QtQuick
 import Vantrell
 
-// The colours, type scale and measures of every screen, in one place.
+// The colours, type scale and measures of every screen, and what their items share, in one place.
 QtObject {
     // Set by the window from the desktop's appearance.
     property bool dark: false
     property bool reducesMotion: false
+    // What every figure opens when it is pressed. Set by the window.
+    property CurrencyBreakdown breakdown: null
 
     readonly property color window: dark ? "#17181B" : "#F4F5F7"
     readonly property color sidebar: dark ? "#1D1F23" : "#EAECEF"

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace vantrell {
+
+/// What a row of a BlockList shows; its value is named behind. QML sees capital names only.
+class RowKind : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("names only")
+
+  public:
+    enum Value {
+        Heading,       ///< QString
+        Note,          ///< QString, in small print
+        Absence,       ///< QString, in place of a list
+        Tiles,         ///< nothing
+        Chart,         ///< nothing
+        ColumnTitles,  ///< ColumnTitles
+        Period,        ///< PeriodRowView
+        Product,       ///< ProductRowView
+        Country,       ///< CountryRow
+        Windows,       ///< WindowsRow
+        Years,         ///< YearsRow
+        Payout,        ///< PayoutRow
+    };
+    Q_ENUM(Value)
+};
+
+}  // namespace vantrell

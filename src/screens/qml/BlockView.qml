@@ -1,0 +1,52 @@
+import QtQuick
+import QtQuick.Templates as T
+import Vantrell
+
+// A screen whose rows lie on cards. Only what is in sight is built, however many rows there are. The arrow keys
+// go from row to row, Tab to what the row holds.
+ListView {
+    id: list
+
+    required property BlockList rows
+    // The row where Tab enters the list.
+    readonly property int stop: list.count === 0 ? -1 : list.rows.stopNear(list.currentIndex)
+    readonly property real rowWidth: Math.min(list.width - 40, 1400)
+
+    function step(direction) {
+        const next = list.rows.next(list.stop, direction)
+        if (next === list.stop) {
+            direction < 0 ? list.positionViewAtBeginning() : list.positionViewAtEnd()
+            return
+        }
+        list.currentIndex = next
+        list.currentItem.forceActiveFocus(Qt.TabFocusReason)
+    }
+    function page(direction) {
+        const end = Math.max(list.originY, list.originY + list.contentHeight - list.height)
+        list.contentY = Math.max(list.originY, Math.min(end, list.contentY + direction * list.height * 0.9))
+    }
+
+    model: list.rows
+    leftMargin: 20
+    rightMargin: 20
+    bottomMargin: 20
+    boundsBehavior: Flickable.StopAtBounds
+    clip: true
+    cacheBuffer: 400
+    keyNavigationEnabled: false
+    highlightMoveDuration: Theme.quick
+    Accessible.role: Accessible.List
+    Keys.onUpPressed: list.step(-1)
+    Keys.onDownPressed: list.step(1)
+    Keys.onPressed: event => {
+        event.accepted = true
+        switch (event.key) {
+        case Qt.Key_PageUp: list.page(-1); break
+        case Qt.Key_PageDown: list.page(1); break
+        case Qt.Key_Home: list.positionViewAtBeginning(); break
+        case Qt.Key_End: list.positionViewAtEnd(); break
+        default: event.accepted = false
+        }
+    }
+    T.ScrollBar.vertical: ScrollLine {}
+}
