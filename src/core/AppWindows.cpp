@@ -54,8 +54,6 @@ AppWindows::AppWindows(MyApp& app, const MyAppParts& parts, const AppWindowsPart
     }
     connect(&engine_, &QQmlEngine::quit, qGuiApp, &QGuiApplication::quit, Qt::QueuedConnection);
     connect(mainWindow_.get(), &QWindow::activeChanged, this, &AppWindows::activeChanged);
-    connect(mainWindow_.get(), &QQuickWindow::frameSwapped, this, &AppWindows::firstPainted,
-            Qt::QueuedConnection);
 }
 
 AppWindows::~AppWindows() = default;
@@ -64,6 +62,8 @@ AppWindows::~AppWindows() = default;
 // out hidden, must not wait for ever.
 void AppWindows::show() {
     constexpr auto longestWait = std::chrono::seconds(2);
+    connect(mainWindow_.get(), &QQuickWindow::frameSwapped, this, &AppWindows::firstPainted,
+            Qt::QueuedConnection);
     mainWindow_->show();
     QTimer::singleShot(longestWait, this, &AppWindows::firstPainted);
 }

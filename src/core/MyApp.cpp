@@ -1,5 +1,6 @@
 #include "core/MyApp.h"
 
+#include <chrono>
 #include <utility>
 
 namespace vantrell {
@@ -36,5 +37,11 @@ MyApp::MyApp(const MyAppParts& parts, std::unique_ptr<ModelContainer> container,
                .locale = parts.locale},
               settings),
       store_(parts.defaults, parts.locale, calendar_) {}
+
+MyApp::~MyApp() {
+    constexpr auto patience = std::chrono::seconds(10);
+    engine_.close();
+    tasks_.finish(patience);
+}
 
 }  // namespace vantrell

@@ -37,6 +37,8 @@ class MyApp {
     [[nodiscard]] static std::variant<std::unique_ptr<MyApp>, StartFailure> start(
         const MyAppParts& parts, const std::filesystem::path& storeFile, const SyncEngineSettings& settings);
 
+    /// Ends what is under way; reports not yet reached keep their status.
+    ~MyApp();
     MyApp(const MyApp&) = delete;
     MyApp& operator=(const MyApp&) = delete;
 

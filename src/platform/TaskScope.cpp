@@ -3,6 +3,10 @@
 #include <exception>
 #include <utility>
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QThread>
 #include <QtGlobal>
 
 namespace vantrell {
@@ -10,6 +14,14 @@ namespace vantrell {
 TaskScope::~TaskScope() {
     if (pending_ != 0) {
         qFatal("%d tasks outlive their scope", pending_);
+    }
+}
+
+void TaskScope::finish(std::chrono::milliseconds patience) {
+    const QDeadlineTimer deadline(patience);
+    while (pending_ != 0 && !deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        QThread::yieldCurrentThread();
     }
 }
 

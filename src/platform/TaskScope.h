@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+
 #include <qcoro/qcorotask.h>
 
 namespace vantrell {
@@ -17,6 +19,10 @@ class TaskScope {
     void spawn(QCoro::Task<> task);
 
     [[nodiscard]] int pending() const { return pending_; }
+
+    /// Lets the event loop run until no task is under way, for at most `patience`. To be called when all that
+    /// they wait for was cancelled, since some learn of it only in their next round.
+    void finish(std::chrono::milliseconds patience);
 
   private:
     QCoro::Task<> run(QCoro::Task<> task);

@@ -60,6 +60,10 @@ class SyncEngine : public QObject {
     SyncEngine(const SyncEngineParts& parts, SyncEngineSettings settings);
     ~SyncEngine() override;
 
+    /// Ends what is under way at the next moment it waits; nothing starts any more. To be called before the
+    /// engine goes, so that those who wait can leave while it is still there.
+    void close() { life_.cancel(); }
+
     /// The stored credentials are complete.
     [[nodiscard]] bool hasCredentials() const { return hasCredentials_; }
     /// Why the secret service could not be read at the start; absent when it could, also without a key.

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/HttpClient.h"
+
+#include <chrono>
+#include <utility>
+
+namespace vantrell {
+
+/// A service that doesn't answer before it is given up.
+class SilentHttp final : public HttpClient {
+  public:
+    explicit SilentHttp(Clock& clock) : clock_(clock) {}
+
+    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest /*request*/, CancelToken cancel) override {
+        co_await clock_.sleep(std::chrono::hours(1), cancel);
+        co_return HttpFailure{"given up"};
+    }
+
+  private:
+    Clock& clock_;
+};
+
+/// A service that has been asked too often.
+class BusyHttp final : public HttpClient {
+  public:
+    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest /*request*/, CancelToken /*cancel*/) override {
+        co_return HttpResponse{
+            429, R"({"errors":[{"status":"429","code":"RATE_LIMIT_EXCEEDED","detail":"Try again later."}]})"};
+    }
+};
+
+}  // namespace vantrell

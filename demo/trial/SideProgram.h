@@ -1,0 +1,41 @@
+#pragma once
+
+#include "core/AppWindows.h"
+#include "platform/Appearance.h"
+#include "platform/JsonDefaults.h"
+#include "platform/MemorySecretStore.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+
+#include <QTemporaryDir>
+
+namespace vantrell {
+
+/// A second program beside the trial's own, for pictures of states that its run didn't lead to. It has a
+/// store of its own and asks the trial's service for nothing.
+class SideProgram {
+  public:
+    enum class Key { stored, none };
+
+    /// `parts` are those of the trial but for store, secrets and settings; `http` answers in place of its
+    /// service. The store is empty, or a copy of `storeFile`. Throws std::runtime_error if it can't be
+    /// opened.
+    SideProgram(const MyAppParts& parts, HttpClient& http, const AppWindowsParts& windowParts, Key key,
+                const std::optional<std::filesystem::path>& storeFile = std::nullopt);
+
+    [[nodiscard]] MyApp& app() { return *app_; }
+    [[nodiscard]] RootView& root() { return windows_->root(); }
+    [[nodiscard]] QQuickWindow& window() { return windows_->mainWindow(); }
+
+  private:
+    QTemporaryDir temporary_;
+    std::filesystem::path folder_;
+    MemorySecretStore secrets_;
+    JsonDefaults defaults_;
+    std::unique_ptr<MyApp> app_;
+    std::unique_ptr<AppWindows> windows_;
+};
+
+}  // namespace vantrell

@@ -1,0 +1,117 @@
+#include "WindowDriver.h"
+#include "WindowHouse.h"
+#include "trial/SpokenText.h"
+
+#include <QTcpServer>
+
+#include <gtest/gtest.h>
+
+namespace vantrell {
+namespace {
+
+using testing::Complaints;
+using testing::WindowDriver;
+using testing::WindowHouse;
+
+constexpr std::array destinations{Destination::dashboard, Destination::apps,    Destination::byDay,
+                                  Destination::history,   Destination::payouts, Destination::settings};
+
+/// What a screen reader finds on each screen, one after the other.
+std::string walkThrough(WindowHouse& house) {
+    std::string heard;
+    for (const Destination::Value destination : destinations) {
+        house.windows().root().select(destination);
+        WindowDriver::settle();
+        house.window().grabWindow();
+        heard += spokenText(house.window());
+    }
+    return heard;
+}
+
+struct Look {
+    const char* name;
+    bool hasReports;
+    bool isDark;
+    const char* locale;
+    QSize size;
+};
+
+class EveryScreen : public ::testing::TestWithParam<Look> {};
+
+TEST_P(EveryScreen, LoadsWithoutAComplaint) {
+    Complaints complaints;
+    const auto& [name, hasReports, isDark, locale, size] = GetParam();
+    WindowHouse house({locale, locale, locale, locale, locale});
+    house.appearance().setDark(isDark);
+    house.window().resize(size);
+    if (hasReports) {
+        house.daily("2026-11-20", "Notebook", "USD", 3);
+        house.daily("2026-11-21", "Notebook", "EUR", 3);
+    }
+    house.show();
+    const std::string heard = walkThrough(house);
+    EXPECT_EQ(heard.find("Notebook") != std::string::npos, hasReports);
+    EXPECT_EQ(heard.find("No reports yet") == std::string::npos, hasReports);
+    EXPECT_EQ(complaints.take(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, EveryScreen,
+                         ::testing::Values(Look{"empty", false, false, "en_US", {1150, 760}},
+                                           Look{"full", true, false, "en_US", {1150, 760}},
+                                           Look{"dark", true, true, "de_DE", {800, 600}},
+                                           Look{"Japanese", true, false, "ja_JP", {1920, 1080}},
+                                           Look{"Arabic", true, true, "ar_EG", {800, 600}}),
+                         [](const auto& look) { return look.param.name; });
+
+TEST(Screens, TellEachFigureToAScreenReader) {
+    WindowHouse house;
+    house.daily("2026-11-21", "Notebook", "USD", 3);
+    house.show();
+    const std::string heard = walkThrough(house);
+    for (const char* figure : {"Most recent day with data, 3.00 US dollars\t$3.00", "Yesterday",
+                               "All time, 3.00 US dollars\t$3.00", "Proceeds, 3.00 US dollars\t$3.00"}) {
+        EXPECT_NE(heard.find(figure), std::string::npos) << figure;
+    }
+}
+
+// Every text of a report, a service or a file may be anything: it is shown as it stands, cut to a bearable
+// length, and nothing that it names is fetched.
+TEST(Screens, ShowHostileTextsAsPlainText) {
+    QTcpServer trap;
+    ASSERT_TRUE(trap.listen(QHostAddress::LocalHost));
+    const std::string address = "http://127.0.0.1:" + std::to_string(trap.serverPort());
+    std::string marks = "a";
+    for (int mark = 0; mark < 1'000'000; ++mark) {
+        marks += "\xCC\x81";
+    }
+    const struct {
+        std::string text;
+        std::string shown;  ///< what has to be heard of it
+    } cases[] = {
+        {"<img src='" + address + "/x.png'><b>bold</b>", "<b>bold</b>"},
+        {"![x](" + address + "/y.png) [a](" + address + ")", "![x]("},
+        {"one\ntwo\tthree\x01\x1B[31m\xE2\x80\xAE", "one two three[31m"},
+        {marks, "a\xCC\x81"},
+        {std::string(10'000'000, 'W'), "WWWW"},
+        {"&amp;&lt;script&gt;", "&amp;&lt;script&gt;"},
+    };
+    for (const auto& [text, shown] : cases) {
+        SCOPED_TRACE(shown);
+        Complaints complaints;
+        WindowHouse house;
+        house.daily("2026-11-21", text, text);
+        house.show();
+        house.windows().root().dashboard()->selectedDay()->open("2026-11-21", {});
+        const std::string heard = walkThrough(house);
+        EXPECT_NE(heard.find(shown), std::string::npos);
+        EXPECT_LT(heard.size(), 1'000'000U);
+        EXPECT_EQ(complaints.take(), "");
+        for (const HttpRequest& request : house.http().requests) {
+            EXPECT_TRUE(request.url.starts_with("https://lookup.example/")) << request.url;
+        }
+    }
+    EXPECT_FALSE(trap.hasPendingConnections());
+}
+
+}  // namespace
+}  // namespace vantrell

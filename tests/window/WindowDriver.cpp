@@ -1,0 +1,111 @@
+#include "WindowDriver.h"
+
+#include <chrono>
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace vantrell::testing {
+namespace {
+
+constexpr std::chrono::milliseconds patience = std::chrono::seconds(10);
+
+QAccessibleInterface* findBelow(QAccessibleInterface& item, QAccessible::Role role, const QString& name) {
+    if (item.state().invisible) {
+        return nullptr;
+    }
+    if (item.role() == role && item.text(QAccessible::Name).startsWith(name)) {
+        return &item;
+    }
+    for (int number = 0; number < item.childCount(); ++number) {
+        QAccessibleInterface* child = item.child(number);
+        QAccessibleInterface* found = child == nullptr ? nullptr : findBelow(*child, role, name);
+        if (found != nullptr) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+// A message handler is a plain function, so what it hears has to lie here.
+QStringList& heard() {
+    static QStringList complaints;
+    return complaints;
+}
+
+void listen(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+    if (type != QtDebugMsg && type != QtInfoMsg) {
+        heard() += message;
+    }
+}
+
+}  // namespace
+
+WindowDriver::WindowDriver(QQuickWindow& window) : window_(window) {
+    QAccessible::setActive(true);
+}
+
+QAccessibleInterface* WindowDriver::find(QAccessible::Role role, const QString& name) const {
+    QAccessibleInterface* root = QAccessible::queryAccessibleInterface(&window_);
+    return root == nullptr ? nullptr : findBelow(*root, role, name);
+}
+
+bool WindowDriver::sees(QAccessible::Role role, const QString& name) const {
+    return find(role, name) != nullptr;
+}
+
+void WindowDriver::expectToSee(QAccessible::Role role, const QString& name) {
+    waitUntil([&] { return sees(role, name); }, "to see " + name.toStdString());
+}
+
+void WindowDriver::click(QAccessible::Role role, const QString& name) {
+    expectToSee(role, name);
+    if (QAccessibleInterface* item = find(role, name)) {
+        const QPoint middle = window_.mapFromGlobal(item->rect().center());
+        QTest::mouseClick(&window_, Qt::LeftButton, {}, middle);
+        settle();
+    }
+}
+
+void WindowDriver::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(&window_, key, modifiers);
+    settle();
+}
+
+void WindowDriver::type(const QString& text) {
+    for (const QChar letter : text) {
+        QTest::keyClick(&window_, letter.toLatin1());
+    }
+    settle();
+}
+
+void WindowDriver::waitUntil(const std::function<bool()>& isSo, const std::string& what) {
+    const bool came = QTest::qWaitFor(isSo, static_cast<int>(patience.count()));
+    EXPECT_TRUE(came) << "waited in vain " << what;
+}
+
+void WindowDriver::settle() {
+    constexpr int rounds = 3;
+    for (int round = 0; round < rounds; ++round) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+Complaints::Complaints() {
+    heard().clear();
+    qInstallMessageHandler(listen);
+}
+
+Complaints::~Complaints() {
+    qInstallMessageHandler(nullptr);
+}
+
+std::string Complaints::take() {
+    const std::string text = heard().join(QLatin1Char('\n')).toStdString();
+    heard().clear();
+    return text;
+}
+
+}  // namespace vantrell::testing

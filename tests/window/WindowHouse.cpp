@@ -1,0 +1,55 @@
+#include "WindowHouse.h"
+
+#include "data/CredentialsKeychain.h"
+#include "screens/ScreenParts.h"
+
+#include <tuple>
+#include <utility>
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace vantrell::testing {
+
+WindowHouse::WindowHouse(const LocaleNames& locale) : locale_(locale) {
+    clock_.autoAdvance = false;
+    // No run begins by itself, since the last one was just now.
+    defaults_.setDate("lastAutoSyncAt", clock_.now());
+    CredentialsKeychain(secrets_).store({"issuer", "key", "not a key", "vendor"});
+    http_.respond = [](const HttpRequest&) { return HttpFailure{"nobody is there"}; };
+    const MyAppParts parts{http_, clock_, localTime_, locale_, secrets_, defaults_};
+    auto begun = MyApp::start(parts, folder_.path() / "vantrell.sqlite",
+                              {origins_.reportService, origins_.rateService, {}});
+    app_ = std::move(std::get<std::unique_ptr<MyApp>>(begun));
+    windows_ = std::make_unique<AppWindows>(*app_, parts,
+                                            AppWindowsParts{.origins = origins_,
+                                                            .appearance = appearance_,
+                                                            .icons = {.folder = folder_.path() / "icons"},
+                                                            .placementFile = std::nullopt});
+}
+
+void WindowHouse::daily(const std::string& date, const std::string& title, const std::string& currency,
+                        int lines) {
+    ParsedSalesRow row;
+    row.beginDate = row.endDate = clock_.now();
+    row.appleID = 1;
+    row.title = row.sku = title;
+    row.productType = "1F";
+    row.units = 1;
+    row.proceedsPerUnit = 1;
+    row.proceedsCurrency = row.customerCurrency = row.country = currency;
+    app_->context().replaceSalesRows("DAILY", date,
+                                     std::vector<ParsedSalesRow>(static_cast<std::size_t>(lines), row));
+    SalesReport report{.reportDate = date, .message = title};
+    report.setStatus(ReportStatus::ok);
+    app_->context().salesReports().insert(report);
+}
+
+void WindowHouse::show() {
+    std::ignore = app_->context().save();
+    windows_->show();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return app_->store().isLoaded(); }));
+}
+
+}  // namespace vantrell::testing
