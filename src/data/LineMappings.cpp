@@ -3,8 +3,6 @@
 #include "data/PackedDecimal.h"
 #include "data/ReportFrequency.h"
 
-#include <limits>
-
 namespace vantrell {
 namespace {
 
@@ -17,12 +15,6 @@ Instant instant(const SqliteStatement& row, int column) {
                : Instant(std::chrono::seconds(value));
 }
 
-// A number outside the dictionary, which only a damaged store can hold, reads as the empty text there.
-TextID textID(const SqliteStatement& row, int column) {
-    const std::int64_t value = row.integer(column);
-    return value < 0 || value > std::numeric_limits<TextID>::max() ? 0 : static_cast<TextID>(value);
-}
-
 }  // namespace
 
 const LineSQL LineMapping<SalesLine>::sql = {
@@ -32,58 +24,44 @@ const LineSQL LineMapping<SalesLine>::sql = {
         " VALUES (?, ?, ?, ?, ?)",
     .deleteBatch = "DELETE FROM sales_batch WHERE id = ?",
     .insertLine =
-        "INSERT INTO sales_line (id, beginDate, sku, title, productType, parentSKU, units,"
-        " proceedsPerUnit, proceedsCurrency, customerPrice, customerCurrency, country, appleID,"
-        " endDate, version, promoCode, subscription, period, device, platforms, proceedsReason,"
-        " client, orderType)"
-        " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+        "INSERT INTO sales_line (id, beginDate, offer, units, country, endDate, version, promoCode,"
+        " subscription, period, device, platforms, proceedsReason, client, orderType)"
+        " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
     .selectLines =
-        "SELECT beginDate, sku, title, productType, parentSKU, units, proceedsPerUnit,"
-        " proceedsCurrency, customerPrice, customerCurrency, country, appleID, endDate, version,"
-        " promoCode, subscription, period, device, platforms, proceedsReason, client, orderType"
+        "SELECT beginDate, offer, units, country, endDate, version, promoCode, subscription, period,"
+        " device, platforms, proceedsReason, client, orderType"
         " FROM sales_line WHERE id >= ? AND id < ? ORDER BY id",
     .selectFigures =
-        "SELECT beginDate, sku, title, productType, parentSKU, units, proceedsPerUnit,"
-        " proceedsCurrency, customerPrice, customerCurrency, country, appleID"
+        "SELECT beginDate, offer, units, country"
         " FROM sales_line WHERE id >= ? AND id < ? ORDER BY id",
     .deleteLines = "DELETE FROM sales_line WHERE id >= ? AND id < ?"};
 
 void LineMapping<SalesLine>::write(LineWriter& writer, const SalesLine& line) {
     const SalesFigures& figures = line.figures;
-    writer << figures.beginDate << figures.sku << figures.title << figures.productType << figures.parentSKU
-           << figures.units << figures.proceedsPerUnit << figures.proceedsCurrency << figures.customerPrice
-           << figures.customerCurrency << figures.country << figures.appleID << line.endDate << line.version
-           << line.promoCode << line.subscription << line.period << line.device << line.platforms
-           << line.proceedsReason << line.client << line.orderType;
+    writer << figures.beginDate << figures.offer << figures.units << figures.country << line.endDate
+           << line.version << line.promoCode << line.subscription << line.period << line.device
+           << line.platforms << line.proceedsReason << line.client << line.orderType;
 }
 
 SalesFigures LineMapping<SalesLine>::readFigures(const SqliteStatement& row) {
     return {.beginDate = instant(row, 0),
-            .sku = textID(row, 1),
-            .title = textID(row, 2),
-            .productType = textID(row, 3),
-            .parentSKU = textID(row, 4),
-            .units = row.integer(5),
-            .proceedsPerUnit = readDecimal(row, 6),
-            .proceedsCurrency = textID(row, 7),
-            .customerPrice = readDecimal(row, 8),
-            .customerCurrency = textID(row, 9),
-            .country = textID(row, 10),
-            .appleID = row.integer(11)};
+            .offer = readID(row, 1),
+            .units = row.integer(2),
+            .country = readID(row, 3)};
 }
 
 SalesLine LineMapping<SalesLine>::read(const SqliteStatement& row) {
     return {.figures = readFigures(row),
-            .endDate = instant(row, 12),
-            .version = textID(row, 13),
-            .promoCode = textID(row, 14),
-            .subscription = textID(row, 15),
-            .period = textID(row, 16),
-            .device = textID(row, 17),
-            .platforms = textID(row, 18),
-            .proceedsReason = textID(row, 19),
-            .client = textID(row, 20),
-            .orderType = textID(row, 21)};
+            .endDate = instant(row, 4),
+            .version = readID(row, 5),
+            .promoCode = readID(row, 6),
+            .subscription = readID(row, 7),
+            .period = readID(row, 8),
+            .device = readID(row, 9),
+            .platforms = readID(row, 10),
+            .proceedsReason = readID(row, 11),
+            .client = readID(row, 12),
+            .orderType = readID(row, 13)};
 }
 
 int LineMapping<SalesLine>::groupRank(std::string_view frequencyRaw) {
@@ -124,19 +102,19 @@ void LineMapping<FinanceLine>::write(LineWriter& writer, const FinanceLine& line
 FinanceLine LineMapping<FinanceLine>::read(const SqliteStatement& row) {
     return {.startDate = instant(row, 0),
             .endDate = instant(row, 1),
-            .vendorIdentifier = textID(row, 2),
-            .title = textID(row, 3),
-            .productType = textID(row, 4),
+            .vendorIdentifier = readID(row, 2),
+            .title = readID(row, 3),
+            .productType = readID(row, 4),
             .quantity = row.integer(5),
             .partnerShare = readDecimal(row, 6),
             .extendedPartnerShare = readDecimal(row, 7),
-            .partnerShareCurrency = textID(row, 8),
-            .saleOrReturn = textID(row, 9),
+            .partnerShareCurrency = readID(row, 8),
+            .saleOrReturn = readID(row, 9),
             .appleID = row.integer(10),
-            .country = textID(row, 11),
-            .promoCode = textID(row, 12),
+            .country = readID(row, 11),
+            .promoCode = readID(row, 12),
             .customerPrice = readDecimal(row, 13),
-            .customerCurrency = textID(row, 14)};
+            .customerCurrency = readID(row, 14)};
 }
 
 }  // namespace vantrell

@@ -5,13 +5,13 @@
 namespace vantrell {
 namespace {
 
-template <typename Row>
-auto encodedAll(const std::vector<Row>& rows, TextDictionary& dictionary) {
+template <typename Row, typename... Dictionaries>
+auto encodedAll(const std::vector<Row>& rows, TextDictionary& dictionary, Dictionaries&... others) {
     LineTexts texts(dictionary);
-    std::vector<decltype(encoded(rows.front(), texts))> lines;
+    std::vector<decltype(encoded(rows.front(), texts, others...))> lines;
     lines.reserve(rows.size());
     for (const Row& row : rows) {
-        lines.push_back(encoded(row, texts));
+        lines.push_back(encoded(row, texts, others...));
     }
     return lines;
 }
@@ -21,6 +21,7 @@ auto encodedAll(const std::vector<Row>& rows, TextDictionary& dictionary) {
 ModelContext::ModelContext(SqliteDatabase& database)
     : database_(database),
       texts_(database),
+      offers_(database),
       salesReports_(database),
       financeReports_(database),
       rateSets_(database),
@@ -30,7 +31,7 @@ ModelContext::ModelContext(SqliteDatabase& database)
 
 void ModelContext::replaceSalesRows(const std::string& frequencyRaw, const std::string& reportDate,
                                     const std::vector<ParsedSalesRow>& rows) {
-    salesLines_.replace(frequencyRaw, reportDate, encodedAll(rows, texts_));
+    salesLines_.replace(frequencyRaw, reportDate, encodedAll(rows, texts_, offers_));
 }
 
 void ModelContext::replaceFinanceRows(const std::string& region, const std::string& fiscalPeriod,
@@ -42,8 +43,9 @@ std::vector<SalesRow> ModelContext::fetchSalesRows() {
     std::vector<SalesRow> rows;
     for (const LineBatch& batch : salesLines_.batches()) {
         salesLines_.readLines(batch, [&](const SalesLine& line) {
-            rows.push_back(
-                {.frequencyRaw = batch.group, .reportDate = batch.label, .line = decoded(line, texts_)});
+            rows.push_back({.frequencyRaw = batch.group,
+                            .reportDate = batch.label,
+                            .line = decoded(line, texts_, offers_)});
         });
     }
     return rows;
@@ -82,6 +84,7 @@ std::optional<StoreError> ModelContext::save() {
 
 void ModelContext::write() {
     texts_.write();
+    offers_.write();
     salesReports_.write();
     financeReports_.write();
     rateSets_.write();
@@ -92,6 +95,7 @@ void ModelContext::write() {
 
 void ModelContext::committed() {
     texts_.committed();
+    offers_.committed();
     salesReports_.committed();
     financeReports_.committed();
     rateSets_.committed();

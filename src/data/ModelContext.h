@@ -34,10 +34,12 @@ class ModelContext {
                             const std::vector<ParsedFinanceRow>& rows);
 
     /// The stored lines by report, in the order of frequency, report date and file, with texts as numbers of
-    /// `texts`. A batch never changes: other lines for the same report come as another batch.
+    /// `texts` and offers as numbers of `offers`. A batch never changes: other lines for the same report come
+    /// as another batch.
     [[nodiscard]] LineTable<SalesLine>& salesLines() { return salesLines_; }
     [[nodiscard]] LineTable<FinanceLine>& financeLines() { return financeLines_; }
     [[nodiscard]] const TextDictionary& texts() const { return texts_; }
+    [[nodiscard]] const OfferDictionary& offers() const { return offers_; }
 
     /// Whole records, in the order of the store; for exports and checks, since they are large.
     [[nodiscard]] std::vector<SalesRow> fetchSalesRows();
@@ -53,6 +55,7 @@ class ModelContext {
 
     SqliteDatabase& database_;
     TextDictionary texts_;
+    OfferDictionary offers_;
     RecordTable<SalesReport> salesReports_;
     RecordTable<FinanceReport> financeReports_;
     RecordTable<RateSet> rateSets_;

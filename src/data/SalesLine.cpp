@@ -2,20 +2,21 @@
 
 namespace vantrell {
 
-SalesLine encoded(const ParsedSalesRow& row, LineTexts& texts) {
+SalesLine encoded(const ParsedSalesRow& row, LineTexts& texts, OfferDictionary& offers) {
     texts.startLine();
+    const StoredOffer offer{.sku = texts.intern(row.sku),
+                            .title = texts.intern(row.title),
+                            .productType = texts.intern(row.productType),
+                            .parentSKU = texts.intern(row.parentSKU),
+                            .proceedsPerUnit = row.proceedsPerUnit,
+                            .proceedsCurrency = texts.intern(row.proceedsCurrency),
+                            .customerPrice = row.customerPrice,
+                            .customerCurrency = texts.intern(row.customerCurrency),
+                            .appleID = row.appleID};
     return {.figures = {.beginDate = row.beginDate,
-                        .sku = texts.intern(row.sku),
-                        .title = texts.intern(row.title),
-                        .productType = texts.intern(row.productType),
-                        .parentSKU = texts.intern(row.parentSKU),
+                        .offer = offers.intern(offer),
                         .units = row.units,
-                        .proceedsPerUnit = row.proceedsPerUnit,
-                        .proceedsCurrency = texts.intern(row.proceedsCurrency),
-                        .customerPrice = row.customerPrice,
-                        .customerCurrency = texts.intern(row.customerCurrency),
-                        .country = texts.intern(row.country),
-                        .appleID = row.appleID},
+                        .country = texts.intern(row.country)},
             .endDate = row.endDate,
             .version = texts.intern(row.version),
             .promoCode = texts.intern(row.promoCode),
@@ -28,23 +29,23 @@ SalesLine encoded(const ParsedSalesRow& row, LineTexts& texts) {
             .orderType = texts.intern(row.orderType)};
 }
 
-ParsedSalesRow decoded(const SalesLine& line, const TextDictionary& texts) {
+ParsedSalesRow decoded(const SalesLine& line, const TextDictionary& texts, const OfferDictionary& offers) {
     const auto text = [&texts](TextID id) { return std::string(texts.text(id)); };
-    const SalesFigures& figures = line.figures;
-    return {.beginDate = figures.beginDate,
+    const StoredOffer& offer = offers.offer(line.figures.offer);
+    return {.beginDate = line.figures.beginDate,
             .endDate = line.endDate,
-            .sku = text(figures.sku),
-            .title = text(figures.title),
+            .sku = text(offer.sku),
+            .title = text(offer.title),
             .version = text(line.version),
-            .productType = text(figures.productType),
-            .parentSKU = text(figures.parentSKU),
-            .units = figures.units,
-            .proceedsPerUnit = figures.proceedsPerUnit,
-            .proceedsCurrency = text(figures.proceedsCurrency),
-            .customerPrice = figures.customerPrice,
-            .customerCurrency = text(figures.customerCurrency),
-            .country = text(figures.country),
-            .appleID = figures.appleID,
+            .productType = text(offer.productType),
+            .parentSKU = text(offer.parentSKU),
+            .units = line.figures.units,
+            .proceedsPerUnit = offer.proceedsPerUnit,
+            .proceedsCurrency = text(offer.proceedsCurrency),
+            .customerPrice = offer.customerPrice,
+            .customerCurrency = text(offer.customerCurrency),
+            .country = text(line.figures.country),
+            .appleID = offer.appleID,
             .promoCode = text(line.promoCode),
             .subscription = text(line.subscription),
             .period = text(line.period),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/LineTexts.h"
+#include "data/OfferDictionary.h"
 #include "data/SalesRow.h"
 
 namespace vantrell {
@@ -8,20 +9,12 @@ namespace vantrell {
 /// What every figure is worked out from: the part of a stored sales line that a reload reads.
 struct SalesFigures {
     Instant beginDate;
-    TextID sku = 0;
-    TextID title = 0;
-    TextID productType = 0;
-    TextID parentSKU = 0;
+    OfferID offer = 0;
     std::int64_t units = 0;
-    Decimal proceedsPerUnit;
-    TextID proceedsCurrency = 0;
-    Decimal customerPrice;
-    TextID customerCurrency = 0;
     TextID country = 0;
-    std::int64_t appleID = 0;
 };
 
-/// A sales line as it is stored: a parsed one with its texts as numbers of the dictionary.
+/// A sales line as it is stored: a parsed one with its offer and its texts as numbers of the dictionaries.
 struct SalesLine {
     SalesFigures figures;
     Instant endDate;
@@ -36,7 +29,8 @@ struct SalesLine {
     TextID orderType = 0;
 };
 
-[[nodiscard]] SalesLine encoded(const ParsedSalesRow& row, LineTexts& texts);
-[[nodiscard]] ParsedSalesRow decoded(const SalesLine& line, const TextDictionary& texts);
+[[nodiscard]] SalesLine encoded(const ParsedSalesRow& row, LineTexts& texts, OfferDictionary& offers);
+[[nodiscard]] ParsedSalesRow decoded(const SalesLine& line, const TextDictionary& texts,
+                                     const OfferDictionary& offers);
 
 }  // namespace vantrell

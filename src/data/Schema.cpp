@@ -16,10 +16,12 @@ CREATE TABLE sales_report (
 CREATE TABLE sales_batch (
     id INTEGER PRIMARY KEY, accountID TEXT NOT NULL DEFAULT 'default', frequencyRaw TEXT NOT NULL,
     reportDate TEXT NOT NULL, firstLine INTEGER NOT NULL, lineCount INTEGER NOT NULL);
+CREATE TABLE sales_offer (
+    id INTEGER PRIMARY KEY, sku, title, productType, parentSKU, proceedsPerUnit, proceedsCurrency,
+    customerPrice, customerCurrency, appleID);
 CREATE TABLE sales_line (
-    id INTEGER PRIMARY KEY, beginDate, sku, title, productType, parentSKU, units, proceedsPerUnit,
-    proceedsCurrency, customerPrice, customerCurrency, country, appleID, endDate, version, promoCode,
-    subscription, period, device, platforms, proceedsReason, client, orderType);
+    id INTEGER PRIMARY KEY, beginDate, offer, units, country, endDate, version, promoCode, subscription,
+    period, device, platforms, proceedsReason, client, orderType);
 
 CREATE TABLE finance_report (
     id INTEGER PRIMARY KEY, accountID TEXT NOT NULL, region TEXT NOT NULL, fiscalPeriod TEXT NOT NULL,
@@ -41,12 +43,12 @@ CREATE TABLE sync_log (
 )sql";
 
 // The ways in which a property of a record lies in its column.
-std::string text(const std::string& name) {
-    return "(SELECT value FROM text WHERE text.id = line." + name + ") AS " + name;
+std::string text(const std::string& name, const std::string& table = "line") {
+    return "(SELECT value FROM text WHERE text.id = " + table + "." + name + ") AS " + name;
 }
 
-std::string amount(const std::string& name) {
-    return decimalTextSQL("line." + name) + " AS " + name;
+std::string amount(const std::string& name, const std::string& table = "line") {
+    return decimalTextSQL(table + "." + name) + " AS " + name;
 }
 
 std::string secondsDate(const std::string& name) {
@@ -78,15 +80,17 @@ std::string reportViews() {
 
 std::string salesRowView() {
     return "CREATE VIEW SalesRow AS SELECT batch.accountID, batch.frequencyRaw, batch.reportDate, " +
-           secondsDate("beginDate") + ", " + secondsDate("endDate") + ", " + text("sku") + ", " +
-           text("title") + ", " + text("version") + ", " + text("productType") + ", " + text("parentSKU") +
-           ", line.units AS units, " + amount("proceedsPerUnit") + ", " + text("proceedsCurrency") + ", " +
-           amount("customerPrice") + ", " + text("customerCurrency") + ", " + text("country") +
-           ", line.appleID AS appleID, " + text("promoCode") + ", " + text("subscription") + ", " +
-           text("period") + ", " + text("device") + ", " + text("platforms") + ", " + text("proceedsReason") +
-           ", " + text("client") + ", " + text("orderType") +
+           secondsDate("beginDate") + ", " + secondsDate("endDate") + ", " + text("sku", "offer") + ", " +
+           text("title", "offer") + ", " + text("version") + ", " + text("productType", "offer") + ", " +
+           text("parentSKU", "offer") + ", line.units AS units, " + amount("proceedsPerUnit", "offer") +
+           ", " + text("proceedsCurrency", "offer") + ", " + amount("customerPrice", "offer") + ", " +
+           text("customerCurrency", "offer") + ", " + text("country") + ", offer.appleID AS appleID, " +
+           text("promoCode") + ", " + text("subscription") + ", " + text("period") + ", " + text("device") +
+           ", " + text("platforms") + ", " + text("proceedsReason") + ", " + text("client") + ", " +
+           text("orderType") +
            " FROM sales_batch AS batch CROSS JOIN sales_line AS line"
-           " ON line.id >= batch.firstLine AND line.id < batch.firstLine + batch.lineCount;";
+           " ON line.id >= batch.firstLine AND line.id < batch.firstLine + batch.lineCount"
+           " LEFT JOIN sales_offer AS offer ON offer.id = line.offer;";
 }
 
 std::string financeRowView() {

@@ -1,8 +1,16 @@
 #include "data/TextDictionary.h"
 
+#include <limits>
+
 #include <sqlite3.h>
 
 namespace vantrell {
+
+std::uint32_t readID(const SqliteStatement& row, int column) {
+    const std::int64_t value = row.integer(column);
+    return value < 0 || value > std::numeric_limits<std::uint32_t>::max() ? 0
+                                                                          : static_cast<std::uint32_t>(value);
+}
 
 TextDictionary::TextDictionary(SqliteDatabase& database) : database_(database) {
     auto select = database_.prepare("SELECT id, value FROM text ORDER BY id");

@@ -13,6 +13,10 @@ namespace vantrell {
 /// The number of a text in the store's dictionary; 0 is the empty text.
 using TextID = std::uint32_t;
 
+/// A column with the number of something in a dictionary. What can't be one, which only a damaged store
+/// holds, reads as 0.
+[[nodiscard]] std::uint32_t readID(const SqliteStatement& row, int column);
+
 /// The distinct texts of all stored lines, by number. A text that was given a number keeps it for ever; new
 /// ones are written with the save that first uses them. Held whole in memory.
 class TextDictionary {
@@ -25,6 +29,7 @@ class TextDictionary {
     [[nodiscard]] TextID intern(std::string_view text);
     /// The empty text for a number that was never given. Valid as long as the dictionary.
     [[nodiscard]] std::string_view text(TextID id) const;
+    [[nodiscard]] std::size_t size() const { return texts_.size(); }
 
     /// Inserts the texts that aren't stored yet, inside the caller's transaction; throws SqliteError.
     void write();

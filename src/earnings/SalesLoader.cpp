@@ -1,61 +1,44 @@
 #include "earnings/SalesLoader.h"
 
-#include <functional>
+#include <algorithm>
 #include <limits>
 
 namespace vantrell {
 namespace {
 
-// Multiplying by a large odd number and folding spreads small numbers well; the keys are mostly small.
-std::size_t mixed(std::size_t hash, std::uint64_t value) {
-    hash = (hash ^ value) * 0x9E3779B97F4A7C15U;
-    return hash ^ (hash >> 29U);
-}
+constexpr std::int64_t mostExpected = 1'000'000;  // lines of one report
 
-std::size_t mixed(std::size_t hash, const Decimal& value) {
-    const auto parts = value.parts();
-    if (!parts) {
-        return mixed(hash, std::hash<std::string>()(value.text()));
+/// The place of a number, which is 0 for one that the dictionary doesn't have.
+template <typename Dictionary>
+std::uint32_t& numberOf(std::uint32_t id, const Dictionary& dictionary, std::vector<std::uint32_t>& numbers,
+                        std::uint32_t unknown) {
+    if (numbers.size() < dictionary.size()) {
+        numbers.resize(dictionary.size(), unknown);
     }
-    return mixed(mixed(hash, static_cast<std::uint64_t>(parts->coefficient)),
-                 static_cast<std::uint64_t>(parts->exponent));
+    return numbers[id < numbers.size() ? id : 0];
 }
 
 }  // namespace
-
-std::size_t SalesLoader::Hash::operator()(const Key& key) const {
-    std::size_t hash = mixed(0, static_cast<std::uint64_t>(key.appleID));
-    hash = mixed(mixed(hash, key.proceeds), key.customerPrice);
-    for (const TextID text : key.texts) {
-        hash = mixed(hash, text);
-    }
-    return hash;
-}
 
 std::shared_ptr<const SalesChunk> SalesLoader::chunk(ModelContext& context, const LineBatch& batch) {
     auto chunk = std::make_shared<SalesChunk>();
     chunk->batch = batch.id;
     chunk->frequency = reportFrequency(batch.group).value_or(ReportFrequency::daily);
     chunk->reportDate = batch.label;
-    context.salesLines().readFigures(
-        batch, [&](const SalesFigures& line) { append(*chunk, line, context.texts()); });
-    chunk->offers.shrink_to_fit();
-    chunk->countries.shrink_to_fit();
-    chunk->units.shrink_to_fit();
-    chunk->dates.shrink_to_fit();
+    // The count of a damaged store can be any number.
+    const auto lines = static_cast<std::size_t>(std::clamp<std::int64_t>(batch.lineCount, 0, mostExpected));
+    chunk->offers.reserve(lines);
+    chunk->countries.reserve(lines);
+    chunk->units.reserve(lines);
+    context.salesLines().readFigures(batch, [&](const SalesFigures& line) { append(*chunk, line, context); });
     return chunk;
 }
 
-void SalesLoader::append(SalesChunk& chunk, const SalesFigures& line, const TextDictionary& dictionary) {
+void SalesLoader::append(SalesChunk& chunk, const SalesFigures& line, const ModelContext& context) {
     appendDate(chunk, line.beginDate);
-    chunk.offers.push_back(offer(line, dictionary));
-    chunk.countries.push_back(text(line.country, dictionary));
-    const bool fits =
-        line.units > SalesChunk::largeUnits && line.units <= std::numeric_limits<std::int32_t>::max();
-    if (!fits) {
-        chunk.unitsByRow.emplace(chunk.units.size(), line.units);
-    }
-    chunk.units.push_back(fits ? static_cast<std::int32_t>(line.units) : SalesChunk::largeUnits);
+    chunk.offers.push_back(offer(line.offer, context));
+    chunk.countries.push_back(text(line.country, context.texts()));
+    appendUnits(chunk, line.units);
 }
 
 void SalesLoader::appendDate(SalesChunk& chunk, Instant date) {
@@ -64,6 +47,7 @@ void SalesLoader::appendDate(SalesChunk& chunk, Instant date) {
         return;
     }
     if (chunk.dates.empty() && date != chunk.date) {
+        chunk.dates.reserve(chunk.offers.capacity());
         chunk.dates.assign(chunk.offers.size(), chunk.date);
     }
     if (!chunk.dates.empty()) {
@@ -71,45 +55,43 @@ void SalesLoader::appendDate(SalesChunk& chunk, Instant date) {
     }
 }
 
-std::uint32_t SalesLoader::offer(const SalesFigures& line, const TextDictionary& dictionary) {
-    const Key key{line.appleID,
-                  line.proceedsPerUnit,
-                  line.customerPrice,
-                  {line.sku, line.parentSKU, line.title, line.productType, line.proceedsCurrency,
-                   line.customerCurrency}};
-    if (last_ && last_->first == key) {
-        return last_->second;
+void SalesLoader::appendUnits(SalesChunk& chunk, std::int64_t units) {
+    const bool fits = units > SalesChunk::largeUnits && units <= std::numeric_limits<std::int32_t>::max();
+    if (!fits) {
+        chunk.unitsByRow.emplace(chunk.units.size(), units);
     }
-    const auto [known, isNew] = offerNumbers_.try_emplace(key, static_cast<std::uint32_t>(offers_.size()));
-    if (isNew) {
-        offers_.push_back(newOffer(line, dictionary));
-    }
-    last_ = &*known;
-    return known->second;
+    chunk.units.push_back(fits ? static_cast<std::int32_t>(units) : SalesChunk::largeUnits);
 }
 
-SalesOffer SalesLoader::newOffer(const SalesFigures& line, const TextDictionary& dictionary) {
+std::uint32_t SalesLoader::offer(OfferID id, const ModelContext& context) {
+    std::uint32_t& number = numberOf(id, context.offers(), offerNumbers_, unknown);
+    if (number == unknown) {
+        number = static_cast<std::uint32_t>(offers_.size());
+        offers_.push_back(newOffer(context.offers().offer(id), context.texts()));
+    }
+    return number;
+}
+
+SalesOffer SalesLoader::newOffer(const StoredOffer& offer, const TextDictionary& dictionary) {
     const auto pooled = [&](TextID id) { return texts_.text(text(id, dictionary)); };
-    return {.kind = productKind(dictionary.text(line.productType)),
-            .currency = currencies_.intern(dictionary.text(line.proceedsCurrency)),
-            .proceeds = ScaledPrice(line.proceedsPerUnit),
-            .appleID = line.appleID,
-            .sku = pooled(line.sku),
-            .parentSKU = pooled(line.parentSKU),
-            .title = pooled(line.title),
-            .productType = pooled(line.productType),
-            .customerPrice = line.customerPrice,
-            .customerCurrency = pooled(line.customerCurrency)};
+    return {.kind = productKind(dictionary.text(offer.productType)),
+            .currency = currencies_.intern(dictionary.text(offer.proceedsCurrency)),
+            .proceeds = ScaledPrice(offer.proceedsPerUnit),
+            .appleID = offer.appleID,
+            .sku = pooled(offer.sku),
+            .parentSKU = pooled(offer.parentSKU),
+            .title = pooled(offer.title),
+            .productType = pooled(offer.productType),
+            .customerPrice = offer.customerPrice,
+            .customerCurrency = pooled(offer.customerCurrency)};
 }
 
 std::uint32_t SalesLoader::text(TextID id, const TextDictionary& dictionary) {
-    if (id >= textNumbers_.size()) {
-        textNumbers_.resize(std::size_t{id} + 1, unknown);
+    std::uint32_t& number = numberOf(id, dictionary, textNumbers_, unknown);
+    if (number == unknown) {
+        number = texts_.intern(dictionary.text(id));
     }
-    if (textNumbers_[id] == unknown) {
-        textNumbers_[id] = texts_.intern(dictionary.text(id));
-    }
-    return textNumbers_[id];
+    return number;
 }
 
 }  // namespace vantrell

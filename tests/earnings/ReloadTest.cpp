@@ -89,7 +89,8 @@ TEST(Reload, OfAStoreThatCanNotBeReadShowsNoRowsAndRecovers) {
     testing::FaultyVfs vfs("faulty-earnings");
     EarningsFixture fixture(vfs.name());
     // More than SQLite's page cache holds, so that a reload has to go to the disk.
-    std::vector<Line> lines(2000);
+    constexpr std::size_t linesADay = 4000;
+    const std::vector<Line> lines(linesADay);
     for (int day = 1; day <= 28; ++day) {
         fixture.daily("2026-10-" + std::string(day < 10 ? "0" : "") + std::to_string(day), lines);
     }
@@ -99,7 +100,7 @@ TEST(Reload, OfAStoreThatCanNotBeReadShowsNoRowsAndRecovers) {
     EXPECT_TRUE(fixture.store().salesRows().empty());
     EXPECT_TRUE(fixture.store().isLoaded());
     vfs.failReads(false);
-    EXPECT_EQ(fixture.reload().salesRows().size(), 28U * 2000);
+    EXPECT_EQ(fixture.reload().salesRows().size(), 28 * linesADay);
 }
 
 TEST(DisplayCurrency, IsTheChosenOneElseThatOfTheLocale) {
