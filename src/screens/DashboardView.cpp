@@ -7,7 +7,11 @@
 namespace vantrell {
 
 DashboardView::DashboardView(const ScreenParts& parts, QObject* parent)
-    : Screen(parts, parent), banner_(parts.engine), selectedDay_(parts) {
+    : Screen(parts, parent),
+      banner_(parts.engine),
+      selectedDay_(parts),
+      chart_({parts.store, parts.locale}, tr("Last 30 days")) {
+    chart_.setOnSelectDay([this](const std::string& key) { selectedDay_.open(key, store().appFilter()); });
     connect(&engine(), &SyncEngine::lastErrorChanged, this, &DashboardView::errorChanged);
     connect(&engine(), &SyncEngine::hasCredentialsChanged, this, &DashboardView::canFetchChanged);
     connect(&engine(), &SyncEngine::isSyncingChanged, this, &DashboardView::refreshEmptiness);
@@ -41,6 +45,8 @@ void DashboardView::refresh() {
         tiles.push_back(statTile({store(), locale()}, figure));
     }
     tiles_.show(tiles);
+    const ReportCalendar& calendar = store().calendar();
+    chart_.show(store().dayPoints(calendar.dayKey(30), calendar.dayKey(1), store().appFilter()));
 }
 
 void DashboardView::refreshEmptiness() {

@@ -3,6 +3,8 @@
 #include "screens/DaySheet.h"
 #include "screens/RowList.h"
 #include "screens/Screen.h"
+#include "screens/charts/ChartLegend.h"
+#include "screens/charts/DailyProceedsChart.h"
 #include "screens/components/EmptyState.h"
 #include "screens/components/SyncBanner.h"
 
@@ -21,7 +23,8 @@ class DashboardView : public Screen {
     Q_PROPERTY(QString fetchText READ fetchText CONSTANT)
     Q_PROPERTY(bool canFetch READ canFetch NOTIFY canFetchChanged)
     Q_PROPERTY(vantrell::RowList* tiles READ tiles CONSTANT)
-    Q_PROPERTY(QString chartTitle READ chartTitle CONSTANT)
+    Q_PROPERTY(vantrell::DailyProceedsChart* chart READ chart CONSTANT)
+    Q_PROPERTY(vantrell::ChartLegend legend READ legend CONSTANT)
     Q_PROPERTY(vantrell::DaySheet* selectedDay READ selectedDay CONSTANT)
 
   public:
@@ -37,7 +40,9 @@ class DashboardView : public Screen {
     [[nodiscard]] QString fetchText() const { return tr("Fetch Reports"); }
     [[nodiscard]] bool canFetch() const { return engine().hasCredentials(); }
     [[nodiscard]] RowList* tiles() { return &tiles_; }
-    [[nodiscard]] QString chartTitle() const { return tr("Last 30 days"); }
+    /// The last 30 days.
+    [[nodiscard]] DailyProceedsChart* chart() { return &chart_; }
+    [[nodiscard]] ChartLegend legend() const { return chartLegend(); }
     [[nodiscard]] DaySheet* selectedDay() { return &selectedDay_; }
 
     Q_INVOKABLE void fetch();
@@ -54,6 +59,7 @@ class DashboardView : public Screen {
     SyncBanner banner_;
     DaySheet selectedDay_;
     RowList tiles_;
+    DailyProceedsChart chart_;
     bool isEmpty_ = false;
 };
 

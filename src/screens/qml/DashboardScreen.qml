@@ -36,4 +36,31 @@ ScreenScroll {
         width: parent.width
         tiles: screen.model.tiles
     }
+    Card {
+        visible: !screen.model.isEmpty
+        width: parent.width
+        height: block.height + 32
+        Column {
+            id: block
+            x: 16
+            y: 16
+            width: parent.width - 32
+            spacing: 10
+            DataText {
+                width: parent.width
+                text: screen.model.chart.title
+                font.pixelSize: Theme.headline
+                font.weight: Font.DemiBold
+                Accessible.role: Accessible.Heading
+            }
+            ChartBlock {
+                width: parent.width
+                chartHeight: 240
+                chart: screen.model.chart
+                legend: screen.model.legend
+                viewport: screen
+            }
+        }
+    }
+    DaySheetPopup { sheet: screen.model.selectedDay }
 }

@@ -32,6 +32,12 @@ QtObject {
     readonly property color warning: dark ? "#F0A35E" : "#A85B00"
     readonly property color bad: dark ? "#F47C75" : "#C2312A"
 
+    readonly property color chartProceeds: accentFill
+    readonly property color chartRefunds: Qt.rgba(bad.r, bad.g, bad.b, 0.75)
+    readonly property color chartMissing: dark ? "#3B3F47" : "#DDE0E6"
+    readonly property color chartZero: dark ? "#6B707A" : "#A3A9B3"
+    readonly property color chartGrid: dark ? "#2D3036" : "#ECEEF1"
+
     // Its digits are all of one width.
     readonly property string family: "Roboto"
     readonly property real smallest: 11

@@ -1,0 +1,130 @@
+#include "screens/charts/ChartMarks.h"
+
+#include <gmock/gmock.h>
+
+namespace vantrell {
+namespace {
+
+using std::chrono::days;
+using std::chrono::sys_days;
+
+std::vector<CivilDate> consecutiveDays(CivilDate first, int count) {
+    std::vector<CivilDate> starts;
+    for (int number = 0; number < count; ++number) {
+        starts.emplace_back(sys_days(first) + days(number));
+    }
+    return starts;
+}
+
+CivilDate date(int year, unsigned month, unsigned day) {
+    return std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day);
+}
+
+TEST(ChartScale, HasFewRoundStepsWithZeroAmongThem) {
+    const struct {
+        const char* name;
+        double lowest;
+        double highest;
+        std::vector<double> marks;
+    } cases[] = {
+        {"thousands", 0, 1563, {0, 500, 1000, 1500, 2000}},
+        {"exactly a step", 0, 5, {0, 1, 2, 3, 4, 5}},
+        {"cents", 0, 0.3, {0, 0.1, 0.2, 0.3}},
+        {"few refunds have no step", -42, 900, {0, 200, 400, 600, 800, 1000}},
+        {"many refunds", -400, 380, {-400, -200, 0, 200, 400}},
+        {"refunds only", -62, 0, {-60, -40, -20, 0}},
+        {"nothing", 0, 0, {0}},
+        {"beyond all sums", 0, 1e308 * 10, {0}},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.name);
+        EXPECT_THAT(niceScale(row.lowest, row.highest).marks(),
+                    ::testing::Pointwise(::testing::DoubleNear(1e-9), row.marks));
+    }
+}
+
+TEST(TimeTicks, NameShortRangesByDateAndLongOnesByMonth) {
+    const Locale locale({"C", "C", "C", "C", "C"});
+    const auto texts = [](const TimeTicks& ticks) {
+        QStringList parts;
+        for (const TimeTick& tick : ticks) {
+            parts += QString::number(tick.column) + QStringLiteral(" ") + tick.text;
+        }
+        return parts.join(QStringLiteral(", ")).toStdString();
+    };
+    const auto month = timeTicks(consecutiveDays(date(2026, 10, 23), 30), TrendGranularity::day, locale);
+    ASSERT_EQ(month.size(), 5U);
+    EXPECT_EQ(texts(month[2]), "1 Oct 24, 8 Oct 31, 15 Nov 7, 22 Nov 14, 29 Nov 21");
+    const auto year = timeTicks(consecutiveDays(date(2025, 11, 22), 365), TrendGranularity::day, locale);
+    EXPECT_EQ(texts(year[2]), "40 Jan 2026, 130 Apr, 221 Jul, 313 Oct");
+    EXPECT_EQ(year.front().size(), 12U);
+    EXPECT_TRUE(timeTicks({}, TrendGranularity::month, locale).empty());
+    const auto century = timeTicks(consecutiveDays(date(1926, 1, 1), 36'500), TrendGranularity::day, locale);
+    EXPECT_LE(century.front().size(), 40U);
+}
+
+/// A plot of 100 by 100 points, in which amounts go from -50 to 50.
+ChartMarks marksOf(std::vector<ChartColumn> columns, double pixel = 1) {
+    const std::size_t count = columns.size();
+    return chartMarks({std::move(columns), ChartScale{50, 1, 1, -50}, {}, {}},
+                      {QRectF(0, 0, 100, 100), count, pixel});
+}
+
+TEST(ChartMarks, StackBarsAwayFromZero) {
+    const auto marks =
+        marksOf({{date(2026, 3, 1),
+                  true,
+                  {{20, ChartInk::series, seriesColor(0)},
+                   {-10, ChartInk::refunds, {}},
+                   {10, ChartInk::series, seriesColor(1)},
+                   {-5, ChartInk::refunds, {}}}},
+                 {date(2026, 3, 2), true, {{0, ChartInk::proceeds, {}}, {-50, ChartInk::refunds, {}}}},
+                 {date(2026, 3, 3), true, {{0.001, ChartInk::proceeds, {}}}},
+                 {date(2026, 3, 4), false, {}}});
+    EXPECT_EQ(marks.zero, 50);
+    ASSERT_EQ(marks.bars.size(), 6U) << "zero has no bar";
+    const double heights[][2] = {{30, 50}, {50, 60}, {20, 30}, {60, 65}, {50, 100}, {49, 50}};
+    for (std::size_t number = 0; number < marks.bars.size(); ++number) {
+        EXPECT_EQ(marks.bars[number].area.top(), heights[number][0]) << number;
+        EXPECT_EQ(marks.bars[number].area.bottom(), heights[number][1]) << number;
+    }
+    EXPECT_EQ(marks.bars[2].color, seriesColor(1));
+    EXPECT_THAT(marks.rules, ::testing::ElementsAre(87.5));
+}
+
+TEST(ChartMarks, BeginAndEndAtPixelsAndKeepApart) {
+    const std::vector<ChartColumn> columns(73, {date(2026, 3, 1), true, {{33.3, ChartInk::proceeds, {}}}});
+    for (const double pixel : {1.0, 0.8, 0.5}) {
+        const auto bars = marksOf(columns, pixel).bars;
+        for (std::size_t number = 1; number < bars.size(); ++number) {
+            const double left = bars[number].area.left() / pixel;
+            EXPECT_NEAR(left, std::round(left), 1e-6);
+            EXPECT_EQ(bars[number].area.width(), bars[0].area.width());
+            EXPECT_GE(bars[number].area.left(), bars[number - 1].area.right() - 1e-6);
+        }
+    }
+}
+
+TEST(ChartFrame, FindsTheColumnUnderAPointOfThePlot) {
+    const ChartFrame frame{QRectF(40, 0, 300, 100), 30, 1};
+    const struct {
+        double x;
+        std::optional<std::size_t> column;
+    } cases[] = {{39.9, std::nullopt}, {40, 0}, {49.9, 0}, {50, 1}, {339.9, 29}, {340, std::nullopt}};
+    for (const auto& row : cases) {
+        EXPECT_EQ(frame.columnAt(row.x), row.column) << row.x;
+    }
+    EXPECT_EQ(frame.center(29), 335);
+    EXPECT_EQ(ChartFrame().columnAt(0), std::nullopt);
+}
+
+TEST(SeriesColor, IsGrayForWhatHasNoPlaceInThePalette) {
+    EXPECT_EQ(seriesColor(7).light, QColor(0xE3, 0x49, 0x48));
+    EXPECT_EQ(seriesColor(7).dark, QColor(0xE6, 0x67, 0x67));
+    for (const std::optional<int> index : {std::optional<int>(), std::optional(8), std::optional(-1)}) {
+        EXPECT_EQ(seriesColor(index).light.alpha(), 153);
+    }
+}
+
+}  // namespace
+}  // namespace vantrell
