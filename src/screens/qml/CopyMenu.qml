@@ -18,9 +18,9 @@ Popover {
         text: menu.copyTitle
         Accessible.role: Accessible.MenuItem
         Accessible.name: item.text
-        Accessible.onPressAction: item.click()
-        Keys.onReturnPressed: item.click()
-        Keys.onEnterPressed: item.click()
+        Accessible.onPressAction: item.clicked()
+        Keys.onReturnPressed: item.clicked()
+        Keys.onEnterPressed: item.clicked()
         onClicked: {
             menu.copied()
             menu.close()

@@ -21,9 +21,9 @@ T.AbstractButton {
     Accessible.name: figure.money.spoken
     Accessible.description: figure.money.warning
     Accessible.focusable: true
-    Accessible.onPressAction: figure.click()
-    Keys.onReturnPressed: figure.click()
-    Keys.onEnterPressed: figure.click()
+    Accessible.onPressAction: figure.clicked()
+    Keys.onReturnPressed: figure.clicked()
+    Keys.onEnterPressed: figure.clicked()
     onClicked: figure.showBreakdown = !figure.showBreakdown
 
     PlainText {

@@ -26,10 +26,10 @@ T.Button {
     Accessible.role: Accessible.Button
     Accessible.name: button.text
     Accessible.description: button.help
-    Accessible.onPressAction: button.click()
+    Accessible.onPressAction: button.clicked()
 
-    Keys.onReturnPressed: if (enabled) button.click()
-    Keys.onEnterPressed: if (enabled) button.click()
+    Keys.onReturnPressed: if (enabled) button.clicked()
+    Keys.onEnterPressed: if (enabled) button.clicked()
 
     contentItem: RowLayout {
         spacing: 6
