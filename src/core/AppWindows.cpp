@@ -1,6 +1,7 @@
 #include "core/AppWindows.h"
 
 #include "screens/AppIconProvider.h"
+#include "screens/ProgramIcon.h"
 #include "screens/QmlModule.h"
 
 #include <chrono>
@@ -48,6 +49,7 @@ AppWindows::AppWindows(MyApp& app, const MyAppParts& parts, const AppWindowsPart
     prepareQmlEngine(engine_);
     // The engine owns it from here on.
     engine_.addImageProvider(QString::fromLatin1(AppIconProvider::name), new AppIconProvider(icons_));
+    QGuiApplication::setWindowIcon(ProgramIcon::asIcon());
     mainWindow_ = loaded(engine_, root_);
     if (windowParts.placementFile) {
         placement_.emplace(*mainWindow_, *windowParts.placementFile);

@@ -14,7 +14,11 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
       syncButton_(parts.engine, parts.tasks),
       breakdown_(parts),
       dashboard_(parts),
-      history_(parts) {
+      history_(parts),
+      payouts_(parts),
+      settings_(parts),
+      welcome_(parts),
+      menu_(about_) {
     destinations_.show(destinationItems());
     connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &RootView::hasCredentialsChanged);
     connect(this, &RootView::hasCredentialsChanged, this, &RootView::shownScreenChanged);
@@ -32,11 +36,13 @@ Screen* RootView::shownScreen() {
         case Destination::dashboard:
         case Destination::apps:
         case Destination::byDay:
-        case Destination::payouts:
-        case Destination::settings:
             return &dashboard_;
         case Destination::history:
             return &history_;
+        case Destination::payouts:
+            return &payouts_;
+        case Destination::settings:
+            return &settings_;
     }
     return nullptr;
 }

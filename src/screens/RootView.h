@@ -1,14 +1,19 @@
 #pragma once
 
+#include "screens/AboutAndUpdateCommands.h"
+#include "screens/AboutView.h"
 #include "screens/DashboardView.h"
 #include "screens/Destination.h"
 #include "screens/DriveLoop.h"
 #include "screens/HistoryView.h"
+#include "screens/PayoutsView.h"
 #include "screens/RowList.h"
 #include "screens/ScreenParts.h"
+#include "screens/WelcomeView.h"
 #include "screens/components/AppFilterPicker.h"
 #include "screens/components/CurrencyBreakdown.h"
 #include "screens/components/SyncToolbarButton.h"
+#include "screens/settings/SettingsView.h"
 
 #include <optional>
 
@@ -39,6 +44,11 @@ class RootView : public QObject {
     Q_PROPERTY(vantrell::CurrencyBreakdown* breakdown READ breakdown CONSTANT)
     Q_PROPERTY(vantrell::DashboardView* dashboard READ dashboard CONSTANT)
     Q_PROPERTY(vantrell::HistoryView* history READ history CONSTANT)
+    Q_PROPERTY(vantrell::PayoutsView* payouts READ payouts CONSTANT)
+    Q_PROPERTY(vantrell::SettingsView* settings READ settings CONSTANT)
+    Q_PROPERTY(vantrell::WelcomeView* welcome READ welcome CONSTANT)
+    Q_PROPERTY(vantrell::AboutView* about READ about CONSTANT)
+    Q_PROPERTY(vantrell::AboutAndUpdateCommands* menu READ menu CONSTANT)
 
   public:
     explicit RootView(const ScreenParts& parts, QObject* parent = nullptr);
@@ -69,6 +79,11 @@ class RootView : public QObject {
     [[nodiscard]] CurrencyBreakdown* breakdown() { return &breakdown_; }
     [[nodiscard]] DashboardView* dashboard() { return &dashboard_; }
     [[nodiscard]] HistoryView* history() { return &history_; }
+    [[nodiscard]] PayoutsView* payouts() { return &payouts_; }
+    [[nodiscard]] SettingsView* settings() { return &settings_; }
+    [[nodiscard]] WelcomeView* welcome() { return &welcome_; }
+    [[nodiscard]] AboutView* about() { return &about_; }
+    [[nodiscard]] AboutAndUpdateCommands* menu() { return &menu_; }
 
     /// To be called once, when the window first appears.
     void appear();
@@ -91,6 +106,11 @@ class RootView : public QObject {
     CurrencyBreakdown breakdown_;
     DashboardView dashboard_;
     HistoryView history_;
+    PayoutsView payouts_;
+    SettingsView settings_;
+    WelcomeView welcome_;
+    AboutView about_;
+    AboutAndUpdateCommands menu_;
 };
 
 }  // namespace vantrell

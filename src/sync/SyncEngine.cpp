@@ -80,6 +80,7 @@ void SyncEngine::pruneSyncLog() {
     for (std::size_t index = keptLogEntries; index < newestFirst.size(); ++index) {
         entries.remove(newestFirst[index].second);
     }
+    Q_EMIT syncLogChanged();
 }
 
 bool SyncEngine::hasOkDailyReport() const {

@@ -68,6 +68,8 @@ class SyncEngine : public QObject {
     [[nodiscard]] bool hasCredentials() const { return hasCredentials_; }
     /// Why the secret service could not be read at the start; absent when it could, also without a key.
     [[nodiscard]] const std::optional<std::string>& credentialsProblem() const { return credentialsProblem_; }
+    /// What requests are signed with; four empty texts without a key.
+    [[nodiscard]] const APICredentials& credentials() const { return client_.credentials(); }
     [[nodiscard]] bool isSyncing() const { return isSyncing_; }
     /// What the run is doing now; empty without one.
     [[nodiscard]] std::string progressText() const { return progressText_; }
@@ -140,6 +142,8 @@ class SyncEngine : public QObject {
     void lastErrorChanged();
     void revisionChanged();
     void stopRequestedChanged();
+    /// A line was added to the sync log, or old ones were removed.
+    void syncLogChanged();
 
   private:
     enum class Applied { stored, skipped, rateLimited };

@@ -138,6 +138,7 @@ void SyncEngine::log(std::string key, std::string_view outcome, std::string_view
                                .key = std::move(key),
                                .outcome = std::string(outcome),
                                .message = std::string(firstCharacters(message, loggedCharacters))});
+    Q_EMIT syncLogChanged();
 }
 
 }  // namespace vantrell

@@ -8,12 +8,14 @@ T.ComboBox {
 
     // What is chosen here, for whoever hears it.
     property string name: ""
+    readonly property string text: displayText
 
     implicitWidth: Math.max(120, shown.implicitWidth + leftPadding + rightPadding + 24)
     implicitHeight: Theme.controlHeight
     leftPadding: 12
     rightPadding: 10
     focusPolicy: Qt.StrongFocus
+    font.family: Theme.family
     font.pixelSize: Theme.callout
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.ComboBox
@@ -26,6 +28,14 @@ T.ComboBox {
         const plain = (event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)) === 0
         if (!box.popup.visible && plain && event.text.trim() !== "") {
             event.accepted = typed.add(event.text)
+        }
+    }
+    // On release, as the box itself takes the choice on release.
+    Keys.onReleased: event => {
+        const confirms = event.key === Qt.Key_Return || event.key === Qt.Key_Enter
+        if (confirms && !box.popup.visible) {
+            box.popup.open()
+            event.accepted = true
         }
     }
     Timer {

@@ -16,9 +16,9 @@ T.AbstractButton {
     Accessible.role: Accessible.Link
     Accessible.name: link.text
     Accessible.description: link.address
-    Accessible.onPressAction: link.click()
-    Keys.onReturnPressed: link.click()
-    Keys.onEnterPressed: link.click()
+    Accessible.onPressAction: link.clicked()
+    Keys.onReturnPressed: link.clicked()
+    Keys.onEnterPressed: link.clicked()
     onClicked: Qt.openUrlExternally(link.address)
 
     contentItem: DataText {

@@ -36,8 +36,21 @@ T.ApplicationWindow {
         value: window.root.appearance.reducesMotion
     }
     Shortcuts { root: window.root }
+    Loader {
+        anchors.fill: parent
+        active: !window.root.hasCredentials
+        sourceComponent: WelcomeScreen { model: window.root.welcome }
+    }
+    Loader {
+        active: window.root.about.isOpen
+        sourceComponent: AboutWindow {
+            model: window.root.about
+            mirrored: window.root.isRightToLeft
+        }
+    }
     RowLayout {
         anchors.fill: parent
+        visible: window.root.hasCredentials
         spacing: 0
         Sidebar {
             Layout.fillHeight: true
@@ -63,6 +76,16 @@ T.ApplicationWindow {
                     root: window.root
                     model: window.root.history
                     sourceComponent: HistoryScreen { history: window.root.history }
+                }
+                ScreenHost {
+                    root: window.root
+                    model: window.root.payouts
+                    sourceComponent: PayoutsScreen { model: window.root.payouts }
+                }
+                ScreenHost {
+                    root: window.root
+                    model: window.root.settings
+                    sourceComponent: SettingsScreen { model: window.root.settings }
                 }
             }
         }

@@ -8,6 +8,26 @@ Flickable {
 
     default property alias content: column.data
     property real spacing: 20
+    property real maximumWidth: 1400
+    property bool centered: false
+    readonly property Item focused: scroll.Window.activeFocusItem
+
+    // Whoever goes through a long screen by Tab sees where they are.
+    onFocusedChanged: {
+        for (let item = scroll.focused; item !== null; item = item.parent) {
+            if (item === column) {
+                scroll.reveal(column.mapFromItem(scroll.focused, 0, 0).y + column.y, scroll.focused.height)
+                return
+            }
+        }
+    }
+    function reveal(top, length) {
+        const bottom = top + length + 30
+        if (top - 30 < scroll.contentY)
+            scroll.contentY = Math.max(0, top - 30)
+        else if (bottom > scroll.contentY + scroll.height)
+            scroll.contentY = Math.max(0, Math.min(bottom, scroll.contentHeight) - scroll.height)
+    }
 
     contentWidth: width
     contentHeight: column.height + 40
@@ -20,9 +40,9 @@ Flickable {
 
     Column {
         id: column
-        x: 20
+        x: scroll.centered ? (scroll.width - width) / 2 : 20
         y: 20
-        width: Math.min(scroll.width - 40, 1400)
+        width: Math.min(scroll.width - 40, scroll.maximumWidth)
         spacing: scroll.spacing
     }
 }

@@ -10,10 +10,18 @@ Rectangle {
 
     color: Theme.sidebar
 
+    ApplicationMenu {
+        id: menu
+        anchors.left: parent.left
+        anchors.top: parent.top
+        anchors.margins: 14
+        commands: sidebar.root.menu
+    }
     ListView {
         id: list
         anchors.fill: parent
         anchors.margins: 10
+        anchors.topMargin: 52
         anchors.bottomMargin: footer.height + 10
         spacing: 2
         interactive: contentHeight > height

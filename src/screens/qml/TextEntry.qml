@@ -17,6 +17,7 @@ T.TextField {
     verticalAlignment: TextInput.AlignVCenter
     maximumLength: 300
     selectByMouse: true
+    font.family: Theme.family
     font.pixelSize: Theme.callout
     color: Theme.primary
     selectionColor: Theme.accentFill

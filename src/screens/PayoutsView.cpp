@@ -1,0 +1,56 @@
+#include "screens/PayoutsView.h"
+
+namespace vantrell {
+
+PayoutsView::PayoutsView(const ScreenParts& parts, QObject* parent) : Screen(parts, parent) {
+    connect(&engine(), &SyncEngine::isSyncingChanged, this, &PayoutsView::canRefetchChanged);
+}
+
+EmptyState PayoutsView::emptyState() const {
+    return {.title = tr("No payouts yet"),
+            .symbol = QStringLiteral("banknote"),
+            .description = store().appFilter()
+                               ? tr("The selected apps haven't appeared in a finance report yet.")
+                               : tr("Finance reports appear here once a sync has fetched them.")};
+}
+
+QString PayoutsView::footer() const {
+    return tr(
+        "What Apple actually paid, by fiscal month, in the payout currencies. Fiscal months end on "
+        "Saturdays; reports appear about a week after close. Sales proceeds and payouts for the same "
+        "span will be close, never identical.");
+}
+
+void PayoutsView::toggle(int place) {
+    if (!isRow(place)) {
+        return;
+    }
+    const std::string& label = labels_[static_cast<std::size_t>(place)];
+    if (expanded_.erase(label) == 0) {
+        expanded_.insert(label);
+    }
+    refresh();
+}
+
+void PayoutsView::refetch(int place) {
+    if (isRow(place) && canRefetch()) {
+        parts().tasks.spawn(engine().refetchFinance(labels_[static_cast<std::size_t>(place)]));
+    }
+}
+
+void PayoutsView::refresh() {
+    labels_.clear();
+    std::vector<PayoutRow> rows;
+    for (const FinancePeriodStat& period : store().financePeriods(store().appFilter())) {
+        rows.push_back(payoutRow({store(), locale()}, period, expanded_.contains(period.label)));
+        labels_.push_back(period.label);
+    }
+    rows_.show(rows);
+    Q_EMIT changed();
+}
+
+bool PayoutsView::isRow(int place) const {
+    return place >= 0 && static_cast<std::size_t>(place) < labels_.size();
+}
+
+}  // namespace vantrell

@@ -1,0 +1,62 @@
+#include "screens/WelcomeView.h"
+
+#include "screens/components/HostName.h"
+#include "screens/components/InlineMarkup.h"
+#include "screens/components/ShownText.h"
+
+namespace vantrell {
+namespace {
+
+std::vector<WelcomeStep> numbered(const QStringList& texts) {
+    std::vector<WelcomeStep> steps;
+    for (const QString& text : texts) {
+        steps.push_back({.number = QString::number(steps.size() + 1),
+                         .styledText = styledText(text),
+                         .plainText = unmarkedText(text)});
+    }
+    return steps;
+}
+
+}  // namespace
+
+WelcomeView::WelcomeView(const ScreenParts& parts, QObject* parent)
+    : QObject(parent), parts_(parts), credentials_(parts) {
+    steps_.show(numbered(
+        {tr("In App Store Connect, open **Users and Access → Integrations → App Store Connect API**."),
+         tr("Generate a **team key** with the **Finance** role and download its `.p8` file. (An In-App "
+            "Purchase key won't work here.)"),
+         tr("Copy the **Key ID** and **Issuer ID**, and your **vendor number** from Payments and Financial "
+            "Reports.")}));
+    connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &WelcomeView::appear);
+    appear();
+}
+
+QString WelcomeView::introduction() const {
+    return tr(
+        "Your App Store earnings by app, day, month and year — plus what Apple actually paid. Fetched "
+        "straight from Apple, stored only on your devices.");
+}
+
+QString WelcomeView::problem() const {
+    const auto& problem = parts_.engine.credentialsProblem();
+    return problem ? tr("The Keychain could not be read: ") + shownText(*problem) : QString();
+}
+
+QString WelcomeView::linkAddress() const {
+    return webAddress(parts_.origins.keyWebSite, QStringLiteral("/access/integrations/api"));
+}
+
+QString WelcomeView::footnote() const {
+    return tr(
+        "The first sync fetches about a year of daily reports plus yearly, monthly and finance reports "
+        "— roughly six minutes. The dashboard fills in as days land.");
+}
+
+// A key that was saved here is of no concern when the welcome comes back after its removal.
+void WelcomeView::appear() {
+    if (!parts_.engine.hasCredentials()) {
+        credentials_.appear();
+    }
+}
+
+}  // namespace vantrell

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "screens/RowList.h"
+#include "screens/settings/CredentialsEditor.h"
+
+namespace vantrell {
+
+/// One thing to do on the way to a key.
+struct WelcomeStep {
+    Q_GADGET
+    QML_VALUE_TYPE(welcomeStep)
+    Q_PROPERTY(QString number MEMBER number)
+    Q_PROPERTY(QString styledText MEMBER styledText)
+    Q_PROPERTY(QString plainText MEMBER plainText)
+
+  public:
+    QString number;
+    QString styledText;  ///< the one text that is shown as markup: bold and code only
+    QString plainText;   ///< the same for whoever hears it
+    bool operator==(const WelcomeStep&) const = default;
+};
+
+/// What fills the window until there is a key: what the program does, how to make a key, and the form for it.
+class WelcomeView : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by RootView")
+    Q_PROPERTY(QString symbol READ symbol CONSTANT)
+    Q_PROPERTY(QString name READ name CONSTANT)
+    Q_PROPERTY(QString introduction READ introduction CONSTANT)
+    Q_PROPERTY(QString problem READ problem CONSTANT)
+    Q_PROPERTY(vantrell::RowList* steps READ steps CONSTANT)
+    Q_PROPERTY(QString linkText READ linkText CONSTANT)
+    Q_PROPERTY(QString linkAddress READ linkAddress CONSTANT)
+    Q_PROPERTY(QString connectTitle READ connectTitle CONSTANT)
+    Q_PROPERTY(vantrell::CredentialsEditor* credentials READ credentials CONSTANT)
+    Q_PROPERTY(QString footnote READ footnote CONSTANT)
+
+  public:
+    explicit WelcomeView(const ScreenParts& parts, QObject* parent = nullptr);
+
+    [[nodiscard]] QString symbol() const { return QStringLiteral("chart.line.uptrend.xyaxis.circle.fill"); }
+    [[nodiscard]] QString name() const { return QStringLiteral("Vantrell"); }
+    [[nodiscard]] QString introduction() const;
+    /// Why a key that may be there could not be read; empty if there simply is none.
+    [[nodiscard]] QString problem() const;
+    [[nodiscard]] RowList* steps() { return &steps_; }
+    [[nodiscard]] QString linkText() const { return tr("Open App Store Connect…"); }
+    [[nodiscard]] QString linkAddress() const;
+    [[nodiscard]] QString connectTitle() const { return tr("Connect"); }
+    [[nodiscard]] CredentialsEditor* credentials() { return &credentials_; }
+    [[nodiscard]] QString footnote() const;
+
+  private:
+    void appear();
+
+    ScreenParts parts_;
+    RowList steps_;
+    CredentialsEditor credentials_;
+};
+
+}  // namespace vantrell

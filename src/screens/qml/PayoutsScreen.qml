@@ -1,0 +1,55 @@
+import QtQuick
+import QtQuick.Templates as T
+import Vantrell
+
+// What was paid, one row a fiscal period.
+Item {
+    id: screen
+
+    required property PayoutsView model
+
+    EmptyStateView {
+        visible: screen.model.isEmpty
+        anchors.top: parent.top
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.margins: 20
+        anchors.topMargin: 80
+        content: screen.model.emptyState
+    }
+    ListView {
+        id: list
+
+        readonly property real rowWidth: Math.min(list.width - 40, 1400)
+
+        visible: !screen.model.isEmpty
+        anchors.fill: parent
+        leftMargin: 20
+        rightMargin: 20
+        topMargin: 20
+        bottomMargin: 20
+        clip: true
+        cacheBuffer: 400
+        boundsBehavior: Flickable.StopAtBounds
+        highlightMoveDuration: Theme.quick
+        model: screen.model.rows
+        T.ScrollBar.vertical: ScrollLine {}
+        Accessible.role: Accessible.List
+        Accessible.name: screen.model.listTitle
+        header: PlainText {
+            bottomPadding: 8
+            leftPadding: 4
+            text: screen.model.listTitle
+            font.pixelSize: Theme.headline
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+        }
+        footer: FormNote {
+            width: Math.min(list.rowWidth, 720)
+            topPadding: 12
+            leftPadding: 4
+            text: screen.model.footer
+        }
+        delegate: PayoutEntry { model: screen.model }
+    }
+}

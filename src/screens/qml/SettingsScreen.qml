@@ -1,0 +1,75 @@
+import QtQuick
+import QtQuick.Layouts
+import Vantrell
+
+// The settings, and the sync log over them.
+FocusScope {
+    id: screen
+
+    required property SettingsView model
+
+    ScreenScroll {
+        anchors.fill: parent
+        visible: !screen.model.isLogShown
+        spacing: 28
+
+        FormSection {
+            width: Math.min(parent.width, 720)
+            heading: screen.model.credentialsTitle
+            footer: screen.model.credentialsFooter
+            CredentialsForm { model: screen.model.credentials }
+        }
+        DisplaySection {
+            width: Math.min(parent.width, 720)
+            model: screen.model.display
+        }
+        SyncSection {
+            width: Math.min(parent.width, 720)
+            model: screen.model.sync
+            onLogPressed: screen.model.openLog()
+        }
+        FormSection {
+            width: Math.min(parent.width, 720)
+            heading: screen.model.updatesTitle
+            FormRow {
+                label: screen.model.versionLabel
+                PlainText {
+                    text: screen.model.version
+                    color: Theme.secondary
+                }
+            }
+        }
+        ExportSection {
+            width: Math.min(parent.width, 720)
+            model: screen.model.exports
+        }
+        FormSection {
+            width: Math.min(parent.width, 720)
+            heading: screen.model.privacyTitle
+            FormRow {
+                label: screen.model.cloudLabel
+                PlainText {
+                    Layout.maximumWidth: 420
+                    wrapMode: Text.Wrap
+                    text: screen.model.cloudStatus
+                    color: Theme.tone(screen.model.cloudTone)
+                }
+            }
+            PlainText {
+                Layout.fillWidth: true
+                wrapMode: Text.Wrap
+                lineHeight: 1.2
+                text: screen.model.privacyText
+                font.pixelSize: Theme.callout
+            }
+        }
+    }
+    Loader {
+        anchors.fill: parent
+        active: screen.model.isLogShown
+        sourceComponent: SyncLogScreen {
+            model: screen.model.log
+            onBack: screen.model.closeLog()
+        }
+    }
+}

@@ -1,0 +1,163 @@
+#include "screens/settings/CredentialsEditor.h"
+
+#include "data/CredentialsKeychain.h"
+#include "platform/TextFile.h"
+#include "platform/Whitespace.h"
+#include "screens/components/ShownText.h"
+
+#include <utility>
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace vantrell {
+namespace {
+
+constexpr std::uintmax_t maxKeyFileBytes = std::uintmax_t{64} << 10U;
+
+std::variant<std::string, TextFileError> keyFileText(const QUrl& file) {
+    if (!file.isLocalFile()) {
+        return TextFileError{
+            CredentialsEditor::tr("Only a file on this computer can be read.").toStdString()};
+    }
+    return readTextFile(QFile::encodeName(file.toLocalFile()).toStdString(), maxKeyFileBytes);
+}
+
+}  // namespace
+
+CredentialsEditor::CredentialsEditor(const ScreenParts& parts, QObject* parent)
+    : QObject(parent), parts_(parts) {
+    connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &CredentialsEditor::canRemoveChanged);
+}
+
+void CredentialsEditor::appear() {
+    ++appearance_;
+    values_ = parts_.engine.credentials();
+    isTesting_ = false;
+    testResult_.clear();
+    say({}, false);
+    Q_EMIT valuesChanged();
+}
+
+CredentialsField CredentialsEditor::issuerField() const {
+    return {.label = tr("Issuer ID"),
+            .prompt = QStringLiteral("3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15"),
+            .hint = tr("The UUID shown at the top of the Integrations → App Store Connect API page.")};
+}
+
+CredentialsField CredentialsEditor::keyField() const {
+    return {.label = tr("Key ID"),
+            .prompt = QStringLiteral("7QK2MZ8T5W"),
+            .hint = tr("10 characters, listed beside the key on the same page. Auto-fills when you import "
+                       "an AuthKey_<Key ID>.p8 file.")};
+}
+
+CredentialsField CredentialsEditor::vendorField() const {
+    return {.label = tr("Vendor Number"),
+            .prompt = QStringLiteral("60419372"),
+            .hint = tr("The 8-digit number in the top-left corner of Payments and Financial Reports.")};
+}
+
+QString CredentialsEditor::fileHint() const {
+    return tr(
+        "The AuthKey_….p8 file you downloaded when the key was created — Apple offers that download "
+        "only once.");
+}
+
+QStringList CredentialsEditor::fileFilters() const {
+    return {tr("Private keys (*.p8)"), tr("Text files (*.txt *.pem)"), tr("All files (*)")};
+}
+
+QString CredentialsEditor::importText() const {
+    return hasKey() ? tr("Replace .p8 Key…") : tr("Import .p8 Key…");
+}
+
+void CredentialsEditor::importKey(const QUrl& file) {
+    auto read = keyFileText(file);
+    if (const auto* error = std::get_if<TextFileError>(&read)) {
+        say(tr("Could not read the key file: ") + shownText(error->description), true);
+        return;
+    }
+    values_.privateKeyPEM = std::get<std::string>(std::move(read));
+    const QString name = QFileInfo(file.toLocalFile()).completeBaseName();
+    const QString prefix = QStringLiteral("AuthKey_");
+    if (name.startsWith(prefix)) {
+        values_.keyID = name.mid(prefix.size()).toStdString();
+    }
+    Q_EMIT valuesChanged();
+    say(tr("Key file read. It stays in the Keychain only — you can delete the download."), false);
+}
+
+void CredentialsEditor::save() {
+    if (isComplete() && isSaved()) {
+        parts_.tasks.spawn(parts_.engine.backfillIfEmpty());
+    }
+}
+
+void CredentialsEditor::test() {
+    if (!isComplete() || isTesting_ || !isSaved()) {
+        return;
+    }
+    testResult_.clear();
+    isTesting_ = true;
+    Q_EMIT outcomeChanged();
+    parts_.tasks.spawn(runTest(parts_.engine, this, appearance_));
+}
+
+void CredentialsEditor::removeKey() {
+    parts_.engine.removeCredentials();
+    values_.privateKeyPEM.clear();
+    Q_EMIT valuesChanged();
+    say(tr("Credentials removed from the Keychain."), false);
+}
+
+QCoro::Task<> CredentialsEditor::runTest(SyncEngine& engine, QPointer<CredentialsEditor> editor,
+                                         int appearance) {
+    const std::string result = co_await engine.testConnection();
+    if (editor != nullptr) {
+        editor->tested(result, appearance);
+    }
+}
+
+void CredentialsEditor::tested(const std::string& result, int appearance) {
+    if (appearance == appearance_) {
+        testResult_ = shownText(result);
+        isTesting_ = false;
+        Q_EMIT outcomeChanged();
+    }
+}
+
+void CredentialsEditor::set(std::string& value, const QString& text) {
+    if (text.toStdString() != value) {
+        value = text.toStdString();
+        Q_EMIT valuesChanged();
+    }
+}
+
+bool CredentialsEditor::isSaved() {
+    trim();
+    try {
+        parts_.engine.saveCredentials(values_);
+    } catch (const CredentialsError& error) {
+        say(tr("Could not save to the Keychain: ") + shownText(error.what()), true);
+        return false;
+    }
+    say(tr("Saved to the Keychain."), false);
+    return true;
+}
+
+void CredentialsEditor::trim() {
+    for (std::string* value :
+         {&values_.issuerID, &values_.keyID, &values_.vendorNumber, &values_.privateKeyPEM}) {
+        *value = std::string(trimWhitespaceAndNewlines(*value));
+    }
+    Q_EMIT valuesChanged();
+}
+
+void CredentialsEditor::say(const QString& status, bool isError) {
+    status_ = status;
+    statusIsError_ = isError;
+    Q_EMIT outcomeChanged();
+}
+
+}  // namespace vantrell

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "earnings/Exports.h"
+#include "screens/ScreenParts.h"
+
+#include <string>
+
+#include <QObject>
+#include <QStringList>
+#include <QThreadPool>
+#include <QUrl>
+#include <QtQml/qqmlregistration.h>
+
+namespace vantrell {
+
+/// What is exported, and the way of its text to a file that the user chooses.
+class ExportSettings : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by its screen")
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString kindLabel READ kindLabel CONSTANT)
+    Q_PROPERTY(QStringList kinds READ kinds CONSTANT)
+    Q_PROPERTY(int chosenKind READ chosenKind NOTIFY chosenKindChanged)
+    Q_PROPERTY(QString exportText READ exportText CONSTANT)
+    Q_PROPERTY(QString fileSuffix READ fileSuffix CONSTANT)
+    Q_PROPERTY(QStringList fileFilters READ fileFilters CONSTANT)
+    Q_PROPERTY(QString caption READ caption CONSTANT)
+
+  public:
+    explicit ExportSettings(const ScreenParts& parts, QObject* parent = nullptr);
+    /// Waits for the file that is being written.
+    ~ExportSettings() override;
+
+    [[nodiscard]] QString title() const { return tr("Export"); }
+    [[nodiscard]] QString kindLabel() const { return tr("Data"); }
+    [[nodiscard]] QStringList kinds() const;
+    [[nodiscard]] int chosenKind() const { return static_cast<int>(kind_); }
+    /// `place` is that of one of `kinds`; others change nothing.
+    Q_INVOKABLE void chooseKind(int place);
+    [[nodiscard]] QString exportText() const { return tr("Export CSV…"); }
+    [[nodiscard]] QString fileSuffix() const { return QStringLiteral("csv"); }
+    [[nodiscard]] QStringList fileFilters() const { return {tr("Comma-separated values (*.csv)")}; }
+    [[nodiscard]] QString caption() const;
+
+    /// Takes the text as the figures are now, over all apps. Returns what the file is called unless the user
+    /// says otherwise.
+    Q_INVOKABLE QUrl prepare();
+    /// Writes what was prepared, in place of what was there. How that goes isn't reported.
+    Q_INVOKABLE void save(const QUrl& file);
+
+  Q_SIGNALS:
+    void chosenKindChanged();
+
+  private:
+    const EarningsStore& store_;
+    ExportKind kind_ = ExportKind::days;
+    std::string text_;
+    QThreadPool writer_;
+};
+
+}  // namespace vantrell

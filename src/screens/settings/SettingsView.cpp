@@ -1,0 +1,66 @@
+#include "screens/settings/SettingsView.h"
+
+#include "screens/components/HostName.h"
+
+namespace vantrell {
+
+SettingsView::SettingsView(const ScreenParts& parts, QObject* parent)
+    : Screen(parts, parent),
+      credentials_(parts),
+      display_(parts),
+      sync_(parts),
+      exports_(parts),
+      log_(parts) {
+    eachMinute_.setInterval(std::chrono::minutes(1));
+    connect(&eachMinute_, &QTimer::timeout, &display_, &DisplaySettings::refresh);
+    connect(this, &Screen::inSightChanged, this, &SettingsView::appearOrLeave);
+}
+
+QString SettingsView::credentialsFooter() const {
+    return tr(
+        "Generate a team key under Users and Access → Integrations → App Store Connect API with the "
+        "Finance role. An In-App Purchase key looks identical but is rejected by the reports endpoints. "
+        "Your vendor number is on Payments and Financial Reports. Credentials are stored in the Keychain "
+        "and sync through iCloud Keychain — never in the app's database.");
+}
+
+QString SettingsView::cloudStatus() const {
+    return parts().cloudSyncActive ? tr("Active") : tr("Not active — data is stored on this device only");
+}
+
+Tone::Value SettingsView::cloudTone() const {
+    return parts().cloudSyncActive ? Tone::Good : Tone::Secondary;
+}
+
+QString SettingsView::privacyText() const {
+    return tr("Your data never leaves your devices except to fetch your own reports from %1, daily exchange "
+              "rates from %2, and — if you use iCloud — your own iCloud account. There is no server and no "
+              "analytics.")
+        .arg(hostName(parts().origins.reportService), hostName(parts().origins.rateService));
+}
+
+void SettingsView::refresh() {
+    display_.refresh();
+}
+
+void SettingsView::appearOrLeave() {
+    log_.setInSight(inSight() && isLogShown_);
+    if (!inSight()) {
+        eachMinute_.stop();
+        return;
+    }
+    eachMinute_.start();
+    credentials_.appear();
+    sync_.appear();
+    display_.refresh();
+}
+
+void SettingsView::showLog(bool isShown) {
+    if (isShown != isLogShown_) {
+        isLogShown_ = isShown;
+        log_.setInSight(inSight() && isShown);
+        Q_EMIT isLogShownChanged();
+    }
+}
+
+}  // namespace vantrell

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "screens/RowList.h"
+#include "screens/Screen.h"
+#include "screens/settings/SyncLogRow.h"
+
+namespace vantrell {
+
+/// The newest lines of the sync log, growing while it is in sight.
+class SyncLogView : public Screen {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by its screen")
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString backText READ backText CONSTANT)
+    Q_PROPERTY(vantrell::RowList* rows READ rows CONSTANT)
+
+  public:
+    explicit SyncLogView(const ScreenParts& parts, QObject* parent = nullptr);
+
+    [[nodiscard]] QString title() const { return tr("Sync Log"); }
+    [[nodiscard]] QString backText() const { return tr("Settings"); }
+    /// At most 500, newest first.
+    [[nodiscard]] RowList* rows() { return &rows_; }
+
+  private:
+    void refresh() override;
+
+    RowList rows_;
+};
+
+}  // namespace vantrell

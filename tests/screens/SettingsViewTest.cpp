@@ -1,0 +1,133 @@
+#include "ScreenFixture.h"
+#include "earnings/Exports.h"
+#include "screens/WelcomeView.h"
+#include "screens/settings/SettingsView.h"
+#include "testing/TemporaryFolder.h"
+
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+namespace vantrell {
+namespace {
+
+class SettingsViewTest : public ::testing::Test {
+  protected:
+    SettingsViewTest() { settings->setInSight(true); }
+
+    testing::ScreenFixture fixture;
+    std::unique_ptr<SettingsView> settings = std::make_unique<SettingsView>(fixture.parts());
+};
+
+TEST_F(SettingsViewTest, ShowsTheCurrenciesAndHowOldTheirRatesAre) {
+    DisplaySettings& display = *settings->display();
+    EXPECT_EQ(display.ratesAge(), QStringLiteral("Not fetched yet"));
+    display.refreshRates();
+    fixture.reload();
+    EXPECT_EQ(display.ratesAge(), QStringLiteral("Updated now"));
+    EXPECT_EQ(display.currencies(), (QStringList{QStringLiteral("EUR"), QStringLiteral("USD")}));
+    EXPECT_EQ(display.chosenCurrency(), 1);
+    display.chooseCurrency(0);
+    EXPECT_EQ(fixture.earnings.displayCurrency(), "EUR");
+    EXPECT_EQ(display.chosenCurrency(), 0);
+    display.chooseCurrency(2);
+    EXPECT_EQ(fixture.earnings.displayCurrency(), "EUR");
+    fixture.clock.advance(std::chrono::hours(2));
+    EXPECT_EQ(display.ratesAge(), QStringLiteral("Updated 2 hours ago"));
+}
+
+TEST_F(SettingsViewTest, NamesTheHostsItTalksTo) {
+    EXPECT_TRUE(settings->display()->caption().contains(QStringLiteral("rates from rates.test to every")));
+    EXPECT_TRUE(settings->privacyText().contains(
+        QStringLiteral("from reports.test, daily exchange rates from rates.test, and — if")));
+    EXPECT_EQ(settings->cloudStatus(), QStringLiteral("Not active — data is stored on this device only"));
+}
+
+TEST_F(SettingsViewTest, FetchesADayUpToToday) {
+    SyncSettings& sync = *settings->sync();
+    EXPECT_EQ(sync.day(), QStringLiteral("2026-11-22"));
+    const std::pair<const char*, bool> cases[] = {
+        {"2026-11-22", true}, {"2026-11-23", false}, {"2026-08-14", true}, {"", false}, {"soon", false}};
+    for (const auto& [day, isFetchable] : cases) {
+        sync.setDay(QString::fromUtf8(day));
+        EXPECT_EQ(sync.canFetchDay(), isFetchable) << day;
+        sync.fetchDay();
+        EXPECT_EQ(fixture.takeRequests().size(), isFetchable ? 1U : 0U) << day;
+    }
+}
+
+TEST_F(SettingsViewTest, LeavesItToTheEngineToRefuseAMonth) {
+    SyncSettings& sync = *settings->sync();
+    EXPECT_FALSE(sync.canFetchMonth());
+    sync.setMonth(QStringLiteral("2026-13"));
+    EXPECT_TRUE(sync.canFetchMonth());
+    sync.fetchMonth();
+    EXPECT_EQ(fixture.engine().lastError(), "Use a month like 2026-08.");
+    sync.setMonth(QStringLiteral("2026-08"));
+    sync.fetchMonth();
+    EXPECT_EQ(fixture.takeRequests().size(), 32U) << "the monthly report and its days";
+}
+
+TEST_F(SettingsViewTest, FetchesNothingWhileARunIsUnderWay) {
+    settings->sync()->setMonth(QStringLiteral("2026-08"));
+    ASSERT_TRUE(fixture.engine().beginRun());
+    EXPECT_FALSE(settings->sync()->canFetchDay());
+    EXPECT_FALSE(settings->sync()->canFetchMonth());
+}
+
+TEST_F(SettingsViewTest, WritesTheExportAsItWasWhenTheButtonWasPressed) {
+    const testing::TemporaryFolder folder;
+    ExportSettings& exports = *settings->exports();
+    EXPECT_TRUE(exports.prepare().path().endsWith(QStringLiteral("/vantrell-daily.csv")));
+    exports.chooseKind(2);
+    EXPECT_EQ(exports.kinds().at(exports.chosenKind()), QStringLiteral("Years"));
+    EXPECT_TRUE(exports.prepare().path().endsWith(QStringLiteral("/vantrell-years.csv")));
+    const std::string expected = exportText(fixture.earnings, ExportKind::years);
+    fixture.earnings.setDisplayCurrency("EUR");
+    exports.save(QUrl(QStringLiteral("https://elsewhere.test/years.csv")));
+    exports.save(QUrl::fromLocalFile(QString::fromStdString((folder / "years.csv").string())));
+    settings.reset();
+    std::ostringstream written;
+    written << std::ifstream(folder / "years.csv").rdbuf();
+    EXPECT_EQ(written.str(), expected);
+}
+
+TEST_F(SettingsViewTest, ShowsTheNewest500LinesOfTheLogAndFollowsIt) {
+    const Instant start = fixture.clock.now();
+    for (int line = 0; line < 600; ++line) {
+        fixture.context().syncLog().insert({.date = start + std::chrono::seconds(line / 2),
+                                            .key = "key " + std::to_string(line),
+                                            .outcome = line == 599 ? "error" : "skipped"});
+    }
+    settings->openLog();
+    const RowList& rows = *settings->log()->rows();
+    ASSERT_EQ(rows.count(), 500);
+    EXPECT_EQ(rows.at<SyncLogRow>(0).key, QStringLiteral("key 599"));
+    EXPECT_EQ(rows.at<SyncLogRow>(0).tone, Tone::Bad);
+    EXPECT_EQ(rows.at<SyncLogRow>(0).copyText(), QStringLiteral("Nov 22, 1:04:59\u202FPM\tkey 599\terror"));
+    EXPECT_EQ(rows.at<SyncLogRow>(499).key, QStringLiteral("key 100"));
+    fixture.clock.advance(std::chrono::hours(1));
+    settings->display()->refreshRates();
+    EXPECT_EQ(rows.at<SyncLogRow>(0).key, QStringLiteral("rates"));
+    EXPECT_EQ(rows.at<SyncLogRow>(0).tone, Tone::Good);
+    settings->closeLog();
+    settings->display()->refreshRates();
+    EXPECT_EQ(rows.at<SyncLogRow>(1).key, QStringLiteral("key 599")) << "out of sight nothing is worked out";
+}
+
+TEST_F(SettingsViewTest, WelcomesWithStepsInBoldAndCodeAndNoOtherMarkup) {
+    WelcomeView welcome(fixture.parts());
+    ASSERT_EQ(welcome.steps()->count(), 3);
+    const auto step = welcome.steps()->at<WelcomeStep>(1);
+    EXPECT_EQ(step.number, QStringLiteral("2"));
+    EXPECT_TRUE(step.styledText.contains(QStringLiteral("<b>team key</b> with the <b>Finance</b> role")));
+    EXPECT_TRUE(step.styledText.contains(QStringLiteral(">.p8</code> file")));
+    EXPECT_TRUE(step.plainText.startsWith(QStringLiteral("Generate a team key with the Finance role")));
+    EXPECT_EQ(welcome.linkAddress(), QStringLiteral("https://keys.test/access/integrations/api"));
+    fixture.engine().removeCredentials();
+    EXPECT_FALSE(welcome.credentials()->hasKey());
+}
+
+}  // namespace
+}  // namespace vantrell
