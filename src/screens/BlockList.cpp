@@ -16,7 +16,9 @@ bool takesFocus(RowKind::Value kind) {
         case RowKind::Absence:
         case RowKind::Tiles:
         case RowKind::Chart:
-        case RowKind::ColumnTitles:
+        case RowKind::WindowTitles:
+        case RowKind::YearTitles:
+        case RowKind::PayoutTitles:
             return false;
         case RowKind::Period:
         case RowKind::Product:
@@ -27,6 +29,11 @@ bool takesFocus(RowKind::Value kind) {
             return true;
     }
     return false;
+}
+
+// The rows of tables stand close to each other.
+bool isDivided(RowKind::Value kind) {
+    return kind == RowKind::Period || kind == RowKind::Product;
 }
 
 bool isOneKind(const BlockRow& left, const BlockRow& right) {
@@ -137,7 +144,7 @@ void BlockBuilder::addRow(RowKind::Value kind, std::function<QVariant()> value) 
     const bool startsBlock = std::exchange(isNewBlock_, false);
     if (!rows_.empty()) {
         rows_.back().endsBlock = startsBlock;
-        rows_.back().isDivided = !startsBlock && rows_.back().kind == kind && takesFocus(kind);
+        rows_.back().isDivided = !startsBlock && rows_.back().kind == kind && isDivided(kind);
     }
     rows_.push_back({kind, std::move(value), startsBlock, true, false});
 }

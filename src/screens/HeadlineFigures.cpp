@@ -27,34 +27,66 @@ std::optional<std::string> sinceText(const EarningsStore& store) {
     return std::nullopt;
 }
 
+/// Collects figures and adds them all up at once.
+class FigureList {
+  public:
+    void add(std::string title, std::optional<std::string> subtitle, SalesSelection rows) {
+        figures_.push_back({std::move(title), std::move(subtitle), {}});
+        rows_.push_back(std::move(rows));
+    }
+
+    [[nodiscard]] std::vector<HeadlineFigure> take() {
+        auto stats = aggregates(rows_);
+        for (std::size_t number = 0; number < figures_.size(); ++number) {
+            figures_[number].stats = std::move(stats[number]);
+        }
+        return std::move(figures_);
+    }
+
+  private:
+    std::vector<HeadlineFigure> figures_;
+    std::vector<SalesSelection> rows_;
+};
+
+SalesSelection rowsUntilYesterday(const EarningsStore& store, const std::string& from,
+                                  const AppFilter& apps) {
+    return store.dailyRows(from, store.calendar().dayKey(1), apps);
+}
+
+void addNewestDay(FigureList& figures, const std::string& title, const EarningsStore& store,
+                  const Locale& locale, const AppFilter& apps) {
+    if (const auto day = mostRecentOkDay(store)) {
+        figures.add(title, dayShortText(store.calendar(), locale, *day), store.dailyRows(*day, *day, apps));
+    }
+}
+
+void addMonthAndYear(FigureList& figures, const EarningsStore& store, const AppFilter& apps) {
+    const ReportCalendar& calendar = store.calendar();
+    figures.add("Last 30 days", std::nullopt, rowsUntilYesterday(store, calendar.dayKey(30), apps));
+    figures.add("Year to date", std::nullopt,
+                rowsUntilYesterday(store, calendar.currentYearLabel() + "-01-01", apps));
+}
+
 }  // namespace
 
 std::vector<HeadlineFigure> headlineFigures(const EarningsStore& store, const Locale& locale) {
-    const ReportCalendar& calendar = store.calendar();
     const AppFilter& apps = store.appFilter();
-    const std::string yesterday = calendar.dayKey(1);
-    std::vector<HeadlineFigure> figures;
-    std::vector<SalesSelection> rows;
-    const auto add = [&](std::string title, std::optional<std::string> subtitle, SalesSelection selection) {
-        figures.push_back({std::move(title), std::move(subtitle), {}});
-        rows.push_back(std::move(selection));
-    };
-    if (const auto day = mostRecentOkDay(store)) {
-        add("Most recent day with data", dayShortText(store.calendar(), locale, *day),
-            store.dailyRows(*day, *day, apps));
-    }
-    const auto untilYesterday = [&](const std::string& from) {
-        return store.dailyRows(from, yesterday, apps);
-    };
-    add("Last 7 days", std::nullopt, untilYesterday(calendar.dayKey(7)));
-    add("Last 30 days", std::nullopt, untilYesterday(calendar.dayKey(30)));
-    add("Year to date", std::nullopt, untilYesterday(calendar.currentYearLabel() + "-01-01"));
-    add("All time", sinceText(store), store.allTimeRows(apps));
-    auto stats = aggregates(rows);
-    for (std::size_t number = 0; number < figures.size(); ++number) {
-        figures[number].stats = std::move(stats[number]);
-    }
-    return figures;
+    FigureList figures;
+    addNewestDay(figures, "Most recent day with data", store, locale, apps);
+    figures.add("Last 7 days", std::nullopt, rowsUntilYesterday(store, store.calendar().dayKey(7), apps));
+    addMonthAndYear(figures, store, apps);
+    figures.add("All time", sinceText(store), store.allTimeRows(apps));
+    return figures.take();
+}
+
+std::vector<HeadlineFigure> appHeadlineFigures(const EarningsStore& store, const Locale& locale,
+                                               std::int64_t app) {
+    const AppFilter apps{std::set{app}};
+    FigureList figures;
+    addNewestDay(figures, "Newest day", store, locale, apps);
+    addMonthAndYear(figures, store, apps);
+    figures.add("All time", std::nullopt, store.allTimeRows(apps));
+    return figures.take();
 }
 
 }  // namespace vantrell

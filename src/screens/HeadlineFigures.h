@@ -21,4 +21,8 @@ struct HeadlineFigure {
 /// over the store's app filter.
 [[nodiscard]] std::vector<HeadlineFigure> headlineFigures(const EarningsStore& store, const Locale& locale);
 
+/// Of one app, whatever the filter: newest day (only if there is one), last 30 days, year to date, all time.
+[[nodiscard]] std::vector<HeadlineFigure> appHeadlineFigures(const EarningsStore& store, const Locale& locale,
+                                                             std::int64_t app);
+
 }  // namespace vantrell

@@ -3,6 +3,7 @@
 #include "screens/components/ShownText.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vantrell {
 
@@ -14,6 +15,7 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
       syncButton_(parts.engine, parts.tasks),
       breakdown_(parts),
       dashboard_(parts),
+      apps_(parts),
       history_(parts),
       payouts_(parts),
       settings_(parts),
@@ -23,6 +25,8 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
     connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &RootView::hasCredentialsChanged);
     connect(this, &RootView::hasCredentialsChanged, this, &RootView::shownScreenChanged);
     connect(this, &RootView::selectionChanged, this, &RootView::shownScreenChanged);
+    connect(this, &RootView::shownScreenChanged, this, &RootView::screenTitleChanged);
+    connect(&apps_, &AppsView::opened, this, &RootView::openApp);
     connect(&parts.engine, &SyncEngine::isSyncingChanged, this, &RootView::footerChanged);
     connect(&parts.engine, &SyncEngine::progressTextChanged, this, &RootView::footerChanged);
     connect(&parts.engine, &SyncEngine::lastRunSummaryChanged, this, &RootView::footerChanged);
@@ -32,11 +36,15 @@ Screen* RootView::shownScreen() {
     if (!hasCredentials()) {
         return nullptr;
     }
+    if (appDetail_ != nullptr) {
+        return appDetail_.get();
+    }
     switch (selection()) {
         case Destination::dashboard:
-        case Destination::apps:
         case Destination::byDay:
             return &dashboard_;
+        case Destination::apps:
+            return &apps_;
         case Destination::history:
             return &history_;
         case Destination::payouts:
@@ -48,8 +56,10 @@ Screen* RootView::shownScreen() {
 }
 
 void RootView::select(Destination::Value destination) {
-    if (selection_ != destination) {
-        selection_ = destination;
+    const bool isNew = selection_ != destination;
+    selection_ = destination;
+    goBack();
+    if (isNew) {
         Q_EMIT selectionChanged();
     }
 }
@@ -60,7 +70,32 @@ void RootView::selectNext(int steps) {
 }
 
 QString RootView::screenTitle() const {
-    return destinationItems()[static_cast<std::size_t>(selection())].title;
+    return appDetail_ != nullptr ? appDetail_->title()
+                                 : destinationItems()[static_cast<std::size_t>(selection())].title;
+}
+
+void RootView::openApp(std::int64_t appID) {
+    auto detail = std::make_unique<AppDetailView>(parts_, appID);
+    connect(detail.get(), &AppDetailView::titleChanged, this, &RootView::screenTitleChanged);
+    showApp(std::move(detail));
+}
+
+void RootView::goBack() {
+    if (appDetail_ != nullptr) {
+        showApp(nullptr);
+    }
+}
+
+// The old one goes after whoever is bound to it has been told. What lay beneath it is in sight again by then, so
+// that it can take the focus.
+void RootView::showApp(std::unique_ptr<AppDetailView> detail) {
+    std::swap(appDetail_, detail);
+    Q_EMIT shownScreenChanged();
+    Q_EMIT appDetailChanged();
+}
+
+QString RootView::backSymbol() const {
+    return isRightToLeft() ? QStringLiteral("chevron.right") : QStringLiteral("chevron.left");
 }
 
 QString RootView::footer() const {

@@ -2,6 +2,8 @@
 
 #include "screens/AboutAndUpdateCommands.h"
 #include "screens/AboutView.h"
+#include "screens/AppDetailView.h"
+#include "screens/AppsView.h"
 #include "screens/DashboardView.h"
 #include "screens/Destination.h"
 #include "screens/DriveLoop.h"
@@ -15,6 +17,7 @@
 #include "screens/components/SyncToolbarButton.h"
 #include "screens/settings/SettingsView.h"
 
+#include <memory>
 #include <optional>
 
 #include <QObject>
@@ -34,7 +37,10 @@ class RootView : public QObject {
     Q_PROPERTY(vantrell::RowList* destinations READ destinations CONSTANT)
     Q_PROPERTY(vantrell::Destination::Value selection READ selection WRITE select NOTIFY selectionChanged)
     Q_PROPERTY(vantrell::Screen* shownScreen READ shownScreen NOTIFY shownScreenChanged)
-    Q_PROPERTY(QString screenTitle READ screenTitle NOTIFY selectionChanged)
+    Q_PROPERTY(QString screenTitle READ screenTitle NOTIFY screenTitleChanged)
+    Q_PROPERTY(vantrell::AppDetailView* appDetail READ appDetail NOTIFY appDetailChanged)
+    Q_PROPERTY(QString backText READ backText CONSTANT)
+    Q_PROPERTY(QString backSymbol READ backSymbol CONSTANT)
     Q_PROPERTY(QString sidebarName READ sidebarName CONSTANT)
     Q_PROPERTY(bool hasToolbarControls READ hasToolbarControls NOTIFY selectionChanged)
     Q_PROPERTY(QString footer READ footer NOTIFY footerChanged)
@@ -43,6 +49,7 @@ class RootView : public QObject {
     Q_PROPERTY(vantrell::SyncToolbarButton* syncButton READ syncButton CONSTANT)
     Q_PROPERTY(vantrell::CurrencyBreakdown* breakdown READ breakdown CONSTANT)
     Q_PROPERTY(vantrell::DashboardView* dashboard READ dashboard CONSTANT)
+    Q_PROPERTY(vantrell::AppsView* apps READ apps CONSTANT)
     Q_PROPERTY(vantrell::HistoryView* history READ history CONSTANT)
     Q_PROPERTY(vantrell::PayoutsView* payouts READ payouts CONSTANT)
     Q_PROPERTY(vantrell::SettingsView* settings READ settings CONSTANT)
@@ -68,6 +75,13 @@ class RootView : public QObject {
     Q_INVOKABLE void selectNext(int steps);
     Q_INVOKABLE void showSettings() { select(Destination::settings); }
     [[nodiscard]] QString screenTitle() const;
+    /// Lies over the selected screen until another is selected; null where no app is open.
+    [[nodiscard]] AppDetailView* appDetail() const { return appDetail_.get(); }
+    void openApp(std::int64_t appID);
+    /// Does nothing where no app is open.
+    Q_INVOKABLE void goBack();
+    [[nodiscard]] QString backText() const { return tr("Back"); }
+    [[nodiscard]] QString backSymbol() const;
     [[nodiscard]] QString sidebarName() const { return tr("Screens"); }
     [[nodiscard]] bool hasToolbarControls() const { return selection() != Destination::settings; }
     /// What stands at the bottom of the sidebar; empty before the first run.
@@ -78,6 +92,7 @@ class RootView : public QObject {
     [[nodiscard]] SyncToolbarButton* syncButton() { return &syncButton_; }
     [[nodiscard]] CurrencyBreakdown* breakdown() { return &breakdown_; }
     [[nodiscard]] DashboardView* dashboard() { return &dashboard_; }
+    [[nodiscard]] AppsView* apps() { return &apps_; }
     [[nodiscard]] HistoryView* history() { return &history_; }
     [[nodiscard]] PayoutsView* payouts() { return &payouts_; }
     [[nodiscard]] SettingsView* settings() { return &settings_; }
@@ -94,9 +109,13 @@ class RootView : public QObject {
     void hasCredentialsChanged();
     void selectionChanged();
     void shownScreenChanged();
+    void screenTitleChanged();
+    void appDetailChanged();
     void footerChanged();
 
   private:
+    void showApp(std::unique_ptr<AppDetailView> detail);
+
     ScreenParts parts_;
     DriveLoop driveLoop_;
     RowList destinations_;
@@ -105,12 +124,14 @@ class RootView : public QObject {
     SyncToolbarButton syncButton_;
     CurrencyBreakdown breakdown_;
     DashboardView dashboard_;
+    AppsView apps_;
     HistoryView history_;
     PayoutsView payouts_;
     SettingsView settings_;
     WelcomeView welcome_;
     AboutView about_;
     AboutAndUpdateCommands menu_;
+    std::unique_ptr<AppDetailView> appDetail_;
 };
 
 }  // namespace vantrell

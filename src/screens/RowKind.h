@@ -16,15 +16,17 @@ class RowKind : public QObject {
         Heading,       ///< QString
         Note,          ///< QString, in small print
         Absence,       ///< QString, in place of a list
-        Tiles,         ///< nothing
-        Chart,         ///< nothing
-        ColumnTitles,  ///< ColumnTitles
+        Tiles,         ///< nothing: the screen has them
+        Chart,         ///< likewise
+        WindowTitles,  ///< ColumnTitles
+        YearTitles,    ///< ColumnTitles
+        PayoutTitles,  ///< ColumnTitles
         Period,        ///< PeriodRowView
         Product,       ///< ProductRowView
         Country,       ///< CountryRow
         Windows,       ///< WindowsRow
         Years,         ///< YearsRow
-        Payout,        ///< PayoutRow
+        Payout,        ///< AppPayoutRow
     };
     Q_ENUM(Value)
 };

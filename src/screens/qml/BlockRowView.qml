@@ -17,12 +17,16 @@ FocusScope {
     readonly property BlockView list: ListView.view as BlockView
     readonly property bool isStop: list !== null && list.stop === index
     readonly property real gap: startsBlock ? 20 : 0
+    // What brings its own cards lies on none.
+    readonly property bool isBare: kind === RowKind.Tiles
+    readonly property real inset: isBare ? 0 : 16
 
     width: list !== null ? list.rowWidth : 0
-    height: content.y + content.height + (endsBlock ? 16 : 0)
+    height: content.y + content.height + (endsBlock ? inset : 0)
     onActiveFocusChanged: if (entry.activeFocus) entry.list.currentIndex = entry.index
 
     CardSlice {
+        visible: !entry.isBare
         anchors.fill: parent
         anchors.topMargin: entry.gap
         first: entry.startsBlock
@@ -30,9 +34,9 @@ FocusScope {
     }
     Loader {
         id: content
-        x: 16
-        y: entry.gap + (entry.startsBlock ? 16 : 0)
-        width: entry.width - 32
+        x: entry.inset
+        y: entry.gap + (entry.startsBlock ? entry.inset : 0)
+        width: entry.width - 2 * entry.inset
         focus: true
         sourceComponent: {
             switch (entry.kind) {

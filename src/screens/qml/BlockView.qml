@@ -13,8 +13,9 @@ ListView {
     readonly property real rowWidth: Math.min(list.width - 40, 1400)
 
     function step(direction) {
-        const next = list.rows.next(list.stop, direction)
-        if (next === list.stop) {
+        // The focus may be at what is no row, such as a tile.
+        const next = list.currentIndex === list.stop ? list.rows.next(list.stop, direction) : list.stop
+        if (next === list.currentIndex) {
             direction < 0 ? list.positionViewAtBeginning() : list.positionViewAtEnd()
             return
         }

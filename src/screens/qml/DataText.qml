@@ -3,18 +3,18 @@ import Vantrell
 
 // A text of any length on one line: what doesn't fit is told under the pointer.
 PlainText {
-    id: text
+    id: line
 
     HoverHandler {
         id: hover
-        enabled: text.truncated
+        enabled: line.truncated
     }
     Loader {
-        active: hover.hovered && text.truncated
+        active: hover.hovered && line.truncated
         sourceComponent: Hint {
-            parent: text
+            parent: line
             shown: true
-            text: text.text
+            text: line.text
         }
     }
 }

@@ -5,6 +5,7 @@ BlockView {
     id: screen
 
     required property HistoryView history
+    focus: true
     rows: screen.history.rows
     Accessible.name: screen.history.title
     delegate: BlockRowView {}

@@ -73,6 +73,17 @@ T.ApplicationWindow {
                     sourceComponent: DashboardScreen { model: window.root.dashboard }
                 }
                 ScreenHost {
+                    id: appsHost
+                    root: window.root
+                    model: window.root.apps
+                    sourceComponent: AppsScreen { apps: window.root.apps }
+                }
+                AppDetailHost {
+                    anchors.fill: parent
+                    root: window.root
+                    onClosed: if (appsHost.current) appsHost.forceActiveFocus()
+                }
+                ScreenHost {
                     root: window.root
                     model: window.root.history
                     sourceComponent: HistoryScreen { history: window.root.history }

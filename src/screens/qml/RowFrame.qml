@@ -9,6 +9,8 @@ T.ItemDelegate {
     property string copyText: ""
     // It opens something when it is pressed.
     property bool opens: false
+    // How far its ground reaches beyond it, on either side.
+    property real overhang: 8
     // Tab stops here, and at what the row holds. Only at one row of a list, lest it takes a hundred steps.
     property bool tabStop: ListView.view === null || ListView.isCurrentItem
 
@@ -43,6 +45,8 @@ T.ItemDelegate {
             event.accepted = true
         }
     }
+    // Coming to another row means coming to the row itself, not to what had the focus there last.
+    onTabStopChanged: if (frame.tabStop) frame.focus = true
     // Whoever got the focus by the pointer is where the arrow keys go on from.
     onActiveFocusChanged: {
         const list = frame.ListView.view
@@ -53,8 +57,8 @@ T.ItemDelegate {
     background: Item {
         Rectangle {
             anchors.fill: parent
-            anchors.leftMargin: -8
-            anchors.rightMargin: -8
+            anchors.leftMargin: -frame.overhang
+            anchors.rightMargin: -frame.overhang
             radius: Theme.controlRadius
             color: frame.opens && frame.hovered || frame.down && frame.opens ? Theme.quaternary : "transparent"
             border.width: frame.activeFocus ? 2 : 0

@@ -25,6 +25,11 @@ Item {
         onActivated: keys.root.syncButton.press()
     }
     Shortcut {
+        sequences: [StandardKey.Back]
+        enabled: keys.root.appDetail !== null
+        onActivated: keys.root.goBack()
+    }
+    Shortcut {
         sequence: "Ctrl+,"
         enabled: keys.root.hasCredentials
         onActivated: keys.root.showSettings()

@@ -16,6 +16,12 @@ Rectangle {
         anchors.leftMargin: 20
         anchors.rightMargin: 20
         spacing: 8
+        PushButton {
+            visible: toolbar.root.appDetail !== null
+            text: toolbar.root.backText
+            symbol: toolbar.root.backSymbol
+            onClicked: toolbar.root.goBack()
+        }
         DataText {
             Layout.fillWidth: true
             text: toolbar.root.screenTitle

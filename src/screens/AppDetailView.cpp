@@ -1,0 +1,82 @@
+#include "screens/AppDetailView.h"
+
+#include "screens/FigureBlocks.h"
+#include "screens/HeadlineFigures.h"
+#include "screens/components/CountryRow.h"
+#include "screens/components/ShownText.h"
+#include "screens/components/StatTile.h"
+
+#include <set>
+
+namespace vantrell {
+namespace {
+
+constexpr std::size_t maxCountries = 20;
+
+}  // namespace
+
+AppDetailView::AppDetailView(const ScreenParts& parts, std::int64_t appID, QObject* parent)
+    : Screen(parts, parent), appID_(appID), apps_(std::set{appID}), selectedDay_(parts) {
+    setInSight(true);
+}
+
+void AppDetailView::refresh() {
+    if (loadedRevision_ == store().loadRevision()) {
+        return;
+    }
+    loadedRevision_ = store().loadRevision();
+    takeSnapshots();
+    showTitle();
+    showTiles();
+    showRows();
+}
+
+void AppDetailView::takeSnapshots() {
+    years_ = store().yearStats(apps_);
+    months_ = store().monthStats(apps_);
+    products_ = store().productStats(apps_);
+    countries_ = store().countryStats(apps_, maxCountries);
+}
+
+void AppDetailView::showTitle() {
+    const auto& apps = store().catalog().appByID();
+    const auto app = apps.find(appID_);
+    const QString title = app == apps.end() ? QString() : shownText(app->second.title);
+    if (title != title_) {
+        title_ = title;
+        Q_EMIT titleChanged();
+    }
+}
+
+void AppDetailView::showTiles() {
+    std::vector<StatTile> tiles;
+    for (const HeadlineFigure& figure : appHeadlineFigures(store(), locale(), appID_)) {
+        tiles.push_back(statTile({store(), locale()}, figure));
+    }
+    tiles_.show(tiles);
+}
+
+void AppDetailView::showRows() {
+    const FigureContext context{store(), locale()};
+    BlockBuilder rows;
+    const auto beginList = [&](const QString& heading, bool isEmpty, const QString& absence) {
+        rows.beginBlock();
+        rows.addText(RowKind::Heading, heading);
+        if (isEmpty) {
+            rows.addText(RowKind::Absence, absence);
+        }
+    };
+    rows.addText(RowKind::Tiles, {});
+    beginList(tr("By year"), years_.empty(), tr("Nothing here yet."));
+    addYears(rows, context, years_);
+    beginList(tr("By month"), months_.empty(), tr("Nothing here yet."));
+    addMonths(rows, context, months_);
+    beginList(tr("Products · all time"), products_.empty(), tr("No products yet."));
+    addProducts(rows, context, products_);
+    beginList(tr("Top countries · all time"), countries_.empty(), tr("No sales yet."));
+    rows.addEach(RowKind::Country, countries_,
+                 [context](const CountryStat& country) { return countryRow(context, country); });
+    rows_.show(rows.take());
+}
+
+}  // namespace vantrell
