@@ -16,7 +16,12 @@ constexpr std::size_t maxCountries = 20;
 }  // namespace
 
 AppDetailView::AppDetailView(const ScreenParts& parts, std::int64_t appID, QObject* parent)
-    : Screen(parts, parent), appID_(appID), apps_(std::set{appID}), selectedDay_(parts) {
+    : Screen(parts, parent),
+      appID_(appID),
+      apps_(std::set{appID}),
+      selectedDay_(parts),
+      chart_({parts.store, parts.locale}, tr("Last 30 days")) {
+    chart_.setOnSelectDay([this](const std::string& key) { selectedDay_.open(key, apps_); });
     setInSight(true);
 }
 
@@ -28,6 +33,8 @@ void AppDetailView::refresh() {
     takeSnapshots();
     showTitle();
     showTiles();
+    const ReportCalendar& calendar = store().calendar();
+    chart_.show(store().dayPoints(calendar.dayKey(30), calendar.dayKey(1), apps_));
     showRows();
 }
 
@@ -67,6 +74,9 @@ void AppDetailView::showRows() {
         }
     };
     rows.addText(RowKind::Tiles, {});
+    rows.beginBlock();
+    rows.addText(RowKind::Heading, chart_.title());
+    rows.addText(RowKind::Chart, {});
     beginList(tr("By year"), years_.empty(), tr("Nothing here yet."));
     addYears(rows, context, years_);
     beginList(tr("By month"), months_.empty(), tr("Nothing here yet."));

@@ -4,6 +4,8 @@
 #include "screens/DaySheet.h"
 #include "screens/RowList.h"
 #include "screens/Screen.h"
+#include "screens/charts/ChartLegend.h"
+#include "screens/charts/DailyProceedsChart.h"
 
 #include <cstdint>
 #include <optional>
@@ -18,6 +20,8 @@ class AppDetailView : public Screen {
     QML_UNCREATABLE("made by RootView")
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
     Q_PROPERTY(vantrell::RowList* tiles READ tiles CONSTANT)
+    Q_PROPERTY(vantrell::DailyProceedsChart* chart READ chart CONSTANT)
+    Q_PROPERTY(vantrell::ChartLegend legend READ legend CONSTANT)
     Q_PROPERTY(vantrell::BlockList* rows READ rows CONSTANT)
     Q_PROPERTY(vantrell::DaySheet* selectedDay READ selectedDay CONSTANT)
 
@@ -27,6 +31,9 @@ class AppDetailView : public Screen {
     /// That of the app; empty if the catalog doesn't hold it.
     [[nodiscard]] QString title() const { return title_; }
     [[nodiscard]] RowList* tiles() { return &tiles_; }
+    /// The last 30 days.
+    [[nodiscard]] DailyProceedsChart* chart() { return &chart_; }
+    [[nodiscard]] ChartLegend legend() const { return chartLegend(); }
     [[nodiscard]] BlockList* rows() { return &rows_; }
     [[nodiscard]] DaySheet* selectedDay() { return &selectedDay_; }
 
@@ -44,13 +51,14 @@ class AppDetailView : public Screen {
     const AppFilter apps_;
     std::optional<std::int64_t> loadedRevision_;
     QString title_;
+    DaySheet selectedDay_;
     RowList tiles_;
+    DailyProceedsChart chart_;
     std::vector<PeriodStat> years_;
     std::vector<PeriodStat> months_;
     std::vector<ProductStat> products_;
     std::vector<CountryStat> countries_;
     BlockList rows_;
-    DaySheet selectedDay_;
 };
 
 }  // namespace vantrell

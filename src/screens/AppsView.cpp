@@ -15,6 +15,10 @@ AppsView::AppsView(const ScreenParts& parts, QObject* parent)
 }
 
 void AppsView::refresh() {
+    // Before the first load there is nothing to tell, not even that there is nothing.
+    if (!store().isLoaded()) {
+        return;
+    }
     const bool isNew = loadedRevision_ != store().loadRevision();
     if (isNew) {
         takeSnapshots();

@@ -10,6 +10,9 @@ namespace vantrell {
 HistoryView::HistoryView(const ScreenParts& parts, QObject* parent) : Screen(parts, parent) {}
 
 void HistoryView::refresh() {
+    if (!store().isLoaded()) {
+        return;
+    }
     const AppFilter& apps = store().appFilter();
     const FigureContext context{store(), locale()};
     years_ = store().yearStats(apps);

@@ -86,8 +86,8 @@ void RootView::goBack() {
     }
 }
 
-// The old one goes after whoever is bound to it has been told. What lay beneath it is in sight again by then, so
-// that it can take the focus.
+// The old one goes after whoever is bound to it has been told. What lay beneath it is in sight again by then,
+// so that it can take the focus.
 void RootView::showApp(std::unique_ptr<AppDetailView> detail) {
     std::swap(appDetail_, detail);
     Q_EMIT shownScreenChanged();

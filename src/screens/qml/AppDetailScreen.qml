@@ -11,11 +11,26 @@ BlockView {
     Accessible.name: screen.detail.title
     delegate: BlockRowView {
         id: entry
-        special: entry.kind === RowKind.Tiles ? tiles : country
+        special: {
+            switch (entry.kind) {
+            case RowKind.Tiles: return tiles
+            case RowKind.Chart: return chart
+            default: return country
+            }
+        }
 
         Component {
             id: tiles
             TileGrid { tiles: screen.detail.tiles }
+        }
+        Component {
+            id: chart
+            ChartBlock {
+                chartHeight: 220
+                chart: screen.detail.chart
+                legend: screen.detail.legend
+                viewport: screen
+            }
         }
         Component {
             id: country
@@ -25,5 +40,5 @@ BlockView {
                 focus: true
             }
         }
-    }
+    }    DaySheetPopup { sheet: screen.detail.selectedDay }
 }

@@ -30,7 +30,7 @@ ListView {
     model: list.rows
     leftMargin: 20
     rightMargin: 20
-    bottomMargin: 20
+    footer: Item { height: 20 }
     boundsBehavior: Flickable.StopAtBounds
     clip: true
     cacheBuffer: 400

@@ -5,6 +5,9 @@ import Vantrell
 PlainText {
     id: line
 
+    // Also where the text itself runs the other way.
+    horizontalAlignment: Text.AlignLeft
+
     HoverHandler {
         id: hover
         enabled: line.truncated
