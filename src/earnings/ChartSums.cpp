@@ -23,11 +23,11 @@ ChartSums::ChartSums(const OfferGroups& groups, const TextPool& currencies,
     }
 }
 
-std::vector<std::optional<ChartAmount>> ChartSums::amounts(const std::vector<OfferSum>& lines) {
+std::vector<std::optional<SignedAmounts>> ChartSums::amounts(const std::vector<OfferSum>& lines) {
     for (const OfferSum& sum : lines) {
         add(sum);
     }
-    std::vector<std::optional<ChartAmount>> amounts;
+    std::vector<std::optional<SignedAmounts>> amounts;
     amounts.reserve(groups_.ids().size());
     for (std::size_t group = 0; group < groups_.ids().size(); ++group) {
         amounts.push_back(takeAmount(group));
@@ -47,7 +47,7 @@ void ChartSums::add(const OfferSum& lines) {
     (isRefund ? money.refunds : money.proceeds).add(lines.units, offer.proceeds);
 }
 
-std::optional<ChartAmount> ChartSums::takeAmount(std::size_t group) {
+std::optional<SignedAmounts> ChartSums::takeAmount(std::size_t group) {
     bool hasRate = false;
     long double proceeds = 0;
     long double refunds = 0;
@@ -63,7 +63,7 @@ std::optional<ChartAmount> ChartSums::takeAmount(std::size_t group) {
         }
         money = {};
     }
-    return hasRate ? std::optional(ChartAmount{finite(proceeds), finite(refunds)}) : std::nullopt;
+    return hasRate ? std::optional(SignedAmounts{finite(proceeds), finite(refunds)}) : std::nullopt;
 }
 
 }  // namespace vantrell

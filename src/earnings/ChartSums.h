@@ -13,7 +13,7 @@
 namespace vantrell {
 
 /// An amount in the display currency as numbers to draw and to sort by; always finite.
-struct ChartAmount {
+struct SignedAmounts {
     double proceeds = 0;  ///< of the lines worth 0 or more
     double refunds = 0;   ///< of the lines worth less than 0; never above zero
 
@@ -30,7 +30,7 @@ class ChartSums {
 
     /// The amount of each group by its number, without what has no rate; absent for a group without lines
     /// that have one.
-    [[nodiscard]] std::vector<std::optional<ChartAmount>> amounts(const std::vector<OfferSum>& lines);
+    [[nodiscard]] std::vector<std::optional<SignedAmounts>> amounts(const std::vector<OfferSum>& lines);
 
   private:
     struct Money {
@@ -39,7 +39,7 @@ class ChartSums {
         ExactSum refunds;
     };
     void add(const OfferSum& lines);
-    [[nodiscard]] std::optional<ChartAmount> takeAmount(std::size_t group);
+    [[nodiscard]] std::optional<SignedAmounts> takeAmount(std::size_t group);
 
     const OfferGroups& groups_;
     std::vector<std::optional<long double>> rates_;  // by currency: what one unit of it is worth

@@ -30,17 +30,17 @@ std::vector<DayPoint> EarningsStore::dayPoints(const std::string& from, const st
         return isSold(offer.kind) ? std::optional(0) : std::nullopt;
     });
     ChartSums sums(sold, salesRows_.currencies(), converter_);
-    std::map<std::string_view, ChartAmount> amounts;
+    std::map<std::string_view, SignedAmounts> amounts;
     dailyRows(from, to, apps)
         .forEachSection([this](std::size_t chunk) { return reportDate(chunk); },
                         [&](std::string_view day, const std::vector<OfferSum>& lines) {
                             for (const auto& amount : sums.amounts(lines)) {
-                                amounts[day] = amount.value_or(ChartAmount());
+                                amounts[day] = amount.value_or(SignedAmounts());
                             }
                         });
     std::vector<DayPoint> points;
     for (const auto& [key, date] : days(from, to)) {
-        const ChartAmount amount = amounts[key];
+        const SignedAmounts amount = amounts[key];
         points.push_back({date, amount.proceeds, amount.refunds, dailyStatus(key)});
     }
     return points;

@@ -58,7 +58,7 @@ class TrendSeries {
 };
 
 /// What each series moved in one bucket. A series that moved nothing has no cell.
-using Cells = std::map<std::size_t, ChartAmount>;
+using Cells = std::map<std::size_t, SignedAmounts>;
 using CellsByStart = std::map<CivilDate, Cells>;
 
 /// How many of a bucket's days need no further request.
