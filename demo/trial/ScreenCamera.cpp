@@ -32,6 +32,25 @@ qreal missingHeight(const QQuickItem& item) {
     return missing;
 }
 
+QAccessibleInterface* pressableBelow(QAccessibleInterface& item, const QString& name) {
+    if (item.state().invisible) {
+        return nullptr;
+    }
+    const bool isNamed = item.text(QAccessible::Name).startsWith(name);
+    if (isNamed && item.actionInterface() != nullptr &&
+        item.actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction())) {
+        return &item;
+    }
+    for (int number = 0; number < item.childCount(); ++number) {
+        QAccessibleInterface* child = item.child(number);
+        QAccessibleInterface* found = child == nullptr ? nullptr : pressableBelow(*child, name);
+        if (found != nullptr) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 ScreenCamera::ScreenCamera(FixedAppearance& appearance, std::filesystem::path folder)
@@ -61,7 +80,7 @@ void ScreenCamera::settle() {
 void ScreenCamera::takePicture(QQuickWindow& window, const std::string& fileName) {
     settle();
     const std::filesystem::path file = folder_ / fileName;
-    note(window.grabWindow().save(QString::fromStdString(file.string())), file);
+    note(window.grabWindow().save(QString::fromStdString(file.string())), "could not write " + file.string());
 }
 
 void ScreenCamera::takeText(QQuickWindow& window, const std::string& fileName) {
@@ -76,14 +95,24 @@ void ScreenCamera::takeText(QQuickWindow& window, const std::string& fileName) {
         settle();
     }
     const std::filesystem::path file = folder_ / fileName;
-    note(!writeAtomically(file, spokenText(window)).has_value(), file);
+    note(!writeAtomically(file, spokenText(window)).has_value(), "could not write " + file.string());
     window.resize(size);
     settle();
 }
 
-void ScreenCamera::note(bool isWritten, const std::filesystem::path& file) {
-    if (!isWritten && !problem_) {
-        problem_ = "could not write " + file.string();
+void ScreenCamera::press(QQuickWindow& window, const std::string& name) {
+    settle();
+    QAccessibleInterface* root = QAccessible::queryAccessibleInterface(&window);
+    QAccessibleInterface* item = root == nullptr ? nullptr : pressableBelow(*root, QString::fromStdString(name));
+    note(item != nullptr, "there is nothing to press that is called " + name);
+    if (item != nullptr) {
+        item->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+}
+
+void ScreenCamera::note(bool isDone, const std::string& problem) {
+    if (!isDone && !problem_) {
+        problem_ = problem;
     }
 }
 

@@ -19,7 +19,10 @@ class ScreenCamera {
     /// as tall as its content, so that everything in it is painted.
     void take(QQuickWindow& window, const std::string& name);
 
-    /// What couldn't be written first; absent if all was.
+    /// Does what a press on the first item with this name does, as assistive technology would.
+    void press(QQuickWindow& window, const std::string& name);
+
+    /// What couldn't be written or pressed first; absent if all was.
     [[nodiscard]] const std::optional<std::string>& problem() const { return problem_; }
 
     /// Lets everything that is due be laid out, loaded and painted.
@@ -28,7 +31,7 @@ class ScreenCamera {
   private:
     void takePicture(QQuickWindow& window, const std::string& fileName);
     void takeText(QQuickWindow& window, const std::string& fileName);
-    void note(bool isWritten, const std::filesystem::path& file);
+    void note(bool isDone, const std::string& problem);
 
     FixedAppearance& appearance_;
     const std::filesystem::path folder_;

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <set>
 
 namespace vantrell {
 namespace {
@@ -34,19 +35,80 @@ std::string newestDayWithRows(const EarningsStore& store) {
     return newest == statuses.rend() ? store.calendar().dayKey(1) : newest->first;
 }
 
-void takeScreen(AppWindows& windows, ScreenCamera& camera, Destination::Value destination,
-                const std::string& name) {
-    windows.root().select(destination);
-    camera.take(windows.mainWindow(), name);
-}
+/// Takes the pictures of one window after the other.
+class Session {
+  public:
+    Session(AppWindows& windows, ScreenCamera& camera, EarningsStore& store)
+        : root_(windows.root()), window_(windows.mainWindow()), camera_(camera), store_(store) {}
 
-void takeDashboard(AppWindows& windows, ScreenCamera& camera, EarningsStore& store) {
-    RootView& root = windows.root();
-    takeScreen(windows, camera, Destination::dashboard, "dashboard");
-    root.dashboard()->selectedDay()->open(newestDayWithRows(store), store.appFilter());
-    camera.take(windows.mainWindow(), "day");
-    root.dashboard()->selectedDay()->dismiss();
-}
+    void takeDashboard() {
+        take(Destination::dashboard, "dashboard");
+        root_.dashboard()->chart()->selectNewest();
+        camera_.take(window_, "chart-hover");
+        root_.dashboard()->chart()->clearSelection();
+        takeDay("day", newestDayWithRows(store_));
+        camera_.press(window_, "All time, ");
+        camera_.take(window_, "breakdown");
+        camera_.press(window_, "All time, ");
+    }
+
+    void takeApps() {
+        take(Destination::apps, "apps");
+        store_.setAppFilter(std::set<std::int64_t>());
+        camera_.take(window_, "apps-none-selected");
+        store_.setAppFilter(std::nullopt);
+        const auto apps = store_.appTable();
+        root_.openApp(apps.empty() ? 0 : apps.front().app.id);
+        camera_.take(window_, "app-detail");
+        root_.goBack();
+    }
+
+    void takeTrends() {
+        take(Destination::byDay, "trends");
+        camera_.press(window_, "Monthly");
+        camera_.take(window_, "trends-months");
+        camera_.press(window_, "Custom");
+        camera_.take(window_, "trends-custom");
+    }
+
+    void takeOthers() {
+        take(Destination::history, "history");
+        root_.payouts()->toggle(0);
+        take(Destination::payouts, "payouts");
+        take(Destination::settings, "settings");
+        takeLog("sync-log");
+    }
+
+    void takeEmpty() {
+        take(Destination::dashboard, "dashboard-empty");
+        takeDay("day-empty", store_.calendar().dayKey(1));
+        take(Destination::apps, "apps-empty");
+        take(Destination::payouts, "payouts-empty");
+        root_.select(Destination::settings);
+        takeLog("sync-log-empty");
+    }
+
+  private:
+    void take(Destination::Value destination, const std::string& name) {
+        root_.select(destination);
+        camera_.take(window_, name);
+    }
+    void takeDay(const std::string& name, const std::string& dayKey) {
+        root_.dashboard()->selectedDay()->open(dayKey, store_.appFilter());
+        camera_.take(window_, name);
+        root_.dashboard()->selectedDay()->dismiss();
+    }
+    void takeLog(const std::string& name) {
+        root_.settings()->openLog();
+        camera_.take(window_, name);
+        root_.settings()->closeLog();
+    }
+
+    RootView& root_;
+    QQuickWindow& window_;
+    ScreenCamera& camera_;
+    EarningsStore& store_;
+};
 
 // States that the trial's run did not lead to.
 
@@ -66,6 +128,12 @@ void takeError(const Studio& studio) {
     studio.camera.take(side.window(), "dashboard-error");
 }
 
+void takeEmpty(const Studio& studio) {
+    BusyHttp http;
+    SideProgram side(studio.surroundings.parts(), http, studio.windowParts(), SideProgram::Key::stored);
+    Session(side.windows(), studio.camera, side.app().store()).takeEmpty();
+}
+
 void takeWelcome(const Studio& studio) {
     BusyHttp http;
     SideProgram side(studio.surroundings.parts(), http, studio.windowParts(), SideProgram::Key::none);
@@ -82,10 +150,15 @@ std::optional<std::string> writeScreens(MyApp& app, TrialSurroundings& surroundi
     AppWindows windows(app, surroundings.parts(), studio.windowParts());
     windows.mainWindow().show();
     try {
-        takeDashboard(windows, camera, app.store());
+        Session session(windows, camera, app.store());
+        session.takeDashboard();
+        session.takeApps();
+        session.takeTrends();
+        session.takeOthers();
         takeSyncing(studio);
         takeError(studio);
         takeWelcome(studio);
+        takeEmpty(studio);
     } catch (const std::exception& error) {
         return error.what();
     }

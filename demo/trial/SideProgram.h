@@ -26,7 +26,7 @@ class SideProgram {
                 const std::optional<std::filesystem::path>& storeFile = std::nullopt);
 
     [[nodiscard]] MyApp& app() { return *app_; }
-    [[nodiscard]] RootView& root() { return windows_->root(); }
+    [[nodiscard]] AppWindows& windows() { return *windows_; }
     [[nodiscard]] QQuickWindow& window() { return windows_->mainWindow(); }
 
   private:

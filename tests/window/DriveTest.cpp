@@ -25,7 +25,7 @@ class Newcomer {
     Newcomer() {
         options_.key = generateKeyPair().privatePEM;
         options_.data = folder_.path();
-        options_.pause = std::chrono::microseconds(0);
+        options_.pause = std::chrono::milliseconds(2);
         surroundings_.emplace(options_);
         app_ = std::move(std::get<std::unique_ptr<MyApp>>(surroundings_->start()));
         app_->engine().removeCredentials();
@@ -54,6 +54,65 @@ class Newcomer {
     std::unique_ptr<MyApp> app_;
     std::unique_ptr<AppWindows> windows_;
 };
+
+
+TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
+    Complaints complaints;
+    Newcomer newcomer;
+    WindowDriver driver(newcomer.window());
+    SyncEngine& engine = newcomer.app().engine();
+    const auto isIdle = [&] { return !engine.isSyncing(); };
+
+    // The key is entered, and the first backfill fills the screens.
+    driver.expectToSee(QAccessible::StaticText, QStringLiteral("Connect"));
+    newcomer.root().welcome()->credentials()->importKey(
+        QUrl::fromLocalFile(QString::fromStdString(newcomer.keyFile().string())));
+    driver.click(QAccessible::EditableText, QStringLiteral("Issuer ID"));
+    driver.type(QStringLiteral("3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15"));
+    driver.click(QAccessible::EditableText, QStringLiteral("Vendor Number"));
+    driver.type(QStringLiteral(" 60419372 "));
+    driver.click(QAccessible::Button, QStringLiteral("Save"));
+    driver.expectToSee(QAccessible::Heading, QStringLiteral("Dashboard"));
+    driver.waitUntil([&] { return engine.isSyncing(); }, "for the backfill");
+    driver.expectToSee(QAccessible::ProgressBar, QStringLiteral("Sync progress"));
+    driver.waitUntil(isIdle, "for the end of the backfill");
+    driver.expectToSee(QAccessible::Button, QStringLiteral("All time, "));
+
+    // A day is opened and closed by keyboard and pointer.
+    driver.key(Qt::Key_3, Qt::ControlModifier);
+    driver.expectToSee(QAccessible::Heading, QStringLiteral("Trends Over Time"));
+    newcomer.root().dashboard()->selectedDay()->open(newcomer.app().store().calendar().dayKey(3), {});
+    driver.key(Qt::Key_1, Qt::ControlModifier);
+    driver.expectToSee(QAccessible::Button, QStringLiteral("Done"));
+    driver.key(Qt::Key_Escape);
+    driver.waitUntil([&] { return newcomer.root().dashboard()->selectedDay()->day() == nullptr; }, "to close");
+
+    // The filter narrows every figure.
+    driver.click(QAccessible::ButtonMenu, QStringLiteral("All Apps"));
+    driver.click(QAccessible::CheckBox, QStringLiteral("All Apps"));
+    driver.expectToSee(QAccessible::Button, QStringLiteral("All time, 0.00"));
+    driver.click(QAccessible::CheckBox, QStringLiteral("All Apps"));
+    driver.key(Qt::Key_Escape);
+
+    // A run is started by key and stopped in its banner.
+    driver.key(Qt::Key_F5);
+    driver.click(QAccessible::Button, QStringLiteral("Stop"));
+    driver.waitUntil(isIdle, "for the run to stop");
+    EXPECT_TRUE(engine.lastRunSummary().starts_with("Stopped")) << engine.lastRunSummary();
+
+    // The figures leave as a file.
+    driver.key(Qt::Key_Comma, Qt::ControlModifier);
+    const auto file = newcomer.folder() / "days.csv";
+    newcomer.root().settings()->exports()->saveExport(
+        QUrl::fromLocalFile(QString::fromStdString(file.string())));
+    driver.waitUntil([&] { return std::filesystem::exists(file); }, "for the export");
+
+    // Without the key the welcome is all that is left.
+    driver.click(QAccessible::Button, QStringLiteral("Remove Key"));
+    driver.expectToSee(QAccessible::StaticText, QStringLiteral("Connect"));
+    EXPECT_FALSE(driver.sees(QAccessible::Heading, QStringLiteral("Settings")));
+    EXPECT_EQ(complaints.take(), "");
+}
 
 }  // namespace
 }  // namespace vantrell
