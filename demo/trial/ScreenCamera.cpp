@@ -58,6 +58,8 @@ ScreenCamera::ScreenCamera(FixedAppearance& appearance, std::filesystem::path fo
     std::error_code error;
     std::filesystem::create_directories(folder_, error);
     QAccessible::setActive(true);
+    // Nothing is pictured half-way.
+    appearance_.setReducesMotion(true);
 }
 
 void ScreenCamera::take(QQuickWindow& window, const std::string& name) {

@@ -10,6 +10,8 @@
 #include <exception>
 #include <set>
 
+#include <QGuiApplication>
+
 namespace vantrell {
 namespace {
 
@@ -43,7 +45,9 @@ class Session {
 
     void takeDashboard() {
         take(Destination::dashboard, "dashboard");
+        // The newest days may not be published yet.
         root_.dashboard()->chart()->selectNewest();
+        root_.dashboard()->chart()->moveSelection(-5);
         camera_.take(window_, "chart-hover");
         root_.dashboard()->chart()->clearSelection();
         takeDay("day", newestDayWithRows(store_));
@@ -73,10 +77,22 @@ class Session {
 
     void takeOthers() {
         take(Destination::history, "history");
+        root_.select(Destination::payouts);
         root_.payouts()->toggle(0);
         take(Destination::payouts, "payouts");
         take(Destination::settings, "settings");
         takeLog("sync-log");
+    }
+
+    void takeAbout() {
+        root_.about()->open();
+        ScreenCamera::settle();
+        for (QWindow* window : QGuiApplication::topLevelWindows()) {
+            if (auto* about = qobject_cast<QQuickWindow*>(window); about != nullptr && about != &window_) {
+                camera_.take(*about, "about");
+            }
+        }
+        root_.about()->close();
     }
 
     void takeEmpty() {
@@ -155,6 +171,7 @@ std::optional<std::string> writeScreens(MyApp& app, TrialSurroundings& surroundi
         session.takeApps();
         session.takeTrends();
         session.takeOthers();
+        session.takeAbout();
         takeSyncing(studio);
         takeError(studio);
         takeWelcome(studio);
