@@ -105,7 +105,8 @@ void ScreenCamera::takeText(QQuickWindow& window, const std::string& fileName) {
 void ScreenCamera::press(QQuickWindow& window, const std::string& name) {
     settle();
     QAccessibleInterface* root = QAccessible::queryAccessibleInterface(&window);
-    QAccessibleInterface* item = root == nullptr ? nullptr : pressableBelow(*root, QString::fromStdString(name));
+    QAccessibleInterface* item =
+        root == nullptr ? nullptr : pressableBelow(*root, QString::fromStdString(name));
     note(item != nullptr, "there is nothing to press that is called " + name);
     if (item != nullptr) {
         item->actionInterface()->doAction(QAccessibleActionInterface::pressAction());

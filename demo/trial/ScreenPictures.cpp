@@ -29,6 +29,8 @@ struct Studio {
     }
 };
 
+constexpr int roundsForIcons = 6;
+
 /// The newest day whose report holds lines.
 std::string newestDayWithRows(const EarningsStore& store) {
     const auto& statuses = store.dailyStatuses();
@@ -57,6 +59,11 @@ class Session {
     }
 
     void takeApps() {
+        // Pictures of apps come over the network.
+        root_.select(Destination::apps);
+        for (int round = 0; round < roundsForIcons; ++round) {
+            ScreenCamera::settle();
+        }
         take(Destination::apps, "apps");
         store_.setAppFilter(std::set<std::int64_t>());
         camera_.take(window_, "apps-none-selected");
@@ -65,14 +72,6 @@ class Session {
         root_.openApp(apps.empty() ? 0 : apps.front().app.id);
         camera_.take(window_, "app-detail");
         root_.goBack();
-    }
-
-    void takeTrends() {
-        take(Destination::byDay, "trends");
-        camera_.press(window_, "Monthly");
-        camera_.take(window_, "trends-months");
-        camera_.press(window_, "Custom");
-        camera_.take(window_, "trends-custom");
     }
 
     void takeOthers() {
@@ -169,7 +168,6 @@ std::optional<std::string> writeScreens(MyApp& app, TrialSurroundings& surroundi
         Session session(windows, camera, app.store());
         session.takeDashboard();
         session.takeApps();
-        session.takeTrends();
         session.takeOthers();
         session.takeAbout();
         takeSyncing(studio);

@@ -11,6 +11,7 @@
 #include <thread>
 
 #include <QProcess>
+
 #include <gtest/gtest.h>
 
 namespace vantrell {
@@ -34,7 +35,8 @@ class Home {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
         environment.insert(QStringLiteral("QT_QUICK_BACKEND"), QStringLiteral("software"));
-        for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+        for (const char* name :
+             {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
             environment.insert(QString::fromLatin1(name), QString::fromStdString(folder_.path().string()));
         }
         program.setProcessEnvironment(environment);

@@ -55,7 +55,6 @@ class Newcomer {
     std::unique_ptr<AppWindows> windows_;
 };
 
-
 TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     Complaints complaints;
     Newcomer newcomer;
@@ -85,7 +84,8 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     driver.key(Qt::Key_1, Qt::ControlModifier);
     driver.expectToSee(QAccessible::Button, QStringLiteral("Done"));
     driver.key(Qt::Key_Escape);
-    driver.waitUntil([&] { return newcomer.root().dashboard()->selectedDay()->day() == nullptr; }, "to close");
+    driver.waitUntil([&] { return newcomer.root().dashboard()->selectedDay()->day() == nullptr; },
+                     "to close");
 
     // The filter narrows every figure.
     driver.click(QAccessible::ButtonMenu, QStringLiteral("All Apps"));
