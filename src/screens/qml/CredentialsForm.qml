@@ -93,6 +93,7 @@ ColumnLayout {
         id: dialog
         title: form.model.importText
         fileMode: FileDialog.OpenFile
+        currentFolder: form.model.fileFolder
         nameFilters: form.model.fileFilters
         onAccepted: form.model.importKey(selectedFile)
     }

@@ -33,6 +33,7 @@ FormSection {
         id: dialog
         title: section.model.exportText
         fileMode: FileDialog.SaveFile
+        acceptLabel: section.model.saveText
         defaultSuffix: section.model.fileSuffix
         nameFilters: section.model.fileFilters
         onAccepted: section.model.save(selectedFile)

@@ -11,10 +11,9 @@ RowLayout {
     Layout.fillWidth: true
     spacing: 10
 
-    PlainText {
+    DataText {
         Layout.fillWidth: true
         Layout.minimumWidth: 90
-        wrapMode: Text.Wrap
         text: row.label
     }
 }

@@ -48,9 +48,8 @@ FocusScope {
             heading: screen.model.privacyTitle
             FormRow {
                 label: screen.model.cloudLabel
-                PlainText {
+                DataText {
                     Layout.maximumWidth: 420
-                    wrapMode: Text.Wrap
                     text: screen.model.cloudStatus
                     color: Theme.tone(screen.model.cloudTone)
                 }

@@ -4,11 +4,13 @@
 #include "platform/TextFile.h"
 #include "platform/Whitespace.h"
 #include "screens/components/ShownText.h"
+#include "screens/settings/UserFolder.h"
 
 #include <utility>
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 namespace vantrell {
 namespace {
@@ -62,6 +64,11 @@ QString CredentialsEditor::fileHint() const {
     return tr(
         "The AuthKey_….p8 file you downloaded when the key was created — Apple offers that download "
         "only once.");
+}
+
+QUrl CredentialsEditor::fileFolder() const {
+    return QUrl::fromLocalFile(
+        userFolder(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)).path());
 }
 
 QStringList CredentialsEditor::fileFilters() const {

@@ -26,6 +26,7 @@ class CredentialsEditor : public QObject {
     Q_PROPERTY(QString vendorNumber READ vendorNumber WRITE setVendorNumber NOTIFY valuesChanged)
     Q_PROPERTY(QString fileTitle READ fileTitle CONSTANT)
     Q_PROPERTY(QString fileHint READ fileHint CONSTANT)
+    Q_PROPERTY(QUrl fileFolder READ fileFolder CONSTANT)
     Q_PROPERTY(QStringList fileFilters READ fileFilters CONSTANT)
     Q_PROPERTY(QString importText READ importText NOTIFY valuesChanged)
     Q_PROPERTY(bool hasKey READ hasKey NOTIFY valuesChanged)
@@ -58,6 +59,8 @@ class CredentialsEditor : public QObject {
 
     [[nodiscard]] QString fileTitle() const { return tr("Private Key"); }
     [[nodiscard]] QString fileHint() const;
+    /// Where browsers put what was downloaded.
+    [[nodiscard]] QUrl fileFolder() const;
     [[nodiscard]] QStringList fileFilters() const;
     [[nodiscard]] QString importText() const;
     [[nodiscard]] bool hasKey() const { return !values_.privateKeyPEM.empty(); }

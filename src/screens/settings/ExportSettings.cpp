@@ -2,24 +2,15 @@
 
 #include "platform/AtomicFile.h"
 #include "screens/components/ShownText.h"
+#include "screens/settings/UserFolder.h"
 
 #include <tuple>
 #include <utility>
 
-#include <QDir>
 #include <QFile>
 #include <QStandardPaths>
 
 namespace vantrell {
-namespace {
-
-// Where the desktop keeps documents; not every one has such a folder.
-QDir documents() {
-    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    return folder.exists() ? folder : QDir::home();
-}
-
-}  // namespace
 
 ExportSettings::ExportSettings(const ScreenParts& parts, QObject* parent)
     : QObject(parent), store_(parts.store) {
@@ -55,7 +46,8 @@ QString ExportSettings::caption() const {
 QUrl ExportSettings::prepare() {
     text_ = vantrell::exportText(store_, kind_);
     const QString name = fromUtf8(exportFileName(kind_)) + QLatin1Char('.') + fileSuffix();
-    return QUrl::fromLocalFile(documents().filePath(name));
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QUrl::fromLocalFile(userFolder(documents).filePath(name));
 }
 
 void ExportSettings::save(const QUrl& file) {

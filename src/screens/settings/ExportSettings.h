@@ -23,6 +23,7 @@ class ExportSettings : public QObject {
     Q_PROPERTY(QStringList kinds READ kinds CONSTANT)
     Q_PROPERTY(int chosenKind READ chosenKind NOTIFY chosenKindChanged)
     Q_PROPERTY(QString exportText READ exportText CONSTANT)
+    Q_PROPERTY(QString saveText READ saveText CONSTANT)
     Q_PROPERTY(QString fileSuffix READ fileSuffix CONSTANT)
     Q_PROPERTY(QStringList fileFilters READ fileFilters CONSTANT)
     Q_PROPERTY(QString caption READ caption CONSTANT)
@@ -39,6 +40,7 @@ class ExportSettings : public QObject {
     /// `place` is that of one of `kinds`; others change nothing.
     Q_INVOKABLE void chooseKind(int place);
     [[nodiscard]] QString exportText() const { return tr("Export CSV…"); }
+    [[nodiscard]] QString saveText() const { return tr("Save"); }
     [[nodiscard]] QString fileSuffix() const { return QStringLiteral("csv"); }
     [[nodiscard]] QStringList fileFilters() const { return {tr("Comma-separated values (*.csv)")}; }
     [[nodiscard]] QString caption() const;
