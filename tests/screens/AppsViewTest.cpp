@@ -62,12 +62,12 @@ From finance reports — what actually settled, attributed by Apple Identifier.
 }
 
 TEST_F(AppsViewTest, BandsEverySecondAppWithItsProducts) {
-    const char* expected[] = {"app ( ", "product", "product )", "banded app ( )", "app ( )"};
+    const char* expected[] = {"app (", "product", "product )", "banded app ( )", "app ( )"};
     for (std::size_t place = 0; place < std::size(expected); ++place) {
         const auto row = apps.rows()->at<WindowsRow>(place + 2);
         const std::string shown = std::string(row.isBanded ? "banded " : "") +
-                                  (row.isProduct ? "product" : "app") + (row.startsEntry ? " ( " : "") +
-                                  (row.endsEntry ? row.startsEntry ? ")" : " )" : "");
+                                  (row.isProduct ? "product" : "app") + (row.startsEntry ? " (" : "") +
+                                  (row.endsEntry ? " )" : "");
         EXPECT_EQ(shown, expected[place]);
     }
 }
