@@ -27,6 +27,7 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
     connect(this, &RootView::selectionChanged, this, &RootView::shownScreenChanged);
     connect(this, &RootView::shownScreenChanged, this, &RootView::screenTitleChanged);
     connect(&apps_, &AppsView::opened, this, &RootView::openApp);
+    connect(&settings_, &SettingsView::isLogShownChanged, this, &RootView::screenTitleChanged);
     connect(&parts.engine, &SyncEngine::isSyncingChanged, this, &RootView::footerChanged);
     connect(&parts.engine, &SyncEngine::progressTextChanged, this, &RootView::footerChanged);
     connect(&parts.engine, &SyncEngine::lastRunSummaryChanged, this, &RootView::footerChanged);
@@ -70,8 +71,11 @@ void RootView::selectNext(int steps) {
 }
 
 QString RootView::screenTitle() const {
-    return appDetail_ != nullptr ? appDetail_->title()
-                                 : destinationItems()[static_cast<std::size_t>(selection())].title;
+    if (appDetail_ != nullptr) {
+        return appDetail_->title();
+    }
+    return isLogShown() ? settings_.logTitle()
+                        : destinationItems()[static_cast<std::size_t>(selection())].title;
 }
 
 void RootView::openApp(std::int64_t appID) {
@@ -81,6 +85,7 @@ void RootView::openApp(std::int64_t appID) {
 }
 
 void RootView::goBack() {
+    settings_.closeLog();
     if (appDetail_ != nullptr) {
         showApp(nullptr);
     }

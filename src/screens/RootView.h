@@ -39,6 +39,7 @@ class RootView : public QObject {
     Q_PROPERTY(vantrell::Screen* shownScreen READ shownScreen NOTIFY shownScreenChanged)
     Q_PROPERTY(QString screenTitle READ screenTitle NOTIFY screenTitleChanged)
     Q_PROPERTY(vantrell::AppDetailView* appDetail READ appDetail NOTIFY appDetailChanged)
+    Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY screenTitleChanged)
     Q_PROPERTY(QString backText READ backText CONSTANT)
     Q_PROPERTY(QString backSymbol READ backSymbol CONSTANT)
     Q_PROPERTY(QString sidebarName READ sidebarName CONSTANT)
@@ -78,7 +79,9 @@ class RootView : public QObject {
     /// Lies over the selected screen until another is selected; null where no app is open.
     [[nodiscard]] AppDetailView* appDetail() const { return appDetail_.get(); }
     void openApp(std::int64_t appID);
-    /// Does nothing where no app is open.
+    /// An app or the sync log is open.
+    [[nodiscard]] bool canGoBack() const { return appDetail_ != nullptr || isLogShown(); }
+    /// Does nothing where neither is open.
     Q_INVOKABLE void goBack();
     [[nodiscard]] QString backText() const { return tr("Back"); }
     [[nodiscard]] QString backSymbol() const;
@@ -115,6 +118,9 @@ class RootView : public QObject {
 
   private:
     void showApp(std::unique_ptr<AppDetailView> detail);
+    [[nodiscard]] bool isLogShown() const {
+        return selection() == Destination::settings && settings_.isLogShown();
+    }
 
     ScreenParts parts_;
     DriveLoop driveLoop_;

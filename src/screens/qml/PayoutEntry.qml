@@ -8,9 +8,10 @@ FocusScope {
     required property payoutRow row
     required property int index
     required property PayoutsView model
+    property real rowWidth: 0
     readonly property bool last: ListView.view !== null && index === ListView.view.count - 1
 
-    width: ListView.view !== null ? ListView.view.rowWidth : 0
+    width: entry.rowWidth
     height: header.y + header.height + (row.isExpanded ? detail.height + 12 : 0) + 4
     onActiveFocusChanged: if (entry.activeFocus) entry.ListView.view.currentIndex = entry.index
 

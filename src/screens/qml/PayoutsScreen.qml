@@ -50,6 +50,9 @@ Item {
             leftPadding: 4
             text: screen.model.footer
         }
-        delegate: PayoutEntry { model: screen.model }
+        delegate: PayoutEntry {
+            model: screen.model
+            rowWidth: list.rowWidth
+        }
     }
 }

@@ -66,8 +66,9 @@ FocusScope {
     Loader {
         anchors.fill: parent
         active: screen.model.isLogShown
+        onLoaded: (item as Item).forceActiveFocus()
         sourceComponent: SyncLogScreen {
-            model: screen.model.log
+            log: screen.model.log
             onBack: screen.model.closeLog()
         }
     }

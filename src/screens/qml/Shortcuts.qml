@@ -26,7 +26,7 @@ Item {
     }
     Shortcut {
         sequences: [StandardKey.Back]
-        enabled: keys.root.appDetail !== null
+        enabled: keys.root.canGoBack
         onActivated: keys.root.goBack()
     }
     Shortcut {

@@ -17,7 +17,7 @@ Rectangle {
         anchors.rightMargin: 20
         spacing: 8
         PushButton {
-            visible: toolbar.root.appDetail !== null
+            visible: toolbar.root.canGoBack
             text: toolbar.root.backText
             symbol: toolbar.root.backSymbol
             onClicked: toolbar.root.goBack()

@@ -58,6 +58,7 @@ class SettingsView : public Screen {
 
     /// The log lies over the settings until the user goes back.
     [[nodiscard]] SyncLogView* log() { return &log_; }
+    [[nodiscard]] QString logTitle() const { return log_.title(); }
     [[nodiscard]] bool isLogShown() const { return isLogShown_; }
     Q_INVOKABLE void openLog() { showLog(true); }
     Q_INVOKABLE void closeLog() { showLog(false); }

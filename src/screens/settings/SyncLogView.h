@@ -12,14 +12,12 @@ class SyncLogView : public Screen {
     QML_ELEMENT
     QML_UNCREATABLE("made by its screen")
     Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QString backText READ backText CONSTANT)
     Q_PROPERTY(vantrell::RowList* rows READ rows CONSTANT)
 
   public:
     explicit SyncLogView(const ScreenParts& parts, QObject* parent = nullptr);
 
     [[nodiscard]] QString title() const { return tr("Sync Log"); }
-    [[nodiscard]] QString backText() const { return tr("Settings"); }
     /// At most 500, newest first.
     [[nodiscard]] RowList* rows() { return &rows_; }
 
