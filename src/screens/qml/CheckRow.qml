@@ -23,7 +23,8 @@ T.AbstractButton {
     contentItem: Item {
         SymbolItem {
             id: mark
-            x: 8
+            anchors.left: parent.left
+            anchors.leftMargin: 8
             anchors.verticalCenter: parent.verticalCenter
             visible: row.isOn
             name: "checkmark"

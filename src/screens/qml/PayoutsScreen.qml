@@ -37,6 +37,7 @@ Item {
         Accessible.role: Accessible.List
         Accessible.name: screen.model.listTitle
         header: PlainText {
+            width: list.rowWidth
             bottomPadding: 8
             leftPadding: 4
             text: screen.model.listTitle

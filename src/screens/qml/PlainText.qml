@@ -9,6 +9,8 @@ Text {
     property bool spoken: true
 
     textFormat: Text.PlainText
+    // By the window's direction and not by that of the text, so that columns stay aligned.
+    horizontalAlignment: Text.AlignLeft
     font.family: Theme.family
     font.pixelSize: Theme.body
     color: Theme.primary

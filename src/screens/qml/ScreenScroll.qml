@@ -40,7 +40,8 @@ Flickable {
 
     Column {
         id: column
-        x: scroll.centered ? (scroll.width - width) / 2 : 20
+        x: scroll.centered ? (scroll.width - width) / 2
+            : scroll.LayoutMirroring.enabled ? scroll.width - width - 20 : 20
         y: 20
         width: Math.min(scroll.width - 40, scroll.maximumWidth)
         spacing: scroll.spacing

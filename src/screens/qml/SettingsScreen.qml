@@ -12,24 +12,25 @@ FocusScope {
         anchors.fill: parent
         visible: !screen.model.isLogShown
         spacing: 28
+        maximumWidth: 720
 
         FormSection {
-            width: Math.min(parent.width, 720)
+            width: parent.width
             heading: screen.model.credentialsTitle
             footer: screen.model.credentialsFooter
             CredentialsForm { model: screen.model.credentials }
         }
         DisplaySection {
-            width: Math.min(parent.width, 720)
+            width: parent.width
             model: screen.model.display
         }
         SyncSection {
-            width: Math.min(parent.width, 720)
+            width: parent.width
             model: screen.model.sync
             onLogPressed: screen.model.openLog()
         }
         FormSection {
-            width: Math.min(parent.width, 720)
+            width: parent.width
             heading: screen.model.updatesTitle
             FormRow {
                 label: screen.model.versionLabel
@@ -40,11 +41,11 @@ FocusScope {
             }
         }
         ExportSection {
-            width: Math.min(parent.width, 720)
+            width: parent.width
             model: screen.model.exports
         }
         FormSection {
-            width: Math.min(parent.width, 720)
+            width: parent.width
             heading: screen.model.privacyTitle
             FormRow {
                 label: screen.model.cloudLabel

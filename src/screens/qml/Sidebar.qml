@@ -49,7 +49,8 @@ Rectangle {
             contentItem: Item {
                 SymbolItem {
                     id: symbol
-                    x: 10
+                    anchors.left: parent.left
+                    anchors.leftMargin: 10
                     anchors.verticalCenter: parent.verticalCenter
                     width: 18
                     height: 18
