@@ -32,7 +32,7 @@ class AppsWindow : public ::testing::Test {
 TEST_F(AppsWindow, OpensAnAppAndComesBackByPointerAndByKey) {
     driver.click(QAccessible::StaticText, row);
     driver.waitUntil([this] { return title() == "Notebook"; }, "the app is open");
-    driver.expectToSee(QAccessible::Heading, QStringLiteral("Top countries"));
+    driver.expectToSee(QAccessible::Heading, QStringLiteral("By year"));
     driver.click(QAccessible::Button, QStringLiteral("Back"));
     driver.waitUntil([this] { return title() == "Apps Overview"; }, "the apps are back");
     driver.key(Qt::Key_Down);

@@ -10,7 +10,7 @@ Popover {
     signal copied()
 
     padding: 6
-    contentItem: T.AbstractButton {
+    contentItem: T.MenuItem {
         id: item
         implicitWidth: label.implicitWidth + 44
         implicitHeight: 30
