@@ -13,29 +13,35 @@ Item {
     property real inkOpacity: 1
 
     width: table.columnWidth
-    implicitHeight: figure.implicitHeight
+    implicitHeight: content.implicitHeight
     anchors.verticalCenter: parent !== null ? parent.verticalCenter : undefined
 
-    PlainText {
+    Loader {
+        id: content
         anchors.right: parent.right
-        visible: cell.isEmpty
-        text: cell.money.text
-        font.pixelSize: Theme.callout
-        color: Theme.tertiary
-        opacity: cell.inkOpacity
-        Accessible.name: cell.money.spoken
+        sourceComponent: cell.isEmpty ? none : figure
     }
-    MoneyText {
+    Component {
+        id: none
+        PlainText {
+            text: cell.money.text
+            font.pixelSize: Theme.callout
+            color: Theme.tertiary
+            opacity: cell.inkOpacity
+            Accessible.name: cell.money.spoken
+        }
+    }
+    Component {
         id: figure
-        anchors.right: parent.right
-        visible: !cell.isEmpty
-        width: Math.min(implicitWidth, cell.width)
-        money: cell.money
-        inkOpacity: cell.inkOpacity
-        font.pixelSize: Theme.callout
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 8
-        focusPolicy: cell.tabStop ? Qt.TabFocus : Qt.NoFocus
-        onActiveFocusChanged: if (figure.activeFocus) cell.table.reveal(cell.column)
+        MoneyText {
+            width: Math.min(implicitWidth, cell.width)
+            money: cell.money
+            inkOpacity: cell.inkOpacity
+            font.pixelSize: Theme.callout
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
+            focusPolicy: cell.tabStop ? Qt.TabFocus : Qt.NoFocus
+            onActiveFocusChanged: if (activeFocus) cell.table.reveal(cell.column)
+        }
     }
 }

@@ -36,15 +36,18 @@ T.AbstractButton {
         font: figure.font
         opacity: figure.inkOpacity
     }
-    SymbolItem {
+    Loader {
         id: mark
-        visible: figure.money.warning !== ""
+        active: figure.money.warning !== ""
+        visible: active
         anchors.verticalCenter: parent.verticalCenter
         anchors.right: parent.right
         width: Theme.smallest
         height: Theme.smallest
-        name: "exclamationmark.triangle.fill"
-        color: Theme.warning
+        sourceComponent: SymbolItem {
+            name: "exclamationmark.triangle.fill"
+            color: Theme.warning
+        }
     }
     background: Rectangle {
         radius: 5
