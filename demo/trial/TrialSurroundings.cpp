@@ -53,6 +53,8 @@ TrialSurroundings::TrialSurroundings(const TrialOptions& options)
     KeyPair keys = options.key ? KeyPair{*options.key, publicHalf(*options.key)} : generateKeyPair();
     CredentialsKeychain(secrets_).store({issuerID, keyID, std::move(keys.privatePEM), vendorNumber});
     if (!options.service) {
+        // The built-in service has another port each time, where the icons of the last time are no more.
+        defaults_.remove("appIconURLs");
         account_ = std::make_unique<sample::SampleAccount>();
         service_ = std::make_unique<sample::SampleService>(
             *account_, sample::SampleAccess{issuerID, keyID, vendorNumber, std::move(keys.publicPEM)},

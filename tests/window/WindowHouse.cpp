@@ -18,7 +18,7 @@ WindowHouse::WindowHouse(const LocaleNames& locale) : locale_(locale) {
     defaults_.setDate("lastAutoSyncAt", clock_.now());
     CredentialsKeychain(secrets_).store({"issuer", "key", "not a key", "vendor"});
     http_.respond = [](const HttpRequest&) { return HttpFailure{"nobody is there"}; };
-    const MyAppParts parts{http_, clock_, localTime_, locale_, secrets_, defaults_};
+    const MyAppParts parts{http_, clock_, worker_, localTime_, locale_, secrets_, defaults_};
     auto begun = MyApp::start(parts, folder_.path() / "vantrell.sqlite",
                               {origins_.reportService, origins_.rateService, {}});
     app_ = std::move(std::get<std::unique_ptr<MyApp>>(begun));

@@ -3,6 +3,7 @@
 #include "core/AppWindows.h"
 #include "platform/Appearance.h"
 #include "platform/MemorySecretStore.h"
+#include "platform/Worker.h"
 #include "testing/FixedLocalTime.h"
 #include "testing/ManualClock.h"
 #include "testing/MemoryDefaults.h"
@@ -35,6 +36,7 @@ class WindowHouse {
   private:
     TemporaryFolder folder_;
     ManualClock clock_;
+    ImmediateWorker worker_;
     FixedLocalTime localTime_{"Europe/Berlin"};
     Locale locale_;
     ScriptedHttp http_;
