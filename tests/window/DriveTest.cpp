@@ -26,7 +26,7 @@ class Newcomer {
     Newcomer() {
         options_.key = generateKeyPair().privatePEM;
         options_.data = folder_.path();
-        options_.pause = std::chrono::milliseconds(10);
+        options_.pause = std::chrono::milliseconds(4);
         surroundings_.emplace(options_);
         app_ = std::move(std::get<std::unique_ptr<MyApp>>(surroundings_->start()));
         app_->engine().removeCredentials();
@@ -76,6 +76,7 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     driver.click(QAccessible::Button, QStringLiteral("Save"));
     driver.expectToSee(QAccessible::Heading, QStringLiteral("Dashboard"));
     driver.expectToSee(QAccessible::ProgressBar, QStringLiteral("Sync progress"));
+    driver.waitUntil([&] { return engine.hasOkDailyReport(); }, "for the first day");
     driver.click(QAccessible::Button, QStringLiteral("Stop"));
     driver.waitUntil(isIdle, "for the run to stop");
 
@@ -101,9 +102,12 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     driver.expectToSee(QAccessible::Button, QStringLiteral("All time, 0.00"));
     driver.click(QAccessible::CheckBox, QStringLiteral("All Apps"));
     driver.key(Qt::Key_Escape);
+    driver.waitUntil([&] { return !driver.sees(QAccessible::CheckBox, QStringLiteral("All Apps")); },
+                     "for the menu to close");
 
     // The figures leave as a file.
     driver.key(Qt::Key_Comma, Qt::ControlModifier);
+    driver.expectToSee(QAccessible::Heading, QStringLiteral("Settings"));
     const auto file = newcomer.folder() / "days.csv";
     std::ignore = newcomer.root().settings()->exports()->prepare();
     newcomer.root().settings()->exports()->save(QUrl::fromLocalFile(QString::fromStdString(file.string())));

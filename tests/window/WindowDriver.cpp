@@ -9,7 +9,7 @@
 namespace vantrell::testing {
 namespace {
 
-constexpr std::chrono::milliseconds patience = std::chrono::seconds(10);
+constexpr std::chrono::milliseconds patience = std::chrono::seconds(40);
 
 QAccessibleInterface* findBelow(QAccessibleInterface& item, QAccessible::Role role, const QString& name) {
     if (item.state().invisible) {

@@ -3,18 +3,17 @@ import QtQuick.Templates as T
 import Vantrell
 
 // A line of a menu that is on or off. The model decides what it is after it was pressed.
-T.AbstractButton {
+T.CheckDelegate {
     id: row
 
     property bool isOn: false
     signal toggledTo(bool isOn)
 
     implicitHeight: 30
+    checked: row.isOn
+    nextCheckState: () => row.isOn ? Qt.Checked : Qt.Unchecked
     focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.CheckBox
     Accessible.name: row.text
-    Accessible.checkable: true
-    Accessible.checked: row.isOn
     Accessible.onToggleAction: row.toggledTo(!row.isOn)
     Accessible.onPressAction: row.toggledTo(!row.isOn)
     onClicked: row.toggledTo(!row.isOn)

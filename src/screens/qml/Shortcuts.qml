@@ -30,7 +30,7 @@ Item {
         onActivated: keys.root.goBack()
     }
     Shortcut {
-        sequence: "Ctrl+,"
+        sequences: [StandardKey.Preferences, "Ctrl+,"]
         enabled: keys.root.hasCredentials
         onActivated: keys.root.showSettings()
     }
