@@ -49,6 +49,7 @@ void AppsView::takeSnapshots() {
 
 void AppsView::loadIcons() {
     std::vector<std::int64_t> apps;
+    apps.reserve(entries_.size());
     for (const AppTableEntry& entry : entries_) {
         apps.push_back(entry.app.id);
     }

@@ -32,6 +32,7 @@ Grid {
                     color: Theme.secondary
                 }
                 MoneyText {
+                    anchors.left: parent.left
                     width: Math.min(parent.width, implicitWidth)
                     money: tile.row.money
                     font.pixelSize: Theme.title2
