@@ -74,6 +74,17 @@ class Session {
         root_.goBack();
     }
 
+    void takeTrends() {
+        constexpr int months = 2;
+        constexpr int custom = 3;
+        take(Destination::byDay, "trends");
+        root_.byDay()->selectGranularity(months);
+        camera_.take(window_, "trends-months");
+        root_.byDay()->selectGranularity(0);
+        root_.byDay()->selectWindow(custom);
+        camera_.take(window_, "trends-custom");
+    }
+
     void takeOthers() {
         take(Destination::history, "history");
         root_.select(Destination::payouts);
@@ -168,6 +179,7 @@ std::optional<std::string> writeScreens(MyApp& app, TrialSurroundings& surroundi
         Session session(windows, camera, app.store());
         session.takeDashboard();
         session.takeApps();
+        session.takeTrends();
         session.takeOthers();
         session.takeAbout();
         takeSyncing(studio);

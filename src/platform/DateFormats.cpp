@@ -85,6 +85,7 @@ DateFormats::DateFormats(const icu::Locale& locale)
       monthYear(DateForm::ofParts(locale, "yMMMM")),
       shortMonth(DateForm::ofPattern(locale, "LLL")),
       shortMonthYear(DateForm::ofPattern(locale, "LLL y")),
+      shortWeekday(DateForm::ofPattern(locale, "cccccc")),
       range(rangeOf(locale, "yMMMd")),
       firstWeekday(startOfWeek(locale)) {}
 

@@ -44,6 +44,7 @@ struct DateFormats {
     DateForm monthYear;
     DateForm shortMonth;
     DateForm shortMonthYear;
+    DateForm shortWeekday;
     std::unique_ptr<const icu::DateIntervalFormat> range;
     std::chrono::weekday firstWeekday;
 };

@@ -165,6 +165,10 @@ std::string Locale::shortMonthYear(CivilDate day) const {
     return formats_->dates.shortMonthYear.text(day);
 }
 
+std::string Locale::shortWeekday(CivilDate day) const {
+    return formats_->dates.shortWeekday.text(day);
+}
+
 std::chrono::weekday Locale::firstWeekday() const {
     return formats_->dates.firstWeekday;
 }

@@ -85,6 +85,8 @@ class Locale {
     [[nodiscard]] std::string shortMonth(CivilDate day) const;
     /// "Mar 2026": in every locale the short month, a blank and the year without grouping.
     [[nodiscard]] std::string shortMonthYear(CivilDate day) const;
+    /// The weekday alone as the head of a narrow column, such as "Tu".
+    [[nodiscard]] std::string shortWeekday(CivilDate day) const;
     /// Both days as by `date`, what they share written once, such as "Mar 2 – 8, 2026"; with the blanks that
     /// the locale puts around the dash.
     [[nodiscard]] std::string dayRange(CivilDate first, CivilDate last) const;

@@ -21,6 +21,7 @@ bool takesFocus(RowKind::Value kind) {
         case RowKind::PayoutTitles:
             return false;
         case RowKind::Period:
+        case RowKind::Day:
         case RowKind::Product:
         case RowKind::Country:
         case RowKind::Windows:
@@ -33,7 +34,7 @@ bool takesFocus(RowKind::Value kind) {
 
 // The rows of tables stand close to each other.
 bool isDivided(RowKind::Value kind) {
-    return kind == RowKind::Period || kind == RowKind::Product;
+    return kind == RowKind::Period || kind == RowKind::Day || kind == RowKind::Product;
 }
 
 bool isOneKind(const BlockRow& left, const BlockRow& right) {

@@ -16,6 +16,7 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
       breakdown_(parts),
       dashboard_(parts),
       apps_(parts),
+      byDay_(parts),
       history_(parts),
       payouts_(parts),
       settings_(parts),
@@ -42,10 +43,11 @@ Screen* RootView::shownScreen() {
     }
     switch (selection()) {
         case Destination::dashboard:
-        case Destination::byDay:
             return &dashboard_;
         case Destination::apps:
             return &apps_;
+        case Destination::byDay:
+            return &byDay_;
         case Destination::history:
             return &history_;
         case Destination::payouts:

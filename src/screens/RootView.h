@@ -4,6 +4,7 @@
 #include "screens/AboutView.h"
 #include "screens/AppDetailView.h"
 #include "screens/AppsView.h"
+#include "screens/ByDayView.h"
 #include "screens/DashboardView.h"
 #include "screens/Destination.h"
 #include "screens/DriveLoop.h"
@@ -51,6 +52,7 @@ class RootView : public QObject {
     Q_PROPERTY(vantrell::CurrencyBreakdown* breakdown READ breakdown CONSTANT)
     Q_PROPERTY(vantrell::DashboardView* dashboard READ dashboard CONSTANT)
     Q_PROPERTY(vantrell::AppsView* apps READ apps CONSTANT)
+    Q_PROPERTY(vantrell::ByDayView* byDay READ byDay CONSTANT)
     Q_PROPERTY(vantrell::HistoryView* history READ history CONSTANT)
     Q_PROPERTY(vantrell::PayoutsView* payouts READ payouts CONSTANT)
     Q_PROPERTY(vantrell::SettingsView* settings READ settings CONSTANT)
@@ -96,6 +98,7 @@ class RootView : public QObject {
     [[nodiscard]] CurrencyBreakdown* breakdown() { return &breakdown_; }
     [[nodiscard]] DashboardView* dashboard() { return &dashboard_; }
     [[nodiscard]] AppsView* apps() { return &apps_; }
+    [[nodiscard]] ByDayView* byDay() { return &byDay_; }
     [[nodiscard]] HistoryView* history() { return &history_; }
     [[nodiscard]] PayoutsView* payouts() { return &payouts_; }
     [[nodiscard]] SettingsView* settings() { return &settings_; }
@@ -131,6 +134,7 @@ class RootView : public QObject {
     CurrencyBreakdown breakdown_;
     DashboardView dashboard_;
     AppsView apps_;
+    ByDayView byDay_;
     HistoryView history_;
     PayoutsView payouts_;
     SettingsView settings_;

@@ -22,6 +22,7 @@ class RowKind : public QObject {
         YearTitles,    ///< ColumnTitles
         PayoutTitles,  ///< ColumnTitles
         Period,        ///< PeriodRowView
+        Day,           ///< DayRowView
         Product,       ///< ProductRowView
         Country,       ///< CountryRow
         Windows,       ///< WindowsRow

@@ -159,14 +159,14 @@ TEST(Locale, DaysAreWrittenWithAsMuchAsThereIsRoomFor) {
         std::vector<std::string> expected;
     } cases[] = {
         {"C",
-         {"Tuesday, Mar 3, 2026", "Tue, Mar 3, 2026", "Mar 3, 2026", "Mar 3", "Mar", "Mar 2026",
+         {"Tuesday, Mar 3, 2026", "Tue, Mar 3, 2026", "Mar 3, 2026", "Mar 3", "Mar", "Mar 2026", "Tu",
           "Mar 3, 10:02:05\u202FAM"}},
         {"de_DE",
-         {"Dienstag, 3. März 2026", "Di., 3. März 2026", "3. März 2026", "3. März", "Mär", "Mär 2026",
+         {"Dienstag, 3. März 2026", "Di., 3. März 2026", "3. März 2026", "3. März", "Mär", "Mär 2026", "Di.",
           "3. März, 10:02:05"}},
         {"fa_IR",
          {"سه‌شنبه ۳ مارس ۲۰۲۶", "سه‌شنبه ۳ مارس ۲۰۲۶", "۳ مارس ۲۰۲۶",
-          "۳ مارس", "مارس", "مارس ۲۰۲۶", "۳ مارس، ۱۰:۰۲:۰۵"}},
+          "۳ مارس", "مارس", "مارس ۲۰۲۶", "۳ش", "۳ مارس، ۱۰:۰۲:۰۵"}},
     };
     const auto day = 2026y / 3 / 3;
     const Instant morning = std::chrono::sys_days(day) + 9h + 2min + 5s;
@@ -178,6 +178,7 @@ TEST(Locale, DaysAreWrittenWithAsMuchAsThereIsRoomFor) {
                                                 locale.monthDay(day),
                                                 locale.shortMonth(day),
                                                 locale.shortMonthYear(day),
+                                                locale.shortWeekday(day),
                                                 locale.logTime(morning, *TimeZone::named("Europe/Berlin"))};
         EXPECT_EQ(texts, row.expected) << row.locale;
     }

@@ -92,15 +92,20 @@ TEST(ChartMarks, StackBarsAwayFromZero) {
     EXPECT_THAT(marks.rules, ::testing::ElementsAre(87.5));
 }
 
-TEST(ChartMarks, BeginAndEndAtPixelsAndKeepApart) {
-    const std::vector<ChartColumn> columns(73, {date(2026, 3, 1), true, {{33.3, ChartInk::proceeds, {}}}});
-    for (const double pixel : {1.0, 0.8, 0.5}) {
-        const auto bars = marksOf(columns, pixel).bars;
-        for (std::size_t number = 1; number < bars.size(); ++number) {
-            const double left = bars[number].area.left() / pixel;
-            EXPECT_NEAR(left, std::round(left), 1e-6);
-            EXPECT_EQ(bars[number].area.width(), bars[0].area.width());
-            EXPECT_GE(bars[number].area.left(), bars[number - 1].area.right() - 1e-6);
+TEST(ChartMarks, BeginAndEndAtPixelsWithoutOverlap) {
+    for (const std::size_t count : {1U, 30U, 73U}) {
+        const std::vector<ChartColumn> columns(count,
+                                               {date(2026, 3, 1), true, {{33.3, ChartInk::proceeds, {}}}});
+        for (const double pixel : {1.0, 0.8, 0.5}) {
+            double free = 0;
+            for (const BarMark& bar : marksOf(columns, pixel).bars) {
+                for (const double edge : {bar.area.left(), bar.area.right(), bar.area.top()}) {
+                    EXPECT_NEAR(edge / pixel, std::round(edge / pixel), 1e-6) << count;
+                }
+                EXPECT_GE(bar.area.left(), free - 1e-6);
+                EXPECT_GE(bar.area.width(), pixel - 1e-6);
+                free = bar.area.right();
+            }
         }
     }
 }

@@ -146,10 +146,15 @@ std::vector<ChartAmount> Chart::refundLine(double refunds) const {
 ChartTableRow Chart::tableRow(std::size_t column) const {
     const ChartAnnotation annotation = annotationOf(column);
     const Sums sums = sumsOf(column);
+    const bool isFetched = content_.columns[column].isFetched;
+    const ChartAmount proceeds = isFetched ? chartAmount(sums.proceeds, proceedsLabel()) : ChartAmount();
+    const auto refunds = refundLine(sums.refunds);
     return {.title = annotation.title,
             .status = annotation.status,
-            .proceeds = content_.columns[column].isFetched ? chartAmount(sums.proceeds).amount : QString(),
-            .refunds = sums.refunds < 0 ? chartAmount(sums.refunds).amount : QString(),
+            .proceeds = proceeds.amount,
+            .spokenProceeds = proceeds.spoken,
+            .refunds = refunds.empty() ? QString() : refunds.front().amount,
+            .spokenRefunds = refunds.empty() ? QString() : refunds.front().spoken,
             .spoken = annotation.spoken()};
 }
 

@@ -56,15 +56,19 @@ struct ChartTableRow {
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(QString status MEMBER status)
     Q_PROPERTY(QString proceeds MEMBER proceeds)
+    Q_PROPERTY(QString spokenProceeds MEMBER spokenProceeds)
     Q_PROPERTY(QString refunds MEMBER refunds)
+    Q_PROPERTY(QString spokenRefunds MEMBER spokenRefunds)
     Q_PROPERTY(QString spoken MEMBER spoken)
 
   public:
     QString title;
     QString status;
     QString proceeds;  ///< empty if nothing was fetched
-    QString refunds;   ///< empty if there are none
-    QString spoken;
+    QString spokenProceeds;
+    QString refunds;  ///< empty if there are none
+    QString spokenRefunds;
+    QString spoken;  ///< the whole row
     bool operator==(const ChartTableRow&) const = default;
 };
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double barRadius = 3;
 // On narrower bars round corners can't be seen, and cost most of the time.
-constexpr double leastRoundedWidth = 3;
+constexpr double leastRoundedWidth = 5;
 constexpr double ruleWidth = 1.5;
 constexpr double labelGap = 8;
 constexpr double tickGap = 24;

@@ -8,8 +8,9 @@ namespace {
 
 constexpr double barShare = 0.72;
 constexpr double widestBar = 36;
-// Below, every bar leaves one pixel free, so that they can be told apart.
-constexpr double narrowSlot = 5;
+// Of so few pixels, all belong to the bar: gaps that are now one and now two pixels wide would be all that
+// one sees.
+constexpr double narrowSlot = 3.5;
 
 class MarkMaker {
   public:
@@ -34,13 +35,12 @@ class MarkMaker {
   private:
     // However little it is, what moved money is seen.
     [[nodiscard]] QRectF area(std::size_t number, double from, double to) const {
-        const double width = frame_.barWidth();
-        const double left = frame_.snapped(frame_.center(number) - width / 2);
+        const auto [left, right] = frame_.barEnds(number);
         const double start = y(from);
         const double end = y(to);
         const bool isUp = to >= from;
         const double height = std::max(std::abs(end - start), frame_.pixel);
-        return {left, isUp ? start - height : start, width, height};
+        return {left, isUp ? start - height : start, right - left, height};
     }
 
     const ChartContent& content_;
@@ -61,10 +61,21 @@ std::optional<std::size_t> ChartFrame::columnAt(double x) const {
     return std::min(static_cast<std::size_t>(share * static_cast<double>(columns)), columns - 1);
 }
 
+bool ChartFrame::isDense() const {
+    return plot.width() / pixel < narrowSlot * static_cast<double>(columns);
+}
+
 double ChartFrame::barWidth() const {
     const double slot = plot.width() / static_cast<double>(columns) / pixel;
-    const double width = slot < narrowSlot ? std::floor(slot) - 1 : std::round(slot * barShare);
-    return std::max(1.0, std::min(width, std::round(widestBar / pixel))) * pixel;
+    const double width = isDense() ? slot : std::min(std::round(slot * barShare), std::floor(slot) - 1);
+    return std::clamp(width, 1.0, std::round(widestBar / pixel)) * pixel;
+}
+
+std::pair<double, double> ChartFrame::barEnds(std::size_t column) const {
+    const double width = barWidth();
+    const double left = center(column) - width / 2;
+    const double right = isDense() ? snapped(left + width) : snapped(left) + width;
+    return {snapped(left), std::max(right, snapped(left) + pixel)};
 }
 
 double ChartFrame::snapped(double place) const {

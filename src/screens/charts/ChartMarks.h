@@ -3,6 +3,7 @@
 #include "screens/charts/ChartContent.h"
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include <QRectF>
@@ -18,7 +19,11 @@ struct ChartFrame {
     [[nodiscard]] double center(std::size_t column) const;
     /// Absent outside of the plot.
     [[nodiscard]] std::optional<std::size_t> columnAt(double x) const;
+    /// Whether columns are too narrow for gaps between them.
+    [[nodiscard]] bool isDense() const;
     [[nodiscard]] double barWidth() const;
+    /// The left and right end of a column's bars.
+    [[nodiscard]] std::pair<double, double> barEnds(std::size_t column) const;
     [[nodiscard]] double snapped(double place) const;
 };
 

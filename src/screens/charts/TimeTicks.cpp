@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <iterator>
 
 namespace vantrell {
 namespace {
@@ -44,16 +45,19 @@ std::vector<std::size_t> monthColumns(const std::vector<CivilDate>& starts, Tren
     return columns;
 }
 
+// The year is told once a year, or else at the beginning.
 TimeTicks monthTicks(const std::vector<CivilDate>& starts, const std::vector<std::size_t>& columns,
                      int stride, const Locale& locale) {
+    std::vector<std::size_t> told;
+    std::ranges::copy_if(columns, std::back_inserter(told),
+                         [&](std::size_t column) { return monthNumber(starts[column]) % stride == 0; });
+    const auto isJanuary = [&](std::size_t column) { return starts[column].month() == std::chrono::January; };
+    const bool hasJanuary = std::ranges::any_of(told, isJanuary);
     TimeTicks ticks;
-    for (const std::size_t column : columns) {
-        const CivilDate start = starts[column];
-        if (monthNumber(start) % stride == 0) {
-            const bool tellsYear = ticks.empty() || start.month() == std::chrono::January;
-            ticks.push_back(
-                {column, fromUtf8(tellsYear ? locale.shortMonthYear(start) : locale.shortMonth(start))});
-        }
+    for (const std::size_t column : told) {
+        const bool tellsYear = hasJanuary ? isJanuary(column) : ticks.empty();
+        ticks.push_back({column, fromUtf8(tellsYear ? locale.shortMonthYear(starts[column])
+                                                    : locale.shortMonth(starts[column]))});
     }
     return ticks;
 }

@@ -39,13 +39,16 @@ ChartColumn TrendChart::columnOf(const TrendPoint& point) const {
     if (!column.isFetched) {
         return column;
     }
+    // Refunds look alike whichever app they are of: stacked, they are one bar.
+    double refunds = 0;
     for (const TrendSlice& slice : point.slices) {
         column.bars.push_back(usesSeriesColors_
                                   ? ChartBar{slice.proceeds, ChartInk::series, seriesColor(slice.colorIndex)}
                                   : ChartBar{slice.proceeds, ChartInk::proceeds, {}});
-        if (slice.refunds < 0) {
-            column.bars.push_back({slice.refunds, ChartInk::refunds, {}});
-        }
+        refunds += slice.refunds;
+    }
+    if (refunds < 0) {
+        column.bars.push_back({refunds, ChartInk::refunds, {}});
     }
     return column;
 }

@@ -63,6 +63,7 @@ Popover {
                         Layout.preferredWidth: 92
                         horizontalAlignment: Text.AlignRight
                         text: entry.row.refunds
+                        Accessible.name: entry.row.spokenRefunds
                         font.pixelSize: Theme.caption
                         color: Theme.bad
                     }
@@ -70,6 +71,7 @@ Popover {
                         Layout.preferredWidth: 104
                         horizontalAlignment: Text.AlignRight
                         text: entry.row.proceeds
+                        Accessible.name: entry.row.spokenProceeds
                         font.pixelSize: Theme.caption
                         font.weight: Font.Medium
                     }

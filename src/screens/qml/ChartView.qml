@@ -8,12 +8,14 @@ Item {
     required property Chart chart
     // What the chart scrolls in; the annotation stays in its sight.
     required property Flickable viewport
+    // What a screen reader is told.
+    readonly property string text: view.chart.selection < 0 ? view.chart.summary : view.chart.annotation.spoken
 
     activeFocusOnTab: true
     onActiveFocusChanged: if (!activeFocus) view.chart.clearSelection()
     Accessible.role: Accessible.Chart
     Accessible.name: view.chart.title
-    Accessible.description: view.chart.selection < 0 ? view.chart.summary : view.chart.annotation.spoken
+    Accessible.description: view.text
     Accessible.focusable: true
     Accessible.onPressAction: view.chart.open(view.chart.selection)
     Keys.onLeftPressed: view.chart.moveSelection(-1)
@@ -80,7 +82,12 @@ Item {
         }
         visible: view.chart.selection >= 0
         chart: view.chart
-        x: Math.max(0, Math.min(item.selectedX - width / 2, view.width - width))
+        // Beside the column where there is no room above, lest it hides what it tells of.
+        readonly property bool fitsAbove: room >= height - item.plot.y + 4
+        readonly property real wantedX: fitsAbove ? item.selectedX - width / 2
+            : item.selectedX + 12 + width <= view.width ? item.selectedX + 12
+            : item.selectedX - 12 - width
+        x: Math.max(0, Math.min(wantedX, view.width - width))
         y: Math.max(-room, item.plot.y - height - 4)
     }
     Rectangle {

@@ -85,6 +85,11 @@ T.ApplicationWindow {
                 }
                 ScreenHost {
                     root: window.root
+                    model: window.root.byDay
+                    sourceComponent: TrendsScreen { trends: window.root.byDay }
+                }
+                ScreenHost {
+                    root: window.root
                     model: window.root.history
                     sourceComponent: HistoryScreen { history: window.root.history }
                 }
