@@ -1,7 +1,7 @@
 #include "platform/SystemClock.h"
 
 #include <QTimer>
-#include <qcoro/qcorosignal.h>
+#include <qcoro/qcorotimer.h>
 
 namespace vantrell {
 
@@ -23,7 +23,7 @@ QCoro::Task<> SystemClock::sleep(std::chrono::microseconds duration, CancelToken
     timer.start(std::chrono::ceil<std::chrono::milliseconds>(duration));
     // The timer is made to fire rather than deleted: a frame whose awaited object is gone never resumes.
     const auto registration = cancel.onCancel([&timer] { timer.start(0); });
-    co_await qCoro(&timer, &QTimer::timeout);
+    co_await qCoro(timer).waitForTimeout();
 }
 
 }  // namespace vantrell

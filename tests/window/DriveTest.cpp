@@ -96,15 +96,6 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     driver.waitUntil([&] { return newcomer.root().dashboard()->selectedDay()->day() == nullptr; },
                      "to close");
 
-    // The filter narrows every figure.
-    driver.click(QAccessible::Button, QStringLiteral("All Apps"));
-    driver.click(QAccessible::CheckBox, QStringLiteral("All Apps"));
-    driver.expectToSee(QAccessible::Button, QStringLiteral("All time, 0.00"));
-    driver.click(QAccessible::CheckBox, QStringLiteral("All Apps"));
-    driver.key(Qt::Key_Escape);
-    driver.waitUntil([&] { return !driver.sees(QAccessible::CheckBox, QStringLiteral("All Apps")); },
-                     "for the menu to close");
-
     // The figures leave as a file.
     driver.key(Qt::Key_Comma, Qt::ControlModifier);
     driver.expectToSee(QAccessible::Heading, QStringLiteral("Settings"));
