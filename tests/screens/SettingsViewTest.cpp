@@ -44,17 +44,24 @@ TEST_F(SettingsViewTest, NamesTheHostsItTalksTo) {
     EXPECT_EQ(settings->cloudStatus(), QStringLiteral("Not active — data is stored on this device only"));
 }
 
-TEST_F(SettingsViewTest, FetchesADayUpToToday) {
+TEST_F(SettingsViewTest, FetchesTheChosenDayWhichIsTodayAtFirst) {
     SyncSettings& sync = *settings->sync();
-    EXPECT_EQ(sync.day(), QStringLiteral("2026-11-22"));
-    const std::pair<const char*, bool> cases[] = {
-        {"2026-11-22", true}, {"2026-11-23", false}, {"2026-08-14", true}, {"", false}, {"soon", false}};
-    for (const auto& [day, isFetchable] : cases) {
-        sync.setDay(QString::fromUtf8(day));
-        EXPECT_EQ(sync.canFetchDay(), isFetchable) << day;
-        sync.fetchDay();
-        EXPECT_EQ(fixture.takeRequests().size(), isFetchable ? 1U : 0U) << day;
-    }
+    sync.fetchDay();
+    EXPECT_EQ(fixture.takeRequests(), std::vector<std::string>{"DAILY 2026-11-22"});
+    sync.day()->openGrid();
+    sync.day()->grid()->moveByDays(1);
+    sync.day()->grid()->pickCursor();
+    sync.fetchDay();
+    EXPECT_EQ(fixture.takeRequests(), std::vector<std::string>{"DAILY 2026-11-22"}) << "no later day";
+    sync.day()->openGrid();
+    sync.day()->grid()->moveByDays(-7);
+    sync.day()->grid()->pickCursor();
+    sync.fetchDay();
+    EXPECT_EQ(fixture.takeRequests(), std::vector<std::string>{"DAILY 2026-11-15"});
+    settings->setInSight(false);
+    settings->setInSight(true);
+    sync.fetchDay();
+    EXPECT_EQ(fixture.takeRequests(), std::vector<std::string>{"DAILY 2026-11-22"});
 }
 
 TEST_F(SettingsViewTest, LeavesItToTheEngineToRefuseAMonth) {

@@ -6,10 +6,13 @@ Row {
     id: picker
 
     required property DateField field
+    // False where the title stands elsewhere.
+    property bool showsTitle: true
 
     spacing: 8
 
     PlainText {
+        visible: picker.showsTitle
         anchors.verticalCenter: parent.verticalCenter
         spoken: false
         text: picker.field.title

@@ -32,11 +32,9 @@ FormSection {
     }
     FormRow {
         label: section.model.dayLabel
-        TextEntry {
-            Layout.preferredWidth: 130
-            name: section.model.dayLabel
-            text: section.model.day
-            onTextEdited: section.model.day = text
+        DatePicker {
+            showsTitle: false
+            field: section.model.day
         }
         PushButton {
             text: section.model.fetchText

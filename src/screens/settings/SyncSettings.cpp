@@ -1,14 +1,16 @@
 #include "screens/settings/SyncSettings.h"
 
-#include "calendar/DayKey.h"
 #include "screens/components/ShownText.h"
+
+#include <optional>
 
 namespace vantrell {
 
 SyncSettings::SyncSettings(const ScreenParts& parts, QObject* parent)
-    : QObject(parent), parts_(parts), banner_(parts.engine) {
+    : QObject(parent), parts_(parts), banner_(parts.engine), day_(parts.locale, dayLabel()) {
     connect(&parts.engine, &SyncEngine::lastRunSummaryChanged, this, &SyncSettings::summaryChanged);
     connect(&parts.engine, &SyncEngine::isSyncingChanged, this, &SyncSettings::requestsChanged);
+    connect(&day_, &DateField::picked, this, &SyncSettings::chooseDay);
     appear();
 }
 
@@ -16,20 +18,9 @@ QString SyncSettings::summary() const {
     return shownText(parts_.engine.lastRunSummary());
 }
 
-void SyncSettings::setDay(const QString& day) {
-    if (day != day_) {
-        day_ = day;
-        Q_EMIT requestsChanged();
-    }
-}
-
-bool SyncSettings::canFetchDay() const {
-    return !parts_.engine.isSyncing() && chosenDay().has_value();
-}
-
 void SyncSettings::fetchDay() {
     if (canFetchDay()) {
-        parts_.tasks.spawn(parts_.engine.refetchDay(*chosenDay()));
+        parts_.tasks.spawn(parts_.engine.refetchDay(chosenDay_));
     }
 }
 
@@ -58,13 +49,13 @@ QString SyncSettings::caption() const {
 
 // A window may stay open for days: the last choice of another day would be a trap.
 void SyncSettings::appear() {
-    setDay(QString::fromStdString(dayKey(parts_.store.calendar().today())));
+    chooseDay(parts_.store.calendar().today());
 }
 
-std::optional<CivilDate> SyncSettings::chosenDay() const {
-    const auto day = dateFromDayKey(day_.toStdString());
-    const bool isFetchable = day && *day <= parts_.store.calendar().today();
-    return isFetchable ? day : std::nullopt;
+void SyncSettings::chooseDay(CivilDate day) {
+    const CivilDate today = parts_.store.calendar().today();
+    chosenDay_ = day;
+    day_.show(day, {.earliest = std::nullopt, .latest = today}, today);
 }
 
 }  // namespace vantrell

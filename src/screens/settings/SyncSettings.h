@@ -1,9 +1,8 @@
 #pragma once
 
 #include "screens/ScreenParts.h"
+#include "screens/components/DateField.h"
 #include "screens/components/SyncBanner.h"
-
-#include <optional>
 
 #include <QObject>
 #include <QString>
@@ -23,7 +22,7 @@ class SyncSettings : public QObject {
     Q_PROPERTY(QString backfillText READ backfillText CONSTANT)
     Q_PROPERTY(QString fetchText READ fetchText CONSTANT)
     Q_PROPERTY(QString dayLabel READ dayLabel CONSTANT)
-    Q_PROPERTY(QString day READ day WRITE setDay NOTIFY requestsChanged)
+    Q_PROPERTY(vantrell::DateField* day READ day CONSTANT)
     Q_PROPERTY(bool canFetchDay READ canFetchDay NOTIFY requestsChanged)
     Q_PROPERTY(QString monthLabel READ monthLabel CONSTANT)
     Q_PROPERTY(QString month READ month WRITE setMonth NOTIFY requestsChanged)
@@ -45,11 +44,9 @@ class SyncSettings : public QObject {
 
     [[nodiscard]] QString fetchText() const { return tr("Fetch"); }
     [[nodiscard]] QString dayLabel() const { return tr("Re-fetch one day"); }
-    /// As a day key; today at first.
-    [[nodiscard]] QString day() const { return day_; }
-    void setDay(const QString& day);
-    /// No run is under way, and the day is one up to today.
-    [[nodiscard]] bool canFetchDay() const;
+    /// Today at first, and at the latest.
+    [[nodiscard]] DateField* day() { return &day_; }
+    [[nodiscard]] bool canFetchDay() const { return !parts_.engine.isSyncing(); }
     Q_INVOKABLE void fetchDay();
 
     [[nodiscard]] QString monthLabel() const { return tr("Re-fetch a month (2026-08)"); }
@@ -70,11 +67,12 @@ class SyncSettings : public QObject {
     void requestsChanged();
 
   private:
-    [[nodiscard]] std::optional<CivilDate> chosenDay() const;
+    void chooseDay(CivilDate day);
 
     ScreenParts parts_;
     SyncBanner banner_;
-    QString day_;
+    CivilDate chosenDay_;
+    DateField day_;
     QString month_;
 };
 
