@@ -8,9 +8,10 @@ namespace {
 using std::chrono::days;
 using std::chrono::sys_days;
 
-std::vector<CivilDate> consecutiveDays(CivilDate first, int count) {
+std::vector<CivilDate> consecutiveDays(CivilDate first, std::size_t count) {
     std::vector<CivilDate> starts;
-    for (int number = 0; number < count; ++number) {
+    starts.reserve(count);
+    for (std::size_t number = 0; number < count; ++number) {
         starts.emplace_back(sys_days(first) + days(number));
     }
     return starts;

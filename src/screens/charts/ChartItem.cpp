@@ -51,9 +51,17 @@ void ChartItem::setChart(Chart* chart) {
     }
     chart_ = chart;
     if (chart != nullptr) {
+        connect(chart, &QObject::destroyed, this, &ChartItem::forgetChart);
         connect(chart, &Chart::contentChanged, this, &ChartItem::layOut);
         connect(chart, &Chart::selectionChanged, this, &ChartItem::selectedXChanged);
     }
+    Q_EMIT chartChanged();
+    layOut();
+}
+
+// A screen's model may go before its items do.
+void ChartItem::forgetChart() {
+    chart_ = nullptr;
     Q_EMIT chartChanged();
     layOut();
 }

@@ -5,7 +5,6 @@
 
 #include <QColor>
 #include <QFont>
-#include <QPointer>
 #include <QQuickPaintedItem>
 
 namespace vantrell {
@@ -56,6 +55,7 @@ class ChartItem : public QQuickPaintedItem {
     void itemChange(ItemChange change, const ItemChangeData& value) override;
 
   private:
+    void forgetChart();
     void layOut();
     [[nodiscard]] ChartFrame frameOf(const ChartContent& content) const;
     [[nodiscard]] QColor inkOf(const BarMark& bar) const;
@@ -64,7 +64,7 @@ class ChartItem : public QQuickPaintedItem {
     void paintRules(QPainter& painter) const;
     void paintBars(QPainter& painter) const;
 
-    QPointer<Chart> chart_;
+    Chart* chart_ = nullptr;
     ChartFrame frame_;
     ChartMarks marks_;
     QFont labelFont_;
