@@ -8,6 +8,7 @@
 
 #include <QGuiApplication>
 #include <QQmlComponent>
+#include <QStyleHints>
 #include <QTimer>
 
 namespace vantrell {
@@ -50,6 +51,8 @@ AppWindows::AppWindows(MyApp& app, const MyAppParts& parts, const AppWindowsPart
     // The engine owns it from here on.
     engine_.addImageProvider(QString::fromLatin1(AppIconProvider::name), new AppIconProvider(icons_));
     QGuiApplication::setWindowIcon(ProgramIcon::asIcon());
+    // Not every desktop tells Qt so, and without it no control answers to the pointer.
+    QGuiApplication::styleHints()->setUseHoverEffects(true);
     mainWindow_ = loaded(engine_, root_);
     if (windowParts.placementFile) {
         placement_.emplace(*mainWindow_, *windowParts.placementFile);

@@ -10,6 +10,7 @@ PushButton {
 
     borderless: true
     help: commands.title
+    isQuiet: menu.visible
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: commands.title
     onClicked: menu.visible ? menu.close() : menu.open()
@@ -33,27 +34,21 @@ PushButton {
         padding: 6
         contentItem: Column {
             MenuRow {
+                id: about
                 width: 220
                 focus: true
+                KeyNavigation.down: updates
                 text: button.commands.aboutText
                 onClicked: {
                     menu.close()
                     button.commands.openAbout()
                 }
             }
-            Rectangle {
-                width: 220
-                height: 9
-                color: "transparent"
-                Rectangle {
-                    y: 4
-                    width: parent.width
-                    height: 1
-                    color: Theme.separator
-                }
-            }
+            MenuDivider { width: 220 }
             MenuRow {
+                id: updates
                 width: 220
+                KeyNavigation.up: about
                 text: button.commands.updatesText
                 enabled: button.commands.canCheckForUpdates
             }

@@ -10,6 +10,7 @@ Popover {
     signal copied()
 
     padding: 6
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     contentItem: T.MenuItem {
         id: item
         implicitWidth: label.implicitWidth + 44

@@ -11,6 +11,7 @@ PushButton {
     text: picker.title
     symbol: picker.symbol
     help: picker.help
+    isQuiet: menu.visible
     Accessible.role: Accessible.ButtonMenu
     onClicked: menu.visible ? menu.close() : menu.open()
 
@@ -21,28 +22,24 @@ PushButton {
         padding: 6
         contentItem: Column {
             CheckRow {
+                id: all
                 width: list.width
+                focus: true
+                KeyNavigation.down: list
                 text: button.picker.allAppsTitle
                 isOn: button.picker.isAllOn
                 onToggledTo: isOn => button.picker.setAllOn(isOn)
             }
-            Rectangle {
-                width: list.width
-                height: 9
-                color: "transparent"
-                Rectangle {
-                    y: 4
-                    width: parent.width
-                    height: 1
-                    color: Theme.separator
-                }
-            }
+            MenuDivider { width: list.width }
             ListView {
                 id: list
                 width: 260
                 height: Math.min(contentHeight, 420)
                 clip: true
                 boundsBehavior: Flickable.StopAtBounds
+                highlightMoveDuration: 0
+                KeyNavigation.priority: KeyNavigation.AfterItem
+                KeyNavigation.up: all
                 model: button.picker.items
                 T.ScrollBar.vertical: ScrollLine {}
                 delegate: CheckRow {
@@ -50,6 +47,7 @@ PushButton {
                     required property appFilterItem row
                     required property int index
                     width: list.width
+                    focusPolicy: ListView.isCurrentItem || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
                     text: row.title
                     isOn: row.isOn
                     onToggledTo: isOn => button.picker.setOn(entry.index, isOn)

@@ -17,13 +17,12 @@ T.ToolTip {
     implicitWidth: Math.min(content.implicitWidth, 360) + leftPadding + rightPadding
     implicitHeight: content.implicitHeight + topPadding + bottomPadding
 
-    contentItem: Text {
+    contentItem: PlainText {
         id: content
+        spoken: false
         text: hint.text
-        textFormat: Text.PlainText
         wrapMode: Text.Wrap
         font.pixelSize: Theme.caption
-        color: Theme.primary
     }
     background: Rectangle {
         radius: 6

@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Vantrell
 
-// A small pane that hangs on what it belongs to, and goes when something else is pressed.
+// A small pane that hangs on what it belongs to, and goes when something else is pressed. What it hangs on may
+// toggle it, so pressing that leaves it alone.
 T.Popup {
     id: popover
 
@@ -10,7 +11,7 @@ T.Popup {
     padding: 14
     modal: false
     focus: true
-    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
     x: parent ? (parent.width - width) / 2 : 0
     y: parent ? parent.height + 8 : 0
     implicitWidth: contentWidth + leftPadding + rightPadding

@@ -12,6 +12,8 @@ T.Button {
     property bool borderless: false
     property bool spinning: false
     property string help: ""
+    // What hangs on it would lie under its help.
+    property bool isQuiet: false
     property real textSize: Theme.callout
     readonly property color ink: prominent ? Theme.accentInk
         : destructive ? Theme.bad
@@ -22,7 +24,7 @@ T.Button {
     leftPadding: borderless ? 6 : 12
     rightPadding: leftPadding
     focusPolicy: Qt.StrongFocus
-    opacity: enabled ? 1 : 0.45
+    opacity: enabled || spinning ? 1 : 0.45
     Accessible.role: Accessible.Button
     Accessible.name: button.text
     Accessible.description: button.help
@@ -31,26 +33,37 @@ T.Button {
     Keys.onReturnPressed: if (enabled) button.clicked()
     Keys.onEnterPressed: if (enabled) button.clicked()
 
-    contentItem: RowLayout {
-        spacing: 6
-        Item { Layout.fillWidth: true }
-        SymbolItem {
-            visible: button.symbol !== "" && !button.spinning
-            name: button.symbol
-            color: button.ink
+    contentItem: Item {
+        implicitWidth: label.implicitWidth
+        implicitHeight: label.implicitHeight
+        // Keeps its place behind the spinner, lest the button shrinks and jumps.
+        RowLayout {
+            id: label
+            anchors.fill: parent
+            opacity: button.spinning ? 0 : 1
+            spacing: 6
+            Item { Layout.fillWidth: true }
+            SymbolItem {
+                visible: button.symbol !== ""
+                name: button.symbol
+                color: button.ink
+            }
+            DataText {
+                visible: text !== ""
+                Layout.maximumWidth: Math.ceil(implicitWidth)
+                Layout.fillWidth: true
+                spoken: false
+                text: button.text
+                font.pixelSize: button.textSize
+                font.weight: Font.Medium
+                color: button.ink
+            }
+            Item { Layout.fillWidth: true }
         }
-        Spinner { visible: button.spinning }
-        DataText {
-            visible: text !== ""
-            Layout.maximumWidth: Math.ceil(implicitWidth)
-            Layout.fillWidth: true
-            spoken: false
-            text: button.text
-            font.pixelSize: button.textSize
-            font.weight: Font.Medium
-            color: button.ink
+        Spinner {
+            anchors.centerIn: parent
+            visible: button.spinning
         }
-        Item { Layout.fillWidth: true }
     }
     background: Rectangle {
         radius: Theme.controlRadius
@@ -61,5 +74,8 @@ T.Button {
         border.color: Theme.border
         FocusRing { control: button }
     }
-    Hint { shown: button.hovered && button.help !== ""; text: button.help }
+    Hint {
+        shown: button.hovered && button.help !== "" && !button.isQuiet
+        text: button.help
+    }
 }
