@@ -36,6 +36,7 @@ Column {
             MoneyText {
                 Layout.maximumWidth: row.width * 0.6
                 money: summary.day.money
+                standsAlone: true
                 font.pixelSize: Theme.title3
                 font.weight: Font.DemiBold
             }

@@ -9,8 +9,11 @@ T.AbstractButton {
     required property moneyValue money
     property alias fontSizeMode: amount.fontSizeMode
     property alias minimumPixelSize: amount.minimumPixelSize
+    property alias horizontalAlignment: amount.horizontalAlignment
     property real inkOpacity: 1
 
+    // It can be copied by itself, since no row can be.
+    property bool standsAlone: false
     property bool showBreakdown: false
 
     text: figure.money.text
@@ -24,6 +27,10 @@ T.AbstractButton {
     Accessible.onPressAction: figure.clicked()
     Keys.onReturnPressed: figure.clicked()
     Keys.onEnterPressed: figure.clicked()
+    Keys.onPressed: event => {
+        if (figure.standsAlone)
+            (copying.item as CopyHandler).takeKey(event)
+    }
     onClicked: figure.showBreakdown = !figure.showBreakdown
 
     PlainText {
@@ -58,6 +65,12 @@ T.AbstractButton {
         border.color: Theme.accent
     }
     HoverHandler { cursorShape: Qt.PointingHandCursor }
+    Loader {
+        id: copying
+        anchors.fill: parent
+        active: figure.standsAlone
+        sourceComponent: CopyHandler { text: figure.text }
+    }
     Loader {
         active: figure.hovered && mark.visible
         sourceComponent: Hint {

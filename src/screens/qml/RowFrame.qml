@@ -16,21 +16,12 @@ T.ItemDelegate {
 
     signal activated()
 
-    function copy() {
-        clipboard.copy(frame.copyText)
-    }
-    function openMenu(x, y) {
-        menu.active = true
-        menu.item.x = x
-        menu.item.y = y
-        menu.item.open()
-    }
-
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     topPadding: 8
     bottomPadding: 8
-    focusPolicy: frame.tabStop ? Qt.StrongFocus : Qt.ClickFocus
+    // Whoever has the focus stays where Tab stops until it has gone elsewhere.
+    focusPolicy: frame.tabStop || frame.activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     Accessible.role: Accessible.ListItem
     Accessible.name: frame.copyText
     Accessible.focusable: true
@@ -38,13 +29,7 @@ T.ItemDelegate {
     onClicked: frame.activated()
     Keys.onReturnPressed: frame.activated()
     Keys.onEnterPressed: frame.activated()
-    Keys.onMenuPressed: frame.openMenu(24, frame.height)
-    Keys.onPressed: event => {
-        if (event.matches(StandardKey.Copy)) {
-            frame.copy()
-            event.accepted = true
-        }
-    }
+    Keys.onPressed: event => copying.takeKey(event)
     // Coming to another row means coming to the row itself, not to what had the focus there last.
     onTabStopChanged: if (frame.tabStop) frame.focus = true
     // Whoever got the focus by the pointer is where the arrow keys go on from.
@@ -57,6 +42,8 @@ T.ItemDelegate {
     background: Item {
         Rectangle {
             anchors.fill: parent
+            anchors.topMargin: 2
+            anchors.bottomMargin: 2
             anchors.leftMargin: -frame.overhang
             anchors.rightMargin: -frame.overhang
             radius: Theme.controlRadius
@@ -69,22 +56,9 @@ T.ItemDelegate {
         enabled: frame.opens
         cursorShape: Qt.PointingHandCursor
     }
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        onTapped: point => {
-            frame.forceActiveFocus(Qt.MouseFocusReason)
-            frame.openMenu(point.position.x, point.position.y)
-        }
-    }
-    Clipboard { id: clipboard }
-    Loader {
-        id: menu
-        active: false
-        sourceComponent: CopyMenu {
-            parent: frame
-            copyTitle: clipboard.copyTitle
-            onCopied: frame.copy()
-            onClosed: menu.active = false
-        }
+    CopyHandler {
+        id: copying
+        text: frame.copyText
+        onMenuRequested: frame.forceActiveFocus(Qt.MouseFocusReason)
     }
 }

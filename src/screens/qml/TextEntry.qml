@@ -26,6 +26,31 @@ T.TextField {
     Accessible.role: Accessible.EditableText
     Accessible.name: entry.name
     Accessible.description: entry.prompt
+    // What the menu is about stays chosen while it is open.
+    persistentSelection: menu.active
+    Keys.onMenuPressed: entry.openMenu(entry.leftPadding, entry.height)
+
+    function openMenu(x, y) {
+        entry.forceActiveFocus(Qt.MouseFocusReason)
+        menu.active = true
+        menu.item.x = x
+        menu.item.y = y
+        menu.item.open()
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: point => entry.openMenu(point.position.x, point.position.y)
+    }
+    Loader {
+        id: menu
+        active: false
+        sourceComponent: TextMenu {
+            parent: entry
+            field: entry
+            onClosed: menu.active = false
+        }
+    }
 
     PlainText {
         visible: entry.text === "" && entry.preeditText === ""

@@ -35,6 +35,8 @@ Grid {
                     anchors.left: parent.left
                     width: Math.min(parent.width, implicitWidth)
                     money: tile.row.money
+                    standsAlone: true
+                    horizontalAlignment: Text.AlignLeft
                     font.pixelSize: Theme.title2
                     font.weight: Font.DemiBold
                     fontSizeMode: Text.HorizontalFit

@@ -1,0 +1,58 @@
+import QtQuick
+import QtQuick.Templates as T
+import Vantrell
+
+// What can be done with a typed text and what is chosen of it.
+Popover {
+    id: menu
+
+    required property T.TextField field
+    readonly property bool hasChosen: field.selectedText !== ""
+
+    padding: 6
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+
+    Clipboard { id: clipboard }
+
+    contentItem: Column {
+        Entry {
+            id: cut
+            focus: menu.hasChosen
+            enabled: menu.hasChosen
+            text: clipboard.cutTitle
+            KeyNavigation.down: copy
+            onClicked: menu.field.cut()
+        }
+        Entry {
+            id: copy
+            enabled: menu.hasChosen
+            text: clipboard.copyTitle
+            KeyNavigation.up: cut
+            KeyNavigation.down: paste
+            onClicked: menu.field.copy()
+        }
+        Entry {
+            id: paste
+            enabled: menu.field.canPaste
+            text: clipboard.pasteTitle
+            KeyNavigation.up: copy
+            KeyNavigation.down: all
+            onClicked: menu.field.paste()
+        }
+        MenuDivider { width: all.width }
+        Entry {
+            id: all
+            focus: !menu.hasChosen
+            enabled: menu.field.length > 0
+            text: clipboard.selectAllTitle
+            KeyNavigation.up: paste
+            onClicked: menu.field.selectAll()
+        }
+    }
+
+    component Entry: MenuRow {
+        width: 180
+        // After what it does, since closing gives the focus back to the field.
+        Component.onCompleted: clicked.connect(menu.close)
+    }
+}
