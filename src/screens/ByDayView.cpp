@@ -29,6 +29,8 @@ ByDayView::ByDayView(const ScreenParts& parts, QObject* parent)
     chart_.setOnSelectDay([this](const std::string& key) { selectedDay_.open(key, store().appFilter()); });
     connect(&from_, &DateField::picked, this, &ByDayView::setCustomStart);
     connect(&through_, &DateField::picked, this, &ByDayView::setCustomEnd);
+    connect(&from_, &DateField::opening, this, &ByDayView::refreshDates);
+    connect(&through_, &DateField::opening, this, &ByDayView::refreshDates);
 }
 
 QStringList ByDayView::windowTitles() const {

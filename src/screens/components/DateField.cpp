@@ -25,6 +25,11 @@ QString DateField::spoken() const {
     return title_ + QStringLiteral(", ") + fromUtf8(locale_.wideWeekdayDate(date_));
 }
 
+void DateField::openGrid() {
+    Q_EMIT opening();
+    grid_.open(date_, limits_, today_);
+}
+
 void DateField::show(CivilDate date, const DayLimits& limits, CivilDate today) {
     limits_ = limits;
     today_ = today;

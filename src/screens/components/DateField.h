@@ -25,10 +25,12 @@ class DateField : public QObject {
 
     /// The date may lie outside of the limits, which count for what is chosen next.
     void show(CivilDate date, const DayLimits& limits, CivilDate today);
-    Q_INVOKABLE void openGrid() { grid_.open(date_, limits_, today_); }
+    Q_INVOKABLE void openGrid();
 
   Q_SIGNALS:
     void changed();
+    /// The calendar is about to open; whoever knows the limits of today shows them now.
+    void opening();
     void picked(std::chrono::year_month_day date);
 
   private:

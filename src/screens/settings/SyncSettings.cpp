@@ -11,6 +11,7 @@ SyncSettings::SyncSettings(const ScreenParts& parts, QObject* parent)
     connect(&parts.engine, &SyncEngine::lastRunSummaryChanged, this, &SyncSettings::summaryChanged);
     connect(&parts.engine, &SyncEngine::isSyncingChanged, this, &SyncSettings::requestsChanged);
     connect(&day_, &DateField::picked, this, &SyncSettings::chooseDay);
+    connect(&day_, &DateField::opening, this, [this] { chooseDay(chosenDay_); });
     appear();
 }
 
