@@ -7,7 +7,7 @@ namespace vantrell {
 namespace {
 
 constexpr double barShare = 0.72;
-constexpr double widestBar = 36;
+constexpr double widestBar = 56;
 // Of so few pixels, all belong to the bar: gaps that are now one and now two pixels wide would be all that
 // one sees.
 constexpr double narrowSlot = 3.5;

@@ -10,7 +10,7 @@ ListView {
     required property BlockList rows
     // The row where Tab enters the list.
     readonly property int stop: list.count === 0 ? -1 : list.rows.stopNear(list.currentIndex)
-    readonly property real rowWidth: Math.min(list.width - 40, 1400)
+    readonly property real rowWidth: Math.min(list.width - 40, Theme.widestContent)
 
     function step(direction) {
         // The focus may be at what is no row, such as a tile.
@@ -28,8 +28,8 @@ ListView {
     }
 
     model: list.rows
-    leftMargin: 20
-    rightMargin: 20
+    leftMargin: (list.width - list.rowWidth) / 2
+    rightMargin: leftMargin
     footer: Item { height: 20 }
     boundsBehavior: Flickable.StopAtBounds
     clip: true

@@ -20,12 +20,12 @@ Item {
     ListView {
         id: list
 
-        readonly property real rowWidth: Math.min(list.width - 40, 1400)
+        readonly property real rowWidth: Math.min(list.width - 40, Theme.widestContent)
 
         visible: !screen.model.isEmpty
         anchors.fill: parent
-        leftMargin: 20
-        rightMargin: 20
+        leftMargin: (list.width - list.rowWidth) / 2
+        rightMargin: leftMargin
         topMargin: 20
         bottomMargin: 20
         clip: true

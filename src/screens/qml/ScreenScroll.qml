@@ -8,8 +8,9 @@ Flickable {
 
     default property alias content: column.data
     property real spacing: 20
-    property real maximumWidth: 1400
+    property real maximumWidth: Theme.widestContent
     property bool centered: false
+    readonly property real margin: Math.max(20, (width - Theme.widestContent) / 2)
     readonly property Item focused: scroll.Window.activeFocusItem
 
     // Whoever goes through a long screen by Tab sees where they are.
@@ -41,7 +42,7 @@ Flickable {
     Column {
         id: column
         x: scroll.centered ? (scroll.width - width) / 2
-            : scroll.LayoutMirroring.enabled ? scroll.width - width - 20 : 20
+            : scroll.LayoutMirroring.enabled ? scroll.width - width - scroll.margin : scroll.margin
         y: 20
         width: Math.min(scroll.width - 40, scroll.maximumWidth)
         spacing: scroll.spacing

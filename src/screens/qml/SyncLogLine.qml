@@ -7,8 +7,14 @@ RowFrame {
     id: line
 
     required property syncLogRow row
+    required property int index
+    readonly property bool last: ListView.view !== null && index === ListView.view.count - 1
 
     copyText: line.row.copyText
+    leftPadding: 16
+    rightPadding: 16
+    overhang: -6
+    tabStop: ListView.isCurrentItem || (index === 0 && ListView.view !== null && ListView.view.currentIndex < 0)
     Accessible.name: line.row.key
 
     contentItem: ColumnLayout {
@@ -43,8 +49,16 @@ RowFrame {
             color: Theme.tertiary
         }
     }
+    CardSlice {
+        z: -2
+        anchors.fill: parent
+        first: line.index === 0
+        last: line.last
+    }
     Divider {
+        visible: !line.last
         anchors.bottom: parent.bottom
-        width: parent.width
+        x: 16
+        width: parent.width - 32
     }
 }

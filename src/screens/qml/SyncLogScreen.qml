@@ -9,12 +9,16 @@ ListView {
     required property SyncLogView log
     signal back()
 
-    leftMargin: 20
-    rightMargin: 20
-    topMargin: 8
+    readonly property real rowWidth: Math.min(list.width - 40, Theme.widestContent)
+
+    leftMargin: (list.width - list.rowWidth) / 2
+    rightMargin: leftMargin
+    topMargin: 20
     bottomMargin: 20
     clip: true
     focus: true
+    // No line is framed before an arrow key asks for one.
+    currentIndex: -1
     cacheBuffer: 400
     boundsBehavior: Flickable.StopAtBounds
     highlightMoveDuration: Theme.quick
@@ -22,7 +26,7 @@ ListView {
     T.ScrollBar.vertical: ScrollLine {}
     Accessible.role: Accessible.List
     Accessible.name: list.log.title
-    delegate: SyncLogLine { width: list.width - 40 }
+    delegate: SyncLogLine { width: list.rowWidth }
 
     Shortcut {
         sequence: "Escape"

@@ -16,7 +16,7 @@ QtObject {
     readonly property real padding: 12
     readonly property real figuresWidth: columns * (spacing + columnWidth) + 2 * padding
     // Names take what the figures leave them, as long as the eye still finds its way along the row.
-    readonly property real nameWidth: Math.max(leastNameWidth, Math.min(380, room - figuresWidth))
+    readonly property real nameWidth: Math.max(leastNameWidth, Math.min(480, room - figuresWidth))
     readonly property real tableWidth: nameWidth + figuresWidth
     readonly property real excess: Math.max(0, tableWidth - room)
     onExcessChanged: shape.offset = Math.min(shape.offset, shape.excess)

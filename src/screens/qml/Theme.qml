@@ -24,13 +24,13 @@ QtObject {
 
     readonly property color primary: dark ? "#F1F2F4" : "#1B1D21"
     readonly property color secondary: dark ? "#AEB3BC" : "#575D68"
-    readonly property color tertiary: dark ? "#8C929D" : "#6C727D"
-    readonly property color accent: dark ? "#6AA5F8" : "#1F64D0"
-    readonly property color accentFill: dark ? "#3D7BDD" : "#1F64D0"
+    readonly property color tertiary: dark ? "#9AA0AB" : "#626872"
+    readonly property color accent: dark ? "#6AA5F8" : "#1B5FCB"
+    readonly property color accentFill: dark ? "#3673D3" : "#1B5FCB"
     readonly property color accentInk: "#FFFFFF"
     readonly property color good: dark ? "#4CC38A" : "#1B7F4B"
-    readonly property color warning: dark ? "#F0A35E" : "#A85B00"
-    readonly property color bad: dark ? "#F47C75" : "#C2312A"
+    readonly property color warning: dark ? "#F0A35E" : "#955000"
+    readonly property color bad: dark ? "#F47C75" : "#BC2F28"
 
     readonly property color chartProceeds: accentFill
     readonly property color chartRefunds: Qt.rgba(bad.r, bad.g, bad.b, 0.75)
@@ -49,6 +49,8 @@ QtObject {
     readonly property real title2: 22
     readonly property real largeTitle: 32
 
+    // Where the window is wider, the margins grow.
+    readonly property real widestContent: 1400
     readonly property real cardRadius: 16
     readonly property real controlRadius: 8
     readonly property real controlHeight: 32

@@ -12,9 +12,9 @@ Rectangle {
     color: Theme.window
 
     RowLayout {
-        anchors.fill: parent
-        anchors.leftMargin: 20
-        anchors.rightMargin: 20
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width - 40, Theme.widestContent)
+        height: parent.height
         spacing: 8
         PushButton {
             visible: toolbar.root.canGoBack

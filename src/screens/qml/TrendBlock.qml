@@ -12,7 +12,7 @@ Column {
 
     Flow {
         width: parent.width
-        spacing: 8
+        spacing: 16
         SegmentedPicker {
             name: block.model.windowName
             titles: block.model.windowTitles

@@ -7,7 +7,7 @@ Grid {
     id: grid
 
     required property TrendLegendView legend
-    readonly property int fitting: Math.max(1, Math.floor((width + columnSpacing) / (150 + columnSpacing)))
+    readonly property int fitting: Math.max(1, Math.floor((width + columnSpacing) / (200 + columnSpacing)))
     readonly property real cell: (width - (columns - 1) * columnSpacing) / columns
 
     columns: Math.max(1, Math.min(fitting, legend.rows.count))
