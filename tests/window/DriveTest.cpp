@@ -2,6 +2,7 @@
 #include "core/AppWindows.h"
 #include "platform/Appearance.h"
 #include "platform/KeyPair.h"
+#include "screens/components/DayText.h"
 #include "testing/TemporaryFolder.h"
 #include "trial/TrialSurroundings.h"
 
@@ -40,6 +41,11 @@ class Newcomer {
     [[nodiscard]] MyApp& app() { return *app_; }
     [[nodiscard]] RootView& root() { return windows_->root(); }
     [[nodiscard]] QQuickWindow& window() { return windows_->mainWindow(); }
+
+    /// What the sheet of the day this many days ago is called.
+    [[nodiscard]] QString titleOfDay(int daysAgo) {
+        return dayTitle(surroundings_->locale(), app_->store().calendar().dayKey(daysAgo));
+    }
 
     /// The key file as the web site hands it out.
     [[nodiscard]] std::filesystem::path keyFile() const {
@@ -86,15 +92,20 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     EXPECT_LT(newcomer.app().store().dailyStatuses().size(), 300U) << "the backfill was not stopped";
     driver.expectToSee(QAccessible::Button, QStringLiteral("Most recent day with data, "));
 
-    // A day is opened and closed by keyboard and pointer.
-    driver.key(Qt::Key_3, Qt::ControlModifier);
-    driver.expectToSee(QAccessible::Heading, QStringLiteral("Trends Over Time"));
-    newcomer.root().dashboard()->selectedDay()->open(newcomer.app().store().calendar().dayKey(3), {});
-    driver.key(Qt::Key_1, Qt::ControlModifier);
-    driver.expectToSee(QAccessible::Button, QStringLiteral("Done"));
+    // A day is opened from the chart and closed, by pointer and by keyboard.
+    const DaySheet& sheet = *newcomer.root().dashboard()->selectedDay();
+    const auto isClosed = [&] { return sheet.day() == nullptr; };
+    driver.click(QAccessible::Chart, QStringLiteral("Last 30 days"));
+    driver.expectToSee(QAccessible::Dialog, QString());
+    driver.click(QAccessible::Button, QStringLiteral("Done"));
+    driver.waitUntil(isClosed, "to close");
+    driver.tabTo(QAccessible::Chart, QStringLiteral("Last 30 days"));
+    driver.key(Qt::Key_End);
+    driver.key(Qt::Key_Left);
+    driver.key(Qt::Key_Return);
+    driver.expectToSee(QAccessible::Dialog, newcomer.titleOfDay(2));
     driver.key(Qt::Key_Escape);
-    driver.waitUntil([&] { return newcomer.root().dashboard()->selectedDay()->day() == nullptr; },
-                     "to close");
+    driver.waitUntil(isClosed, "to close");
 
     // The figures leave as a file.
     driver.key(Qt::Key_Comma, Qt::ControlModifier);

@@ -80,6 +80,18 @@ void WindowDriver::type(const QString& text) {
     settle();
 }
 
+void WindowDriver::tabTo(QAccessible::Role role, const QString& name) {
+    constexpr int mostStops = 60;
+    for (int stop = 0; stop < mostStops; ++stop) {
+        const QAccessibleInterface* item = find(role, name);
+        if (item != nullptr && item->state().focused) {
+            return;
+        }
+        key(Qt::Key_Tab);
+    }
+    ADD_FAILURE() << "Tab doesn't reach " << name.toStdString();
+}
+
 void WindowDriver::waitUntil(const std::function<bool()>& isSo, const std::string& what) {
     const bool came = QTest::qWaitFor(isSo, static_cast<int>(patience.count()));
     EXPECT_TRUE(came) << "waited in vain " << what;

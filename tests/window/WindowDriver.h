@@ -19,6 +19,8 @@ class WindowDriver {
     void click(QAccessible::Role role, const QString& name);
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
     void type(const QString& text);
+    /// Presses Tab until the item has the focus.
+    void tabTo(QAccessible::Role role, const QString& name);
 
     [[nodiscard]] bool sees(QAccessible::Role role, const QString& name) const;
     void expectToSee(QAccessible::Role role, const QString& name);

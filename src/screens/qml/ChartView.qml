@@ -52,9 +52,10 @@ Item {
         labelFont: sample.font
 
         HoverHandler {
+            // A pointer that rests where it is doesn't take back what the arrow keys chose.
+            readonly property int column: hovered ? item.columnAt(point.position) : -1
             cursorShape: view.chart.opensDays ? Qt.PointingHandCursor : Qt.ArrowCursor
-            onPointChanged: view.chart.select(hovered ? item.columnAt(point.position) : -1)
-            onHoveredChanged: if (!hovered) view.chart.clearSelection()
+            onColumnChanged: view.chart.select(column)
         }
         TapHandler {
             onTapped: eventPoint => view.chart.open(item.columnAt(eventPoint.position))
@@ -64,6 +65,15 @@ Item {
         id: sample
         visible: false
         font.pixelSize: Theme.smallest
+    }
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: -6
+        visible: view.activeFocus
+        radius: Theme.controlRadius
+        color: "transparent"
+        border.width: 2
+        border.color: Theme.accent
     }
     Rectangle {
         visible: view.chart.selection >= 0
@@ -89,14 +99,5 @@ Item {
             : item.selectedX - 12 - width
         x: Math.max(0, Math.min(wantedX, view.width - width))
         y: Math.max(-room, item.plot.y - height - 4)
-    }
-    Rectangle {
-        anchors.fill: parent
-        anchors.margins: -6
-        visible: view.activeFocus
-        radius: Theme.controlRadius
-        color: "transparent"
-        border.width: 2
-        border.color: Theme.accent
     }
 }
