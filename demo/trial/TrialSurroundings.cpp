@@ -1,5 +1,6 @@
 #include "trial/TrialSurroundings.h"
 
+#include "core/PublicServices.h"
 #include "data/CredentialsKeychain.h"
 #include "platform/KeyPair.h"
 #include "reports/APIToken.h"
@@ -61,7 +62,8 @@ TrialSurroundings::TrialSurroundings(const TrialOptions& options)
             clock_);
     }
     const std::string origin = options.service ? *options.service : service_->origin();
-    origins_ = {origin, origin, origin, origin};
+    // The last one is a page for the user's browser, and asked for nothing.
+    origins_ = {origin, origin, origin, publicServices().keyWebSite};
 }
 
 std::variant<std::unique_ptr<MyApp>, StartFailure> TrialSurroundings::start() {
