@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QMetaEnum>
+#include <QTextDocumentFragment>
 
 namespace vantrell {
 namespace {
@@ -15,6 +16,12 @@ QString onOneLine(QString text) {
     return text;
 }
 
+QString paintedText(const QObject& item) {
+    const QString text = item.property("text").toString();
+    const bool isMarkup = item.property("textFormat").toInt() == Qt::RichText;
+    return isMarkup ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+}
+
 QString shownValue(QAccessibleInterface& item) {
     if (auto* text = item.textInterface(); text != nullptr && text->characterCount() > 0) {
         return text->text(0, text->characterCount());
@@ -25,8 +32,8 @@ QString shownValue(QAccessibleInterface& item) {
     if (item.state().checkable) {
         return item.state().checked ? QStringLiteral("on") : QStringLiteral("off");
     }
-    const QVariant painted = item.object() == nullptr ? QVariant() : item.object()->property("text");
-    return painted.isValid() ? painted.toString() : item.text(QAccessible::Value);
+    const bool isPainted = item.object() != nullptr && item.object()->property("text").isValid();
+    return isPainted ? paintedText(*item.object()) : item.text(QAccessible::Value);
 }
 
 QString line(QAccessibleInterface& item) {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include <QCoreApplication>
 
@@ -38,16 +39,19 @@ std::vector<BreakdownRow> breakdownRows(const FigureContext& context, const Amou
     const CurrencyConverter& converter = context.store.converter();
     std::vector<BreakdownRow> rows;
     for (const Entry& entry : sortedEntries(converter, byCurrency)) {
-        const bool isConverted = entry.converted && entry.code != converter.displayCurrency;
-        rows.push_back(
-            {.code = shownText(entry.code),
-             .amount = shownText(context.locale.money(entry.amount, entry.code)),
-             .spokenAmount = shownText(context.locale.spokenMoney(entry.amount, entry.code)),
-             .converted = !entry.converted ? QCoreApplication::translate("CurrencyBreakdownList", "no rate")
-                          : isConverted
-                              ? shownText(context.locale.money(*entry.converted, converter.displayCurrency))
-                              : QString(),
-             .hasNoRate = !entry.converted});
+        BreakdownRow row{.code = shownText(entry.code),
+                         .amount = shownText(context.locale.money(entry.amount, entry.code)),
+                         .spokenAmount = shownText(context.locale.spokenMoney(entry.amount, entry.code)),
+                         .hasNoRate = !entry.converted};
+        if (!entry.converted) {
+            row.converted = QCoreApplication::translate("CurrencyBreakdownList", "no rate");
+            row.spokenConverted = row.converted;
+        } else if (entry.code != converter.displayCurrency) {
+            row.converted = shownText(context.locale.money(*entry.converted, converter.displayCurrency));
+            row.spokenConverted =
+                shownText(context.locale.spokenMoney(*entry.converted, converter.displayCurrency));
+        }
+        rows.push_back(std::move(row));
     }
     return rows;
 }

@@ -15,6 +15,7 @@ struct BreakdownRow {
     Q_PROPERTY(QString amount MEMBER amount)
     Q_PROPERTY(QString spokenAmount MEMBER spokenAmount)
     Q_PROPERTY(QString converted MEMBER converted)
+    Q_PROPERTY(QString spokenConverted MEMBER spokenConverted)
     Q_PROPERTY(bool hasNoRate MEMBER hasNoRate)
     Q_PROPERTY(QString copyText READ copyText)
 
@@ -23,6 +24,7 @@ struct BreakdownRow {
     QString amount;  ///< exact, in its own currency
     QString spokenAmount;
     QString converted;  ///< in the display currency, empty for that currency itself; "no rate" without one
+    QString spokenConverted;
     bool hasNoRate = false;
     [[nodiscard]] QString copyText() const;
     bool operator==(const BreakdownRow&) const = default;

@@ -48,6 +48,11 @@ QString PayoutRow::copyText() const {
     return rowText({title, dates, units, money.text});
 }
 
+QString PayoutRow::spokenState() const {
+    return isExpanded ? QCoreApplication::translate("PayoutRow", "Expanded")
+                      : QCoreApplication::translate("PayoutRow", "Collapsed");
+}
+
 PayoutRow payoutRow(const FigureContext& context, const FinancePeriodStat& period, bool isExpanded) {
     return {.title = QCoreApplication::translate("PayoutRow", "Fiscal ") + shownText(period.label),
             .dates = datesText(context, period),

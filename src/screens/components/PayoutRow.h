@@ -17,6 +17,7 @@ struct PayoutRow {
     Q_PROPERTY(QString units MEMBER units)
     Q_PROPERTY(vantrell::MoneyValue money MEMBER money)
     Q_PROPERTY(bool isExpanded MEMBER isExpanded)
+    Q_PROPERTY(QString spokenState READ spokenState)
     Q_PROPERTY(QVariantList currencies MEMBER currencies)
     Q_PROPERTY(QString copyText READ copyText)
 
@@ -28,6 +29,7 @@ struct PayoutRow {
     bool isExpanded = false;
     QVariantList currencies;  ///< each a BreakdownRow; none while closed
     [[nodiscard]] QString copyText() const;
+    [[nodiscard]] QString spokenState() const;
     bool operator==(const PayoutRow&) const = default;
 };
 

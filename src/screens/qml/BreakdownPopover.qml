@@ -64,6 +64,7 @@ Popover {
                     Layout.minimumWidth: 90
                     horizontalAlignment: Text.AlignRight
                     text: entry.row.converted
+                    Accessible.name: entry.row.spokenConverted
                     font.pixelSize: entry.row.hasNoRate ? Theme.smallest : Theme.caption
                     color: entry.row.hasNoRate ? Theme.warning : Theme.secondary
                 }

@@ -43,6 +43,7 @@ ColumnLayout {
                 Layout.preferredWidth: detail.convertedWidth
                 horizontalAlignment: Text.AlignRight
                 text: line.modelData.converted
+                Accessible.name: line.modelData.spokenConverted
                 font.pixelSize: Theme.caption
                 color: Theme.secondary
                 onImplicitWidthChanged: detail.convertedWidth = Math.max(detail.convertedWidth, implicitWidth)

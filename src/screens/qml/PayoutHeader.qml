@@ -12,8 +12,7 @@ RowFrame {
     text: header.row.title
     Accessible.role: Accessible.Button
     Accessible.name: header.row.title
-    Accessible.checkable: true
-    Accessible.checked: header.row.isExpanded
+    Accessible.description: header.row.spokenState
     Keys.onSpacePressed: header.activated()
 
     contentItem: Item {
