@@ -73,18 +73,22 @@ void waitUntil(const std::function<bool()>& isDone) {
     }
 }
 
+// Nobody goes on sooner than that, and the program uses the time.
+void lookAtFirstScreen() {
+    constexpr auto glance = std::chrono::seconds(1);
+    QEventLoop loop;
+    QTimer::singleShot(glance, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 constexpr std::array destinations{Destination::apps,    Destination::byDay,    Destination::history,
                                   Destination::payouts, Destination::settings, Destination::dashboard};
 
-// The second time round, since the first one also builds the screen's items.
 double slowestSwitch(AppWindows& windows) {
     double slowest = 0;
-    for (const bool counts : {false, true}) {
-        for (const Destination::Value destination : destinations) {
-            const double elapsed =
-                untilPainted(windows.mainWindow(), [&] { windows.root().select(destination); });
-            slowest = counts ? std::max(slowest, elapsed) : slowest;
-        }
+    for (const Destination::Value destination : destinations) {
+        slowest = std::max(slowest,
+                           untilPainted(windows.mainWindow(), [&] { windows.root().select(destination); }));
     }
     return slowest;
 }
@@ -155,6 +159,7 @@ void showWindowFigures(const std::filesystem::path& folder, std::int64_t dailyLi
     memory = MemoryService(makeBenchData(dailyLines));
     windows.show();
     waitUntil([&] { return program.store().isLoaded() && !program.app().engine().isSyncing(); });
+    lookAtFirstScreen();
     const double screenSwitch = slowestSwitch(windows);
     const double filterChange = slowestFilterChange(windows, program.store());
     std::cout << screenSwitch << " " << filterChange << " " << longestStallOfRefetch(windows, program)

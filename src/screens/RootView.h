@@ -34,6 +34,7 @@ class RootView : public QObject {
     Q_PROPERTY(QString windowTitle READ windowTitle CONSTANT)
     Q_PROPERTY(bool isRightToLeft READ isRightToLeft CONSTANT)
     Q_PROPERTY(vantrell::Appearance* appearance READ appearance CONSTANT)
+    Q_PROPERTY(bool hasFigures READ hasFigures NOTIFY hasFiguresChanged)
     Q_PROPERTY(bool hasCredentials READ hasCredentials NOTIFY hasCredentialsChanged)
     Q_PROPERTY(vantrell::RowList* destinations READ destinations CONSTANT)
     Q_PROPERTY(vantrell::Destination::Value selection READ selection WRITE select NOTIFY selectionChanged)
@@ -66,6 +67,8 @@ class RootView : public QObject {
     [[nodiscard]] QString windowTitle() const { return QStringLiteral("Vantrell"); }
     [[nodiscard]] bool isRightToLeft() const { return parts_.locale.isRightToLeft(); }
     [[nodiscard]] Appearance* appearance() const { return &parts_.appearance; }
+    /// The first load is done, and with it what has to be there at once.
+    [[nodiscard]] bool hasFigures() const { return parts_.store.isLoaded(); }
     /// Without credentials the welcome is all that is shown.
     [[nodiscard]] bool hasCredentials() const { return parts_.engine.hasCredentials(); }
     [[nodiscard]] RowList* destinations() { return &destinations_; }
@@ -112,6 +115,7 @@ class RootView : public QObject {
     void becomeActive();
 
   Q_SIGNALS:
+    void hasFiguresChanged();
     void hasCredentialsChanged();
     void selectionChanged();
     void shownScreenChanged();

@@ -19,6 +19,13 @@ void Screen::setInSight(bool inSight) {
     Q_EMIT inSightChanged();
 }
 
+void Screen::prepare() {
+    if (isStale_) {
+        isStale_ = false;
+        refresh();
+    }
+}
+
 void Screen::invalidate() {
     isStale_ = !inSight_;
     if (inSight_) {

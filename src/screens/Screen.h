@@ -20,6 +20,8 @@ class Screen : public QObject {
 
     [[nodiscard]] bool inSight() const { return inSight_; }
     void setInSight(bool inSight);
+    /// Catches up while it is hidden, so that nothing is left to do when it is shown.
+    Q_INVOKABLE void prepare();
 
   Q_SIGNALS:
     void inSightChanged();

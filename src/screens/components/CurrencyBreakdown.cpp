@@ -9,7 +9,7 @@ CurrencyBreakdown::CurrencyBreakdown(const ScreenParts& parts, QObject* parent) 
 }
 
 void CurrencyBreakdown::open(const MoneyValue& figure) {
-    byCurrency_ = figure.byCurrency;
+    byCurrency_ = figure.byCurrency ? *figure.byCurrency : AmountsByCurrency();
     refresh();
 }
 

@@ -22,6 +22,12 @@ QString warningText(const std::vector<std::string>& withoutRate) {
 
 }  // namespace
 
+bool MoneyValue::operator==(const MoneyValue& other) const {
+    const bool hasSameAmounts = byCurrency == other.byCurrency ||
+                                (byCurrency && other.byCurrency && *byCurrency == *other.byCurrency);
+    return hasSameAmounts && text == other.text && spoken == other.spoken && warning == other.warning;
+}
+
 MoneyValue moneyValue(const FigureContext& context, const AmountsByCurrency& byCurrency,
                       const QString& label) {
     const CurrencyConverter& converter = context.store.converter();
@@ -30,7 +36,7 @@ MoneyValue moneyValue(const FigureContext& context, const AmountsByCurrency& byC
     return {.text = shownText(context.locale.money(total.amount, converter.displayCurrency)),
             .spoken = label.isEmpty() ? spoken : label + QStringLiteral(", ") + spoken,
             .warning = warningText(total.withoutRate),
-            .byCurrency = byCurrency};
+            .byCurrency = std::make_shared<const AmountsByCurrency>(byCurrency)};
 }
 
 }  // namespace vantrell

@@ -3,6 +3,8 @@
 #include "earnings/AggregateStats.h"
 #include "screens/components/FigureContext.h"
 
+#include <memory>
+
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -21,8 +23,10 @@ struct MoneyValue {
     QString text;     ///< such as "$1,234.56"
     QString spoken;   ///< with what it is, such as "Proceeds, 1,234.56 US dollars"
     QString warning;  ///< which currencies are not in the total for want of a rate; empty if all are
-    AmountsByCurrency byCurrency;
-    bool operator==(const MoneyValue&) const = default;
+    /// What a breakdown shows; null if there is none. Shared, since QML copies a value whenever it reads one of
+    /// its properties.
+    std::shared_ptr<const AmountsByCurrency> byCurrency;
+    bool operator==(const MoneyValue& other) const;
 };
 
 /// `label` says what the figure is, to whoever hears it.

@@ -13,16 +13,18 @@ Item {
 
     implicitHeight: strip.implicitHeight
 
-    Item {
+    Loader {
         anchors.fill: parent
-        visible: line.row.isBanded
-        clip: true
-        Rectangle {
-            anchors.fill: parent
-            anchors.topMargin: line.row.startsEntry ? 0 : -radius
-            anchors.bottomMargin: line.row.endsEntry ? 0 : -radius
-            radius: 10
-            color: Theme.quaternary
+        active: line.row.isBanded
+        sourceComponent: Item {
+            clip: true
+            Rectangle {
+                anchors.fill: parent
+                anchors.topMargin: line.row.startsEntry ? 0 : -radius
+                anchors.bottomMargin: line.row.endsEntry ? 0 : -radius
+                radius: 10
+                color: Theme.quaternary
+            }
         }
     }
     TableRow {
@@ -37,33 +39,41 @@ Item {
 
         Item {
             width: line.table.nameWidth
-            implicitHeight: Math.max(names.height, icon.visible ? icon.height : 0)
-            AppIcon {
+            implicitHeight: Math.max(names.height, icon.height)
+            Loader {
                 id: icon
                 anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
-                visible: !line.row.isProduct
-                source: line.row.icon
-                size: 28
+                active: !line.row.isProduct
+                sourceComponent: AppIcon {
+                    source: line.row.icon
+                    size: 28
+                }
             }
-            Column {
+            Item {
                 id: names
                 anchors.left: parent.left
                 anchors.leftMargin: 37
-                anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
-                spacing: 2
+                width: line.table.nameWidth - 37
+                height: title.height + (caption.active ? 2 + caption.height : 0)
                 DataText {
-                    width: parent.width
+                    id: title
+                    width: line.table.nameWidth - 37
                     text: line.row.title
                     font.pixelSize: line.row.isProduct ? Theme.callout : Theme.body
                     font.weight: line.row.isProduct ? Font.Normal : Font.Medium
                     color: line.row.isProduct ? Theme.primary : Theme.accent
                     opacity: line.ink
                 }
-                CaptionText {
-                    width: parent.width
-                    text: line.row.caption
+                Loader {
+                    id: caption
+                    y: title.height + 2
+                    active: !line.row.isProduct
+                    sourceComponent: CaptionText {
+                        width: line.table.nameWidth - 37
+                        text: line.row.caption
+                    }
                 }
             }
         }

@@ -17,7 +17,7 @@ Item {
     }
     function takeKey(event) {
         if (event.matches(StandardKey.Copy)) {
-            clipboard.copy(handler.text)
+            Theme.clipboard.copy(handler.text)
             event.accepted = true
         } else if (event.key === Qt.Key_Menu) {
             handler.openMenu(24, handler.height)
@@ -34,14 +34,13 @@ Item {
             handler.openMenu(point.position.x, point.position.y)
         }
     }
-    Clipboard { id: clipboard }
     Loader {
         id: menu
         active: false
         sourceComponent: CopyMenu {
             parent: handler
-            copyTitle: clipboard.copyTitle
-            onCopied: clipboard.copy(handler.text)
+            copyTitle: Theme.clipboard.copyTitle
+            onCopied: Theme.clipboard.copy(handler.text)
             onClosed: menu.active = false
         }
     }

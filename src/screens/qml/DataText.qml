@@ -5,19 +5,16 @@ import Vantrell
 PlainText {
     id: line
 
-    // Also where the text itself runs the other way.
-    horizontalAlignment: Text.AlignLeft
-
-    HoverHandler {
-        id: hover
-        enabled: line.truncated
-    }
     Loader {
-        active: hover.hovered && line.truncated
-        sourceComponent: Hint {
-            parent: line
-            shown: true
-            text: line.text
+        active: line.truncated
+        anchors.fill: parent
+        sourceComponent: Item {
+            HoverHandler { id: hover }
+            Hint {
+                parent: line
+                shown: hover.hovered
+                text: line.text
+            }
         }
     }
 }

@@ -33,10 +33,9 @@ Column {
                     color: Theme.secondary
                 }
             }
-            MoneyText {
+            LoneFigure {
                 Layout.maximumWidth: row.width * 0.6
                 money: summary.day.money
-                standsAlone: true
                 font.pixelSize: Theme.title3
                 font.weight: Font.DemiBold
             }

@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Vantrell
 
-// A figure of several currencies. Pressing it opens what it is made of.
+// A figure of several currencies. Pressing it opens what it is made of. A screen has hundreds, so that what shows
+// only at times is only built then.
 T.AbstractButton {
     id: figure
 
@@ -10,14 +11,14 @@ T.AbstractButton {
     property alias fontSizeMode: amount.fontSizeMode
     property alias minimumPixelSize: amount.minimumPixelSize
     property alias horizontalAlignment: amount.horizontalAlignment
-    property real inkOpacity: 1
+    property alias inkOpacity: amount.opacity
+    property alias inkColor: amount.color
 
-    // It can be copied by itself, since no row can be.
-    property bool standsAlone: false
     property bool showBreakdown: false
+    readonly property real markWidth: figure.money.warning === "" ? 0 : Theme.smallest + 4
 
     text: figure.money.text
-    implicitWidth: amount.implicitWidth + (mark.visible ? mark.width + 4 : 0)
+    implicitWidth: amount.implicitWidth + figure.markWidth
     implicitHeight: amount.implicitHeight
     focusPolicy: Qt.TabFocus
     Accessible.role: Accessible.Button
@@ -27,64 +28,26 @@ T.AbstractButton {
     Accessible.onPressAction: figure.clicked()
     Keys.onReturnPressed: figure.clicked()
     Keys.onEnterPressed: figure.clicked()
-    Keys.onPressed: event => {
-        if (figure.standsAlone)
-            (copying.item as CopyHandler).takeKey(event)
-    }
     onClicked: figure.showBreakdown = !figure.showBreakdown
 
+    Loader {
+        anchors.fill: parent
+        active: figure.hovered || figure.visualFocus || figure.showBreakdown || figure.markWidth > 0
+        sourceComponent: FigureExtras {
+            owner: figure
+            money: figure.money
+            inkWidth: amount.contentWidth + figure.markWidth
+            showsBreakdown: figure.showBreakdown
+            onClosed: figure.showBreakdown = false
+        }
+    }
     PlainText {
         id: amount
         anchors.verticalCenter: parent.verticalCenter
-        width: figure.width - (mark.visible ? mark.width + 4 : 0)
+        width: figure.width - figure.markWidth
         horizontalAlignment: Text.AlignRight
         spoken: false
         text: figure.text
         font: figure.font
-        opacity: figure.inkOpacity
-    }
-    Loader {
-        id: mark
-        active: figure.money.warning !== ""
-        visible: active
-        anchors.verticalCenter: parent.verticalCenter
-        anchors.right: parent.right
-        width: Theme.smallest
-        height: Theme.smallest
-        sourceComponent: SymbolItem {
-            name: "exclamationmark.triangle.fill"
-            color: Theme.warning
-        }
-    }
-    background: Rectangle {
-        radius: 5
-        anchors.fill: parent
-        anchors.margins: -3
-        color: figure.hovered ? Theme.quaternary : "transparent"
-        border.width: figure.visualFocus ? 2 : 0
-        border.color: Theme.accent
-    }
-    HoverHandler { cursorShape: Qt.PointingHandCursor }
-    Loader {
-        id: copying
-        anchors.fill: parent
-        active: figure.standsAlone
-        sourceComponent: CopyHandler { text: figure.text }
-    }
-    Loader {
-        active: figure.hovered && mark.visible
-        sourceComponent: Hint {
-            parent: figure
-            shown: true
-            text: figure.money.warning
-        }
-    }
-    Loader {
-        active: figure.showBreakdown
-        sourceComponent: BreakdownPopover {
-            parent: figure
-            money: figure.money
-            onClosed: figure.showBreakdown = false
-        }
     }
 }

@@ -39,18 +39,15 @@ T.ItemDelegate {
             list.currentIndex = list.indexAt(frame.x + 1, frame.y + 1)
     }
 
-    background: Item {
-        Rectangle {
-            anchors.fill: parent
-            anchors.topMargin: 2
-            anchors.bottomMargin: 2
-            anchors.leftMargin: -frame.overhang
-            anchors.rightMargin: -frame.overhang
-            radius: Theme.controlRadius
-            color: frame.opens && frame.hovered || frame.down && frame.opens ? Theme.quaternary : "transparent"
-            border.width: frame.activeFocus ? 2 : 0
-            border.color: Theme.accent
-        }
+    topInset: 2
+    bottomInset: 2
+    leftInset: -frame.overhang
+    rightInset: -frame.overhang
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: frame.opens && (frame.hovered || frame.down) ? Theme.quaternary : "transparent"
+        border.width: frame.activeFocus ? 2 : 0
+        border.color: Theme.accent
     }
     HoverHandler {
         enabled: frame.opens

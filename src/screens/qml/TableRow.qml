@@ -24,10 +24,11 @@ TableStrip {
         leftPadding: strip.table.padding
         rightPadding: strip.table.padding
         onActivated: strip.activated()
-        Keys.onLeftPressed: strip.table.push(strip.mirrored ? strip.table.columnWidth : -strip.table.columnWidth)
-        Keys.onRightPressed: strip.table.push(strip.mirrored ? -strip.table.columnWidth : strip.table.columnWidth)
+        Keys.onLeftPressed: strip.push(-strip.table.columnWidth)
+        Keys.onRightPressed: strip.push(strip.table.columnWidth)
         contentItem: Item {
-            implicitHeight: cells.implicitHeight
+            // A positioner has no height while it is hidden, and a list would build all its rows.
+            implicitHeight: cells.childrenRect.height
             Row {
                 id: cells
                 spacing: strip.table.spacing

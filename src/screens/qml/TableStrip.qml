@@ -2,27 +2,40 @@ import QtQuick
 import Vantrell
 
 // One row of a table. Pushing it aside pushes all rows of the table.
-Flickable {
+Item {
     id: strip
 
     required property TableShape table
+    readonly property real contentWidth: Math.max(strip.width, strip.table.tableWidth)
     readonly property bool mirrored: LayoutMirroring.enabled
+    default property alias contents: content.data
 
-    contentWidth: Math.max(strip.width, strip.table.tableWidth)
-    contentHeight: height
-    flickableDirection: Flickable.HorizontalFlick
-    boundsBehavior: Flickable.StopAtBounds
-    interactive: strip.table.excess > 0
-    clip: strip.interactive
-    onContentXChanged: {
-        if (strip.moving)
-            strip.table.offset = strip.mirrored ? strip.table.excess - strip.contentX : strip.contentX
+    function push(distance) {
+        strip.table.push(strip.mirrored ? -distance : distance)
     }
-    Binding {
-        target: strip
-        property: "contentX"
-        value: strip.mirrored ? strip.table.excess - strip.table.offset : strip.table.offset
-        when: !strip.moving
-        restoreMode: Binding.RestoreNone
+
+    clip: strip.table.excess > 0
+    Item {
+        id: content
+        x: strip.mirrored ? strip.table.offset - strip.table.excess : -strip.table.offset
+        width: strip.contentWidth
+        height: strip.height
+    }
+    Loader {
+        anchors.fill: parent
+        active: strip.clip
+        sourceComponent: Item {
+            DragHandler {
+                target: null
+                yAxis.enabled: false
+                onTranslationChanged: delta => strip.push(-delta.x)
+            }
+            WheelHandler {
+                target: null
+                orientation: Qt.Horizontal
+                acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+                onWheel: event => strip.push(-(event.pixelDelta.x || event.angleDelta.x / 2))
+            }
+        }
     }
 }

@@ -9,6 +9,7 @@ QtObject {
     property bool reducesMotion: false
     // What every figure opens when it is pressed. Set by the window.
     property CurrencyBreakdown breakdown: null
+    readonly property Clipboard clipboard: Clipboard {}
 
     readonly property color window: dark ? "#17181B" : "#F4F5F7"
     readonly property color sidebar: dark ? "#1D1F23" : "#EAECEF"

@@ -31,11 +31,10 @@ Grid {
                     font.weight: Font.Medium
                     color: Theme.secondary
                 }
-                MoneyText {
+                LoneFigure {
                     anchors.left: parent.left
                     width: Math.min(parent.width, implicitWidth)
                     money: tile.row.money
-                    standsAlone: true
                     horizontalAlignment: Text.AlignLeft
                     font.pixelSize: Theme.title2
                     font.weight: Font.DemiBold
