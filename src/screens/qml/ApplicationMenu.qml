@@ -10,10 +10,10 @@ PushButton {
 
     borderless: true
     help: commands.title
-    isQuiet: menu.visible
+    isQuiet: pane.visible
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: commands.title
-    onClicked: menu.visible ? menu.close() : menu.open()
+    onClicked: pane.visible ? pane.close() : pane.open()
 
     contentItem: Item {
         implicitWidth: 18
@@ -28,7 +28,7 @@ PushButton {
     }
 
     Popover {
-        id: menu
+        id: pane
         x: 0
         y: button.height + 4
         padding: 6
@@ -40,7 +40,7 @@ PushButton {
                 KeyNavigation.down: updates
                 text: button.commands.aboutText
                 onClicked: {
-                    menu.close()
+                    pane.close()
                     button.commands.openAbout()
                 }
             }

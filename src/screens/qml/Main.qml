@@ -39,7 +39,18 @@ T.ApplicationWindow {
     Loader {
         anchors.fill: parent
         active: !window.root.hasCredentials
-        sourceComponent: WelcomeScreen { model: window.root.welcome }
+        sourceComponent: Item {
+            WelcomeScreen {
+                anchors.fill: parent
+                model: window.root.welcome
+            }
+            ApplicationMenu {
+                anchors.left: parent.left
+                anchors.top: parent.top
+                anchors.margins: 14
+                commands: window.root.menu
+            }
+        }
     }
     Loader {
         active: window.root.about.isOpen

@@ -3,13 +3,12 @@ import QtQuick.Templates as T
 import Vantrell
 
 // A line of a menu that does something.
-T.AbstractButton {
+T.MenuItem {
     id: row
 
     implicitHeight: 30
     focusPolicy: Qt.StrongFocus
     opacity: enabled ? 1 : 0.45
-    Accessible.role: Accessible.MenuItem
     Accessible.name: row.text
     Accessible.onPressAction: row.clicked()
     Keys.onReturnPressed: row.clicked()

@@ -4,7 +4,7 @@ import Vantrell
 
 // What can be done with a typed text and what is chosen of it.
 Popover {
-    id: menu
+    id: pane
 
     required property T.TextField field
     readonly property bool hasChosen: field.selectedText !== ""
@@ -17,42 +17,42 @@ Popover {
     contentItem: Column {
         Entry {
             id: cut
-            focus: menu.hasChosen
-            enabled: menu.hasChosen
+            focus: pane.hasChosen
+            enabled: pane.hasChosen
             text: clipboard.cutTitle
             KeyNavigation.down: copy
-            onClicked: menu.field.cut()
+            onClicked: pane.field.cut()
         }
         Entry {
             id: copy
-            enabled: menu.hasChosen
+            enabled: pane.hasChosen
             text: clipboard.copyTitle
             KeyNavigation.up: cut
             KeyNavigation.down: paste
-            onClicked: menu.field.copy()
+            onClicked: pane.field.copy()
         }
         Entry {
             id: paste
-            enabled: menu.field.canPaste
+            enabled: pane.field.canPaste
             text: clipboard.pasteTitle
             KeyNavigation.up: copy
             KeyNavigation.down: all
-            onClicked: menu.field.paste()
+            onClicked: pane.field.paste()
         }
         MenuDivider { width: all.width }
         Entry {
             id: all
-            focus: !menu.hasChosen
-            enabled: menu.field.length > 0
+            focus: !pane.hasChosen
+            enabled: pane.field.length > 0
             text: clipboard.selectAllTitle
             KeyNavigation.up: paste
-            onClicked: menu.field.selectAll()
+            onClicked: pane.field.selectAll()
         }
     }
 
     component Entry: MenuRow {
         width: 180
         // After what it does, since closing gives the focus back to the field.
-        Component.onCompleted: clicked.connect(menu.close)
+        Component.onCompleted: clicked.connect(pane.close)
     }
 }
