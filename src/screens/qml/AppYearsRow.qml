@@ -18,13 +18,13 @@ TableRow {
     }
     Repeater {
         model: line.row.cells
-        PlainText {
+        DataText {
             required property yearCell modelData
             anchors.verticalCenter: parent !== null ? parent.verticalCenter : undefined
             width: line.table.columnWidth
             horizontalAlignment: Text.AlignRight
             fontSizeMode: Text.HorizontalFit
-            minimumPixelSize: 8
+            minimumPixelSize: 10
             text: modelData.text
             font.pixelSize: Theme.callout
             color: modelData.isEmpty ? Theme.tertiary : Theme.primary

@@ -35,34 +35,39 @@ Popover {
             spacing: 5
             boundsBehavior: Flickable.StopAtBounds
             model: popover.breakdown.rows
-            property real rowWidth: 280
-            property real codeWidth: 40
-            property real amountWidth: 110
+            // Every row is there at once but for absurdly many, so that the columns stay as they are.
+            cacheBuffer: 1600
+            readonly property real rowWidth: list.codeWidth + list.amountWidth + list.convertedWidth + 28
+            property real codeWidth: 34
+            property real amountWidth: 96
+            property real convertedWidth: 74
             delegate: RowLayout {
                 id: entry
                 required property breakdownRow row
                 width: list.width
                 spacing: 14
-                PlainText {
-                    Layout.minimumWidth: list.codeWidth
-                    Layout.maximumWidth: 90
+                DataText {
+                    Layout.preferredWidth: list.codeWidth
                     horizontalAlignment: Text.AlignRight
+                    onImplicitWidthChanged: list.codeWidth = Math.min(90, Math.max(list.codeWidth, Math.ceil(implicitWidth)))
                     text: entry.row.code
                     font.pixelSize: Theme.caption
                     font.family: "monospace"
                     color: Theme.secondary
                 }
-                PlainText {
+                DataText {
                     Layout.fillWidth: true
-                    Layout.minimumWidth: list.amountWidth
+                    Layout.preferredWidth: list.amountWidth
                     horizontalAlignment: Text.AlignRight
+                    onImplicitWidthChanged: list.amountWidth = Math.min(220, Math.max(list.amountWidth, Math.ceil(implicitWidth)))
                     text: entry.row.amount
                     font.pixelSize: Theme.callout
                     Accessible.name: entry.row.spokenAmount
                 }
-                PlainText {
-                    Layout.minimumWidth: 90
+                DataText {
+                    Layout.preferredWidth: list.convertedWidth
                     horizontalAlignment: Text.AlignRight
+                    onImplicitWidthChanged: list.convertedWidth = Math.min(200, Math.max(list.convertedWidth, Math.ceil(implicitWidth)))
                     text: entry.row.converted
                     Accessible.name: entry.row.spokenConverted
                     font.pixelSize: entry.row.hasNoRate ? Theme.smallest : Theme.caption

@@ -20,7 +20,7 @@ RowFrame {
             text: line.row.title
             font.pixelSize: Theme.callout
         }
-        PlainText {
+        DataText {
             anchors.left: name.right
             anchors.leftMargin: 20
             width: 140

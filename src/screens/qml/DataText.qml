@@ -5,8 +5,11 @@ import Vantrell
 PlainText {
     id: line
 
+    // False for a text whose control explains it.
+    property bool isExplained: true
+
     Loader {
-        active: line.truncated
+        active: line.isExplained && line.truncated
         anchors.fill: parent
         sourceComponent: Item {
             HoverHandler { id: hover }

@@ -9,6 +9,8 @@ Item {
 
     required property T.AbstractButton owner
     required property moneyValue money
+    // The amount is longer than its place.
+    required property bool isCut
     required property real inkWidth
     required property bool showsBreakdown
     signal closed()
@@ -36,8 +38,9 @@ Item {
     HoverHandler { cursorShape: Qt.PointingHandCursor }
     Hint {
         parent: extras.owner
-        shown: extras.owner.hovered
-        text: extras.money.warning
+        shown: extras.owner.hovered && !extras.showsBreakdown
+        text: !extras.isCut ? extras.money.warning
+            : extras.money.warning === "" ? extras.money.text : extras.money.text + " · " + extras.money.warning
     }
     Loader {
         active: extras.showsBreakdown

@@ -18,7 +18,7 @@ MoneyText {
     inkColor: cell.isEmpty ? Theme.tertiary : Theme.primary
     font.pixelSize: Theme.callout
     fontSizeMode: Text.HorizontalFit
-    minimumPixelSize: 8
+    minimumPixelSize: 10
     focusPolicy: cell.tabStop ? Qt.TabFocus : Qt.NoFocus
     onActiveFocusChanged: if (cell.activeFocus) cell.table.reveal(cell.column)
 }

@@ -36,6 +36,7 @@ T.AbstractButton {
         sourceComponent: FigureExtras {
             owner: figure
             money: figure.money
+            isCut: amount.truncated
             inkWidth: amount.contentWidth + figure.markWidth
             showsBreakdown: figure.showBreakdown
             onClosed: figure.showBreakdown = false

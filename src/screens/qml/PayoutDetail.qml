@@ -24,7 +24,7 @@ ColumnLayout {
             Layout.fillWidth: false
             Layout.preferredWidth: Math.min(detail.width, 460)
             spacing: 16
-            PlainText {
+            DataText {
                 Layout.preferredWidth: detail.codeWidth
                 text: line.modelData.code
                 font.pixelSize: Theme.caption
@@ -32,21 +32,21 @@ ColumnLayout {
                 color: Theme.secondary
                 onImplicitWidthChanged: detail.codeWidth = Math.min(160, Math.max(detail.codeWidth, implicitWidth))
             }
-            PlainText {
+            DataText {
                 Layout.fillWidth: true
                 horizontalAlignment: Text.AlignRight
                 text: line.modelData.amount
                 font.pixelSize: Theme.callout
                 Accessible.name: line.modelData.spokenAmount
             }
-            PlainText {
+            DataText {
                 Layout.preferredWidth: detail.convertedWidth
                 horizontalAlignment: Text.AlignRight
                 text: line.modelData.converted
                 Accessible.name: line.modelData.spokenConverted
                 font.pixelSize: Theme.caption
                 color: Theme.secondary
-                onImplicitWidthChanged: detail.convertedWidth = Math.max(detail.convertedWidth, implicitWidth)
+                onImplicitWidthChanged: detail.convertedWidth = Math.min(200, Math.max(detail.convertedWidth, implicitWidth))
             }
         }
     }

@@ -49,7 +49,9 @@ T.Button {
                 color: button.ink
             }
             DataText {
+                id: words
                 visible: text !== ""
+                isExplained: false
                 Layout.maximumWidth: Math.ceil(implicitWidth)
                 Layout.fillWidth: true
                 spoken: false
@@ -75,7 +77,7 @@ T.Button {
         FocusRing { control: button }
     }
     Hint {
-        shown: button.hovered && button.help !== "" && !button.isQuiet
-        text: button.help
+        shown: button.hovered && !button.isQuiet
+        text: words.truncated ? button.text : button.help
     }
 }
