@@ -1,4 +1,3 @@
-#include "../earnings/EarningsFixture.h"
 #include "earnings/Exports.h"
 #include "reports/FinanceParser.h"
 #include "reports/SalesParser.h"
@@ -6,6 +5,7 @@
 #include "sample/ReportPeriods.h"
 #include "sample/SalesBody.h"
 #include "sample/SampleTotals.h"
+#include "testing/EarningsFixture.h"
 
 #include <array>
 #include <map>

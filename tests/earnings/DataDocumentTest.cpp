@@ -1,6 +1,6 @@
-#include "EarningsFixture.h"
 #include "earnings/Exports.h"
 #include "platform/Sqlite.h"
+#include "testing/EarningsFixture.h"
 
 #include <fstream>
 #include <map>

@@ -1,6 +1,6 @@
-#include "EarningsFixture.h"
 #include "earnings/CSVLine.h"
 #include "earnings/Exports.h"
+#include "testing/EarningsFixture.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "EarningsFixture.h"
+#include "testing/EarningsFixture.h"
 
 #include <gtest/gtest.h>
 

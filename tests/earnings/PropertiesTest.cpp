@@ -1,6 +1,6 @@
-#include "EarningsFixture.h"
 #include "earnings/Exports.h"
 #include "earnings/StatsAccumulator.h"
+#include "testing/EarningsFixture.h"
 
 #include <algorithm>
 #include <random>

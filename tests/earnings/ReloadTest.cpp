@@ -1,4 +1,4 @@
-#include "EarningsFixture.h"
+#include "testing/EarningsFixture.h"
 #include "testing/FaultyVfs.h"
 
 #include <random>

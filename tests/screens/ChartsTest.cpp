@@ -1,6 +1,6 @@
-#include "../earnings/EarningsFixture.h"
 #include "screens/charts/DailyProceedsChart.h"
 #include "screens/charts/TrendChart.h"
+#include "testing/EarningsFixture.h"
 
 #include <gmock/gmock.h>
 

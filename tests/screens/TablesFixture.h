@@ -1,8 +1,8 @@
 #pragma once
 
-#include "../earnings/EarningsFixture.h"
 #include "platform/Appearance.h"
 #include "screens/ScreenParts.h"
+#include "testing/EarningsFixture.h"
 #include "testing/EngineFixture.h"
 
 namespace vantrell::testing {
