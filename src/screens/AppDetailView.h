@@ -14,7 +14,7 @@
 namespace vantrell {
 
 /// All about one app, whatever the filter says.
-class AppDetailView : public Screen {
+class AppDetailView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")

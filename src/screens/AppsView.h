@@ -14,7 +14,7 @@ namespace vantrell {
 
 /// The apps side by side: proceeds with the products beneath each app, years, and what was paid. The figures
 /// are taken from the store once per load; the filter only chooses among them.
-class AppsView : public Screen {
+class AppsView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")

@@ -11,7 +11,7 @@
 namespace vantrell {
 
 /// The first screen: what came in lately at a glance.
-class DashboardView : public Screen {
+class DashboardView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")

@@ -10,7 +10,7 @@
 namespace vantrell {
 
 /// What exactly happened on a day: its proceeds and units, and each line of its report.
-class DayDetailView : public Screen {
+class DayDetailView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by its screen")

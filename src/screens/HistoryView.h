@@ -8,7 +8,7 @@
 namespace vantrell {
 
 /// The long view: all years, the last months and what every product brought in, for the chosen apps.
-class HistoryView : public Screen {
+class HistoryView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")

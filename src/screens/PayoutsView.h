@@ -12,7 +12,7 @@
 namespace vantrell {
 
 /// What was actually paid, by fiscal period.
-class PayoutsView : public Screen {
+class PayoutsView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")

@@ -23,6 +23,8 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
       welcome_(parts),
       menu_(about_) {
     destinations_.show(destinationItems());
+    connect(&parts.appearance, &Appearance::isDarkChanged, this, &RootView::isDarkChanged);
+    connect(&parts.appearance, &Appearance::reducesMotionChanged, this, &RootView::reducesMotionChanged);
     connect(&parts.store, &EarningsStore::isLoadedChanged, this, &RootView::hasFiguresChanged);
     connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &RootView::hasCredentialsChanged);
     connect(this, &RootView::hasCredentialsChanged, this, &RootView::shownScreenChanged);

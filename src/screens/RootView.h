@@ -33,7 +33,8 @@ class RootView : public QObject {
     QML_UNCREATABLE("made by the program")
     Q_PROPERTY(QString windowTitle READ windowTitle CONSTANT)
     Q_PROPERTY(bool isRightToLeft READ isRightToLeft CONSTANT)
-    Q_PROPERTY(vantrell::Appearance* appearance READ appearance CONSTANT)
+    Q_PROPERTY(bool isDark READ isDark NOTIFY isDarkChanged)
+    Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged)
     Q_PROPERTY(bool hasFigures READ hasFigures NOTIFY hasFiguresChanged)
     Q_PROPERTY(bool hasCredentials READ hasCredentials NOTIFY hasCredentialsChanged)
     Q_PROPERTY(vantrell::RowList* destinations READ destinations CONSTANT)
@@ -66,7 +67,8 @@ class RootView : public QObject {
 
     [[nodiscard]] QString windowTitle() const { return QStringLiteral("Vantrell"); }
     [[nodiscard]] bool isRightToLeft() const { return parts_.locale.isRightToLeft(); }
-    [[nodiscard]] Appearance* appearance() const { return &parts_.appearance; }
+    [[nodiscard]] bool isDark() const { return parts_.appearance.isDark(); }
+    [[nodiscard]] bool reducesMotion() const { return parts_.appearance.reducesMotion(); }
     /// The first load is done, and with it what has to be there at once.
     [[nodiscard]] bool hasFigures() const { return parts_.store.isLoaded(); }
     /// Without credentials the welcome is all that is shown.
@@ -115,6 +117,8 @@ class RootView : public QObject {
     void becomeActive();
 
   Q_SIGNALS:
+    void isDarkChanged();
+    void reducesMotionChanged();
     void hasFiguresChanged();
     void hasCredentialsChanged();
     void selectionChanged();

@@ -8,7 +8,7 @@ namespace vantrell {
 
 /// The popover on a figure: each of its currencies exactly. One serves the whole window, since one is open at
 /// a time.
-class CurrencyBreakdown : public Screen {
+class CurrencyBreakdown : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by its screen")

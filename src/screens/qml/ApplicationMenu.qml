@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Vantrell
 
 // The button at the top of the sidebar with what concerns the program as a whole.

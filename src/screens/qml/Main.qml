@@ -28,12 +28,12 @@ T.ApplicationWindow {
     Binding {
         target: Theme
         property: "dark"
-        value: window.root.appearance.isDark
+        value: window.root.isDark
     }
     Binding {
         target: Theme
         property: "reducesMotion"
-        value: window.root.appearance.reducesMotion
+        value: window.root.reducesMotion
     }
     Shortcuts { root: window.root }
     Loader {

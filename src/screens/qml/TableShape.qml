@@ -1,5 +1,4 @@
 import QtQuick
-import Vantrell
 
 // What the rows of a table share: its columns, and how far it was pushed aside where it is wider than the card.
 QtObject {

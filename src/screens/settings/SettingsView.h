@@ -13,7 +13,7 @@
 namespace vantrell {
 
 /// Everything that isn't a figure: the key, the currency, the runs and their log, exports and privacy.
-class SettingsView : public Screen {
+class SettingsView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")

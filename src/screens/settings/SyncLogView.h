@@ -7,7 +7,7 @@
 namespace vantrell {
 
 /// The newest lines of the sync log, growing while it is in sight.
-class SyncLogView : public Screen {
+class SyncLogView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by its screen")
