@@ -46,7 +46,9 @@ std::unique_ptr<QQuickWindow> loaded(QQmlEngine& engine, RootView& root) {
 }  // namespace
 
 AppWindows::AppWindows(MyApp& app, const MyAppParts& parts, const AppWindowsParts& windowParts)
-    : icons_(parts.http, windowParts.icons), root_(screenParts(app, parts, windowParts)) {
+    : translations_(parts.locale),
+      icons_(parts.http, windowParts.icons),
+      root_(screenParts(app, parts, windowParts)) {
     prepareQmlEngine(engine_);
     // The engine owns it from here on.
     engine_.addImageProvider(QString::fromLatin1(AppIconProvider::name), new AppIconProvider(icons_));

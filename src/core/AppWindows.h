@@ -2,6 +2,7 @@
 
 #include "core/MyApp.h"
 #include "core/PlacementKeeper.h"
+#include "core/Translations.h"
 #include "icons/ImageLoader.h"
 #include "screens/RootView.h"
 
@@ -45,6 +46,7 @@ class AppWindows : public QObject {
     void activeChanged();
     void firstPainted();
 
+    Translations translations_;  // the models ask for their texts from the start
     ImageLoader icons_;
     RootView root_;
     QQmlEngine engine_;

@@ -11,7 +11,7 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
     : QObject(parent),
       parts_(parts),
       driveLoop_({parts.engine, parts.store, parts.context, parts.clock, parts.tasks}),
-      filter_(parts.store),
+      filter_(parts.store, parts.locale),
       syncButton_(parts.engine, parts.tasks),
       breakdown_(parts),
       dashboard_(parts),

@@ -75,7 +75,8 @@ std::vector<ChartAmount> TrendChart::sliceLines(const TrendPoint& point) const {
     if (lines.size() > mostSlices) {
         const auto others = static_cast<int>(lines.size() - mostSlices);
         lines.resize(mostSlices);
-        const QString text = tr("%n more app(s)", nullptr, others);
+        const QString text =
+            tr("%1 more app(s)", nullptr, others).arg(fromUtf8(context().locale.count(others)));
         lines.push_back({.title = text, .spoken = text, .tone = Tone::Tertiary, .isSmall = true});
     }
     return lines;

@@ -6,7 +6,8 @@
 
 namespace vantrell {
 
-AppFilterPicker::AppFilterPicker(EarningsStore& store, QObject* parent) : QObject(parent), store_(store) {
+AppFilterPicker::AppFilterPicker(EarningsStore& store, const Locale& locale, QObject* parent)
+    : QObject(parent), store_(store), locale_(locale) {
     connect(&store, &EarningsStore::appFilterChanged, this, &AppFilterPicker::refresh);
     connect(&store, &EarningsStore::catalogChanged, this, &AppFilterPicker::refresh);
     refresh();
@@ -25,7 +26,8 @@ QString AppFilterPicker::title() const {
     if (filter->size() == 1 && only != apps.end()) {
         return shownText(only->second.title);
     }
-    return tr("%n App(s)", nullptr, static_cast<int>(filter->size()));
+    const auto count = static_cast<int>(filter->size());
+    return tr("%1 App(s)", nullptr, count).arg(fromUtf8(locale_.count(count)));
 }
 
 void AppFilterPicker::setAllOn(bool isOn) {

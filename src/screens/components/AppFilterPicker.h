@@ -35,8 +35,8 @@ class AppFilterPicker : public QObject {
     Q_PROPERTY(vantrell::RowList* items READ items CONSTANT)
 
   public:
-    /// The store must outlive the picker.
-    AppFilterPicker(EarningsStore& store, QObject* parent = nullptr);
+    /// The store and the locale must outlive the picker.
+    AppFilterPicker(EarningsStore& store, const Locale& locale, QObject* parent = nullptr);
 
     /// "All Apps", "No Apps", the one app's title, or how many.
     [[nodiscard]] QString title() const;
@@ -59,6 +59,7 @@ class AppFilterPicker : public QObject {
     [[nodiscard]] std::set<std::int64_t> allApps() const;
 
     EarningsStore& store_;
+    const Locale& locale_;
     RowList items_;
 };
 
