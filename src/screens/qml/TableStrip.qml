@@ -28,7 +28,12 @@ Item {
             DragHandler {
                 target: null
                 yAxis.enabled: false
-                onTranslationChanged: delta => strip.push(-delta.x)
+                property real reached: 0
+                onActiveChanged: reached = 0
+                onTranslationChanged: {
+                    strip.push(reached - activeTranslation.x)
+                    reached = activeTranslation.x
+                }
             }
             WheelHandler {
                 target: null
