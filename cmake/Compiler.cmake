@@ -16,6 +16,10 @@ target_compile_definitions(
     vantrell_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
                                QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
 )
+# GCC 12 takes a library's header for ours once it is precompiled, and warns about it when it optimises.
+if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
+    set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
+endif()
 if(VANTRELL_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
