@@ -23,8 +23,8 @@ struct MoneyValue {
     QString text;     ///< such as "$1,234.56"
     QString spoken;   ///< with what it is, such as "Proceeds, 1,234.56 US dollars"
     QString warning;  ///< which currencies are not in the total for want of a rate; empty if all are
-    /// What a breakdown shows; null if there is none. Shared, since QML copies a value whenever it reads one of
-    /// its properties.
+    /// What a breakdown shows; null if there is none. Shared, since QML copies a value whenever it reads one
+    /// of its properties.
     std::shared_ptr<const AmountsByCurrency> byCurrency;
     bool operator==(const MoneyValue& other) const;
 };
