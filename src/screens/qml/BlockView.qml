@@ -30,6 +30,8 @@ ListView {
     model: list.rows
     leftMargin: (list.width - list.rowWidth) / 2
     rightMargin: leftMargin
+    // What is shown doesn't follow the margins by itself.
+    onLeftMarginChanged: list.contentX = -list.leftMargin
     footer: Item { height: 20 }
     boundsBehavior: Flickable.StopAtBounds
     clip: true

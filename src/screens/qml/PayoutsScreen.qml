@@ -26,6 +26,8 @@ Item {
         anchors.fill: parent
         leftMargin: (list.width - list.rowWidth) / 2
         rightMargin: leftMargin
+        // What is shown doesn't follow the margins by itself.
+        onLeftMarginChanged: list.contentX = -list.leftMargin
         topMargin: 20
         bottomMargin: 20
         clip: true
@@ -50,6 +52,12 @@ Item {
             topPadding: 12
             leftPadding: 4
             text: screen.model.footer
+        }
+        // The rows may come after the list, which would then begin below its heading.
+        Timer {
+            interval: 0
+            running: list.count > 0
+            onTriggered: list.contentY = list.originY - list.topMargin
         }
         delegate: PayoutEntry {
             model: screen.model

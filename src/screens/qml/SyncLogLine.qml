@@ -14,7 +14,6 @@ RowFrame {
     leftPadding: 16
     rightPadding: 16
     overhang: -6
-    tabStop: ListView.isCurrentItem || (index === 0 && ListView.view !== null && ListView.view.currentIndex < 0)
     Accessible.name: line.row.key
 
     contentItem: ColumnLayout {

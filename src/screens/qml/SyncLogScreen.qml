@@ -13,12 +13,15 @@ ListView {
 
     leftMargin: (list.width - list.rowWidth) / 2
     rightMargin: leftMargin
+    // What is shown doesn't follow the margins by itself.
+    onLeftMarginChanged: list.contentX = -list.leftMargin
     topMargin: 20
     bottomMargin: 20
     clip: true
     focus: true
     // No line is framed before an arrow key asks for one.
     currentIndex: -1
+    activeFocusOnTab: list.currentIndex < 0 || list.activeFocus
     cacheBuffer: 400
     boundsBehavior: Flickable.StopAtBounds
     highlightMoveDuration: Theme.quick

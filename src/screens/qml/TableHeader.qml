@@ -12,7 +12,8 @@ TableStrip {
 
     Row {
         id: row
-        x: header.table.padding
+        anchors.left: parent.left
+        anchors.leftMargin: header.table.padding
         spacing: header.table.spacing
         PlainText {
             width: header.table.nameWidth

@@ -31,6 +31,7 @@ TableStrip {
             implicitHeight: cells.childrenRect.height
             Row {
                 id: cells
+                anchors.left: parent.left
                 spacing: strip.table.spacing
             }
         }
