@@ -128,7 +128,8 @@ class BenchRun {
         std::vector<double> unchanged;
         std::vector<double> oneReport;
         const SalesReportBody& report = data_.sales.at(data_.sales.size() / 2);
-        const auto rows = parseSales(gunzipIfNeeded(report.gzip)).rows;
+        const std::string text = gunzipIfNeeded(report.gzip);
+        const auto rows = parseSales(text).rows;
         for (int repeat = 0; repeat < repeats; ++repeat) {
             const auto reload = [&] { program.store().reload(program.context()); };
             unchanged.push_back(millisecondsOf(reload));

@@ -34,6 +34,11 @@ void ModelContext::replaceSalesRows(const std::string& frequencyRaw, const std::
     salesLines_.replace(frequencyRaw, reportDate, encodedAll(rows, texts_, offers_));
 }
 
+void ModelContext::replaceSalesRows(const std::string& frequencyRaw, const std::string& reportDate,
+                                    const std::vector<SalesRowView>& rows) {
+    salesLines_.replace(frequencyRaw, reportDate, encodedAll(rows, texts_, offers_));
+}
+
 void ModelContext::replaceFinanceRows(const std::string& region, const std::string& fiscalPeriod,
                                       const std::vector<ParsedFinanceRow>& rows) {
     financeLines_.replace(region, fiscalPeriod, encodedAll(rows, texts_));

@@ -29,6 +29,7 @@ struct SalesLine {
     TextID orderType = 0;
 };
 
+[[nodiscard]] SalesLine encoded(const SalesRowView& row, LineTexts& texts, OfferDictionary& offers);
 [[nodiscard]] SalesLine encoded(const ParsedSalesRow& row, LineTexts& texts, OfferDictionary& offers);
 [[nodiscard]] ParsedSalesRow decoded(const SalesLine& line, const TextDictionary& texts,
                                      const OfferDictionary& offers);

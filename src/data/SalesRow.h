@@ -5,36 +5,43 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace vantrell {
 
-/// One parsed line of a sales report. `units` is negative for a refund; amounts are per unit.
-struct ParsedSalesRow {
+/// One parsed line of a sales report, with its texts as strings or as views. `units` is negative for a
+/// refund; amounts are per unit.
+template <typename Text>
+struct SalesRowOf {
     Instant beginDate = distantPast;  ///< noon UTC of the day
     Instant endDate = distantPast;    ///< noon UTC of the day
-    std::string sku;
-    std::string title;
-    std::string version;
-    std::string productType;
-    std::string parentSKU;  ///< of an in-app line: the SKU of the app that owns the product
+    Text sku;
+    Text title;
+    Text version;
+    Text productType;
+    Text parentSKU;  ///< of an in-app line: the SKU of the app that owns the product
     std::int64_t units = 0;
     Decimal proceedsPerUnit;
-    std::string proceedsCurrency;
+    Text proceedsCurrency;
     Decimal customerPrice;
-    std::string customerCurrency;
-    std::string country;
+    Text customerCurrency;
+    Text country;
     std::int64_t appleID = 0;  ///< of an in-app line: the product's own; 0 means none
-    std::string promoCode;
-    std::string subscription;
-    std::string period;
-    std::string device;
-    std::string platforms;
-    std::string proceedsReason;
-    std::string client;
-    std::string orderType;
+    Text promoCode;
+    Text subscription;
+    Text period;
+    Text device;
+    Text platforms;
+    Text proceedsReason;
+    Text client;
+    Text orderType;
 
-    bool operator==(const ParsedSalesRow&) const = default;
+    bool operator==(const SalesRowOf&) const = default;
 };
+
+using ParsedSalesRow = SalesRowOf<std::string>;
+/// Refers to the text of the report.
+using SalesRowView = SalesRowOf<std::string_view>;
 
 /// A stored sales line: a parsed one and the report that it belongs to.
 struct SalesRow {

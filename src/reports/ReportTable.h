@@ -32,7 +32,7 @@ struct ParsedReport {
 template <typename Row>
 struct TextField {
     std::string_view key;
-    std::string Row::*member;
+    decltype(Row::title) Row::*member;
 };
 
 /// Copies a row's text cells, with every column looked up once for the whole report.
@@ -52,7 +52,7 @@ class TextColumns {
     }
 
   private:
-    std::array<std::pair<std::size_t, std::string Row::*>, Count> members_;
+    std::array<std::pair<std::size_t, decltype(Row::title) Row::*>, Count> members_;
 };
 
 /// Walks through a report's lines: what stands before the header leaves no trace, and a line that is shorter

@@ -5,23 +5,23 @@
 namespace vantrell {
 namespace {
 
-constexpr std::array<TextField<ParsedSalesRow>, 16> textFields{{
-    {"sku", &ParsedSalesRow::sku},
-    {"title", &ParsedSalesRow::title},
-    {"version", &ParsedSalesRow::version},
-    {"product_type_identifier", &ParsedSalesRow::productType},
-    {"parent_identifier", &ParsedSalesRow::parentSKU},
-    {"currency_of_proceeds", &ParsedSalesRow::proceedsCurrency},
-    {"customer_currency", &ParsedSalesRow::customerCurrency},
-    {"country_code", &ParsedSalesRow::country},
-    {"promo_code", &ParsedSalesRow::promoCode},
-    {"subscription", &ParsedSalesRow::subscription},
-    {"period", &ParsedSalesRow::period},
-    {"device", &ParsedSalesRow::device},
-    {"supported_platforms", &ParsedSalesRow::platforms},
-    {"proceeds_reason", &ParsedSalesRow::proceedsReason},
-    {"client", &ParsedSalesRow::client},
-    {"order_type", &ParsedSalesRow::orderType},
+constexpr std::array<TextField<SalesRowView>, 16> textFields{{
+    {"sku", &SalesRowView::sku},
+    {"title", &SalesRowView::title},
+    {"version", &SalesRowView::version},
+    {"product_type_identifier", &SalesRowView::productType},
+    {"parent_identifier", &SalesRowView::parentSKU},
+    {"currency_of_proceeds", &SalesRowView::proceedsCurrency},
+    {"customer_currency", &SalesRowView::customerCurrency},
+    {"country_code", &SalesRowView::country},
+    {"promo_code", &SalesRowView::promoCode},
+    {"subscription", &SalesRowView::subscription},
+    {"period", &SalesRowView::period},
+    {"device", &SalesRowView::device},
+    {"supported_platforms", &SalesRowView::platforms},
+    {"proceeds_reason", &SalesRowView::proceedsReason},
+    {"client", &SalesRowView::client},
+    {"order_type", &SalesRowView::orderType},
 }};
 
 /// Reads a date column, whose cells are mostly the same from line to line. The texts must stay.
@@ -46,7 +46,7 @@ class DateColumn {
 
 class SalesRowReader {
   public:
-    using Row = ParsedSalesRow;
+    using Row = SalesRowView;
 
     explicit SalesRowReader(const ReportColumns& columns)
         : texts_(columns, textFields),

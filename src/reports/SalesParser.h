@@ -7,10 +7,10 @@
 
 namespace vantrell {
 
-using ParsedSales = ParsedReport<ParsedSalesRow>;
+using ParsedSales = ParsedReport<SalesRowView>;
 
 /// Reads the text of one sales report, of any frequency. Every line with a begin date and no fewer cells than
-/// the header becomes a row; a report without a header has none.
+/// the header becomes a row; a report without a header has none. The rows refer to the text.
 [[nodiscard]] ParsedSales parseSales(std::string_view text);
 
 }  // namespace vantrell

@@ -3,6 +3,7 @@
 #include "platform/Overloaded.h"
 #include "sync/SyncEngine.h"
 
+#include <memory>
 #include <utility>
 
 // One report's way from its stored status through one request to its rows, new status and log line.
@@ -47,10 +48,11 @@ QCoro::Task<ReportStatus> SyncEngine::syncReport(Request request, bool force) {
     const Instant started = clock_.now();
     ReportResponse answer = co_await request.fetch(client_, life_.token());
     std::optional<typename Request::Parsed> parsed(std::in_place);
+    // Rows may refer to the text.
+    std::shared_ptr<const std::string> text;
     if (auto* const success = std::get_if<response::Success>(&answer)) {
-        std::function<typename Request::Parsed()> parse = [text = std::move(success->text)] {
-            return Request::parse(text);
-        };
+        text = std::make_shared<const std::string>(std::move(success->text));
+        std::function<typename Request::Parsed()> parse = [text] { return Request::parse(*text); };
         parsed = co_await worker_.run(std::move(parse), life_.token());
     }
     if (isClosing()) {

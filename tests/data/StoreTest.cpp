@@ -121,7 +121,7 @@ TEST(Store, ReplacesOnlyTheRowsOfThatReport) {
     ASSERT_EQ(context->save(), std::nullopt);
     context->replaceSalesRows("DAILY", "2026-08-14", {sale(4, "1")});
     context->replaceSalesRows("DAILY", "2026-08-14", {sale(5, "1")});
-    context->replaceSalesRows("DAILY", "2026-08-15", {});
+    context->replaceSalesRows("DAILY", "2026-08-15", std::vector<ParsedSalesRow>());
     ASSERT_EQ(context->save(), std::nullopt);
     const auto rows = store.open()->fetchSalesRows();
     ASSERT_EQ(rows.size(), 1U);

@@ -10,8 +10,8 @@ Instant firstDay(const std::string& label) {
     return date ? Instant(std::chrono::sys_days(*date) + std::chrono::hours(12)) : distantPast;
 }
 
-ParsedSalesRow row(const Line& line, Instant date) {
-    ParsedSalesRow row;
+SalesRowView row(const Line& line, Instant date) {
+    SalesRowView row;
     row.beginDate = date;
     row.endDate = date;
     row.appleID = line.appleID;
@@ -48,7 +48,7 @@ std::unique_ptr<EarningsStore> EarningsFixture::another() {
 
 void EarningsFixture::report(ReportFrequency frequency, const std::string& date,
                              const std::vector<Line>& lines, ReportStatus status) {
-    std::vector<ParsedSalesRow> rows;
+    std::vector<SalesRowView> rows;
     rows.reserve(lines.size());
     for (const Line& line : lines) {
         rows.push_back(row(line, firstDay(date)));
@@ -57,7 +57,7 @@ void EarningsFixture::report(ReportFrequency frequency, const std::string& date,
 }
 
 void EarningsFixture::parsedReport(ReportFrequency frequency, const std::string& date,
-                                   const std::vector<ParsedSalesRow>& rows, ReportStatus status) {
+                                   const std::vector<SalesRowView>& rows, ReportStatus status) {
     const std::string raw(rawText(frequency));
     context_->replaceSalesRows(raw, date, rows);
     SalesReport record;

@@ -50,7 +50,7 @@ class EarningsFixture {
     void report(ReportFrequency frequency, const std::string& date, const std::vector<Line>& lines,
                 ReportStatus status = ReportStatus::ok);
     void parsedReport(ReportFrequency frequency, const std::string& date,
-                      const std::vector<ParsedSalesRow>& rows, ReportStatus status = ReportStatus::ok);
+                      const std::vector<SalesRowView>& rows, ReportStatus status = ReportStatus::ok);
     void daily(const std::string& date, const std::vector<Line>& lines) {
         report(ReportFrequency::daily, date, lines);
     }
