@@ -92,6 +92,16 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     EXPECT_LT(newcomer.app().store().dailyStatuses().size(), 300U) << "the backfill was not stopped";
     driver.expectToSee(QAccessible::Button, QStringLiteral("Most recent day with data, "));
 
+    // All apps are left out, and one is taken in again.
+    const AppInfo app = newcomer.app().store().catalog().apps().front();
+    driver.click(QAccessible::Button, QStringLiteral("All Apps"));
+    driver.click(QAccessible::CheckBox, QStringLiteral("All Apps"));
+    driver.expectToSee(QAccessible::Button, QStringLiteral("All time, 0.00"));
+    driver.click(QAccessible::CheckBox, QString::fromStdString(app.title));
+    driver.key(Qt::Key_Escape);
+    EXPECT_EQ(newcomer.app().store().appFilter(), AppFilter({app.id}));
+    EXPECT_FALSE(driver.sees(QAccessible::Button, QStringLiteral("All time, 0.00")));
+
     // A day is opened from the chart and closed, by keyboard and by pointer.
     const DaySheet& sheet = *newcomer.root().dashboard()->selectedDay();
     const auto isClosed = [&] { return sheet.day() == nullptr; };

@@ -61,6 +61,8 @@ void WindowDriver::expectToSee(QAccessible::Role role, const QString& name) {
 
 void WindowDriver::click(QAccessible::Role role, const QString& name) {
     expectToSee(role, name);
+    // What has just come still finds its place.
+    waitForFrame();
     if (QAccessibleInterface* item = find(role, name)) {
         const QPoint middle = window_.mapFromGlobal(item->rect().center());
         QTest::mouseClick(&window_, Qt::LeftButton, {}, middle);
@@ -95,6 +97,14 @@ void WindowDriver::tabTo(QAccessible::Role role, const QString& name) {
 void WindowDriver::waitUntil(const std::function<bool()>& isSo, const std::string& what) {
     const bool came = QTest::qWaitFor(isSo, static_cast<int>(patience.count()));
     EXPECT_TRUE(came) << "waited in vain " << what;
+}
+
+void WindowDriver::waitForFrame() {
+    bool isPainted = false;
+    const auto watch = QObject::connect(&window_, &QQuickWindow::frameSwapped, [&] { isPainted = true; });
+    window_.update();
+    waitUntil([&] { return isPainted; }, "for a frame");
+    QObject::disconnect(watch);
 }
 
 void WindowDriver::settle() {

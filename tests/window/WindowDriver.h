@@ -29,6 +29,7 @@ class WindowDriver {
     static void settle();
 
   private:
+    void waitForFrame();
     /// The first visible item whose name is, or begins with, `name`; null if there is none.
     [[nodiscard]] QAccessibleInterface* find(QAccessible::Role role, const QString& name) const;
 
