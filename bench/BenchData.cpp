@@ -17,7 +17,7 @@ namespace {
 using std::chrono::days;
 using std::chrono::months;
 
-constexpr days daysOfData{365};
+constexpr days daysOfData{365};  // of a year
 constexpr int monthsOfData = 12;
 constexpr int firstYear = 2023;
 constexpr int lastYear = 2025;
@@ -61,10 +61,10 @@ std::int64_t BenchData::lines() const {
     return lines;
 }
 
-BenchData makeBenchData(std::int64_t dailyLines) {
+BenchData makeBenchData(std::int64_t dailyLines, int years) {
     const sample::SampleAccount account({.ordersPerDay = ordersPerDayFor(dailyLines)});
     BenchData data;
-    for (auto day = today - daysOfData; day < today; day += days{1}) {
+    for (auto day = today - years * daysOfData; day < today; day += days{1}) {
         data.sales.push_back(salesReport(account, ReportFrequency::daily, {day, day}));
     }
     const CivilDate now{today};

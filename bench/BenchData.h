@@ -33,9 +33,9 @@ struct BenchData {
     [[nodiscard]] std::int64_t lines() const;
 };
 
-/// The year before `today` by day, with about `dailyLines` lines in all, its months, the years before, and a
-/// year of finance reports.
-[[nodiscard]] BenchData makeBenchData(std::int64_t dailyLines);
+/// The last `years` years before `today` by day, with about `dailyLines` lines in the last of them, its
+/// months, the years before, and a year of finance reports.
+[[nodiscard]] BenchData makeBenchData(std::int64_t dailyLines, int years = 1);
 
 /// The gzip body of one report of exactly `lines` lines, made of the first daily reports of `data`.
 [[nodiscard]] std::string reportOfLines(const BenchData& data, std::int64_t lines);
