@@ -30,11 +30,6 @@ ModelContext::ModelContext(SqliteDatabase& database)
       financeLines_(database) {}
 
 void ModelContext::replaceSalesRows(const std::string& frequencyRaw, const std::string& reportDate,
-                                    const std::vector<ParsedSalesRow>& rows) {
-    salesLines_.replace(frequencyRaw, reportDate, encodedAll(rows, texts_, offers_));
-}
-
-void ModelContext::replaceSalesRows(const std::string& frequencyRaw, const std::string& reportDate,
                                     const std::vector<SalesRowView>& rows) {
     salesLines_.replace(frequencyRaw, reportDate, encodedAll(rows, texts_, offers_));
 }

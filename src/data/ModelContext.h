@@ -28,8 +28,6 @@ class ModelContext {
 
     /// Removes all rows of that sales report and puts `rows` in their place, in this order.
     void replaceSalesRows(const std::string& frequencyRaw, const std::string& reportDate,
-                          const std::vector<ParsedSalesRow>& rows);
-    void replaceSalesRows(const std::string& frequencyRaw, const std::string& reportDate,
                           const std::vector<SalesRowView>& rows);
     /// Likewise for a finance report.
     void replaceFinanceRows(const std::string& region, const std::string& fiscalPeriod,

@@ -2,10 +2,7 @@
 
 namespace vantrell {
 
-namespace {
-
-template <typename Text>
-SalesLine encodedLine(const SalesRowOf<Text>& row, LineTexts& texts, OfferDictionary& offers) {
+SalesLine encoded(const SalesRowView& row, LineTexts& texts, OfferDictionary& offers) {
     texts.startLine();
     const StoredOffer offer{.sku = texts.intern(row.sku),
                             .title = texts.intern(row.title),
@@ -30,16 +27,6 @@ SalesLine encodedLine(const SalesRowOf<Text>& row, LineTexts& texts, OfferDictio
             .proceedsReason = texts.intern(row.proceedsReason),
             .client = texts.intern(row.client),
             .orderType = texts.intern(row.orderType)};
-}
-
-}  // namespace
-
-SalesLine encoded(const SalesRowView& row, LineTexts& texts, OfferDictionary& offers) {
-    return encodedLine(row, texts, offers);
-}
-
-SalesLine encoded(const ParsedSalesRow& row, LineTexts& texts, OfferDictionary& offers) {
-    return encodedLine(row, texts, offers);
 }
 
 ParsedSalesRow decoded(const SalesLine& line, const TextDictionary& texts, const OfferDictionary& offers) {

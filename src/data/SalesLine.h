@@ -30,7 +30,6 @@ struct SalesLine {
 };
 
 [[nodiscard]] SalesLine encoded(const SalesRowView& row, LineTexts& texts, OfferDictionary& offers);
-[[nodiscard]] SalesLine encoded(const ParsedSalesRow& row, LineTexts& texts, OfferDictionary& offers);
 [[nodiscard]] ParsedSalesRow decoded(const SalesLine& line, const TextDictionary& texts,
                                      const OfferDictionary& offers);
 

@@ -28,7 +28,7 @@ struct ParsedReport {
     bool operator==(const ParsedReport&) const = default;
 };
 
-/// Which member of a row holds the text of the column with this key.
+/// Which member of a row holds the text of the column with this key, as a string or as a view.
 template <typename Row>
 struct TextField {
     std::string_view key;

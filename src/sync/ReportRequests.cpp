@@ -50,7 +50,7 @@ void SalesReportRequest::storeRows(ModelContext& context, SalesReport& report, c
 }
 
 void SalesReportRequest::removeRows(ModelContext& context) const {
-    context.replaceSalesRows(std::string(rawText(frequency)), reportDate, std::vector<SalesRowView>());
+    context.replaceSalesRows(std::string(rawText(frequency)), reportDate, {});
 }
 
 std::string FinanceReportRequest::logKey() const {

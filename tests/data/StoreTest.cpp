@@ -43,7 +43,7 @@ TEST(Store, ReadsBackEveryPropertyAfterReopening) {
     context->financeReports().insert(finance);
     context->rateSets().insert(rates);
     context->syncLog().insert(entry);
-    context->replaceSalesRows("MONTHLY", "2026-08", {fullSalesRow(), ParsedSalesRow()});
+    context->replaceSalesRows("MONTHLY", "2026-08", {fullSalesRow(), SalesRowView()});
     context->replaceFinanceRows("ZZ", "2026-11", {fullFinanceRow()});
     ASSERT_EQ(context->save(), std::nullopt);
 
@@ -55,7 +55,7 @@ TEST(Store, ReadsBackEveryPropertyAfterReopening) {
     EXPECT_EQ(context->rateSets().all().begin()->second, rates);
     EXPECT_EQ(context->syncLog().all().begin()->second, entry);
     EXPECT_EQ(context->fetchSalesRows(),
-              (std::vector<SalesRow>{{"default", "MONTHLY", "2026-08", fullSalesRow()},
+              (std::vector<SalesRow>{{"default", "MONTHLY", "2026-08", fullSalesRow<std::string>()},
                                      {"default", "MONTHLY", "2026-08", ParsedSalesRow()}}));
     EXPECT_EQ(context->fetchFinanceRows(),
               (std::vector<FinanceRow>{{"default", "ZZ", "2026-11", fullFinanceRow()}}));
@@ -75,7 +75,7 @@ TEST(Store, KeepsDecimalsExactInEveryForm) {
                                             "1" + std::string(400, '0')};
     StoreFixture store;
     ModelContext* context = store.open();
-    std::vector<ParsedSalesRow> rows;
+    std::vector<SalesRowView> rows;
     for (const std::string& text : texts) {
         rows.push_back(sale(1, text));
     }
@@ -121,7 +121,7 @@ TEST(Store, ReplacesOnlyTheRowsOfThatReport) {
     ASSERT_EQ(context->save(), std::nullopt);
     context->replaceSalesRows("DAILY", "2026-08-14", {sale(4, "1")});
     context->replaceSalesRows("DAILY", "2026-08-14", {sale(5, "1")});
-    context->replaceSalesRows("DAILY", "2026-08-15", std::vector<ParsedSalesRow>());
+    context->replaceSalesRows("DAILY", "2026-08-15", {});
     ASSERT_EQ(context->save(), std::nullopt);
     const auto rows = store.open()->fetchSalesRows();
     ASSERT_EQ(rows.size(), 1U);

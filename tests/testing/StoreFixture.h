@@ -42,7 +42,8 @@ class StoreFixture {
 }
 
 /// A sale with a different value in every field.
-[[nodiscard]] inline ParsedSalesRow fullSalesRow() {
+template <typename Text = std::string_view>
+[[nodiscard]] SalesRowOf<Text> fullSalesRow() {
     return {.beginDate = noon(2026, 8, 14),
             .endDate = noon(2026, 8, 15),
             .sku = "SKU-1",
@@ -67,8 +68,8 @@ class StoreFixture {
             .orderType = "Pre-order"};
 }
 
-[[nodiscard]] inline ParsedSalesRow sale(std::int64_t units, const std::string& proceeds) {
-    ParsedSalesRow row;
+[[nodiscard]] inline SalesRowView sale(std::int64_t units, const std::string& proceeds) {
+    SalesRowView row;
     row.beginDate = noon(2026, 8, 14);
     row.endDate = row.beginDate;
     row.units = units;

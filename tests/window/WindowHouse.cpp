@@ -31,7 +31,7 @@ WindowHouse::WindowHouse(const LocaleNames& locale) : locale_(locale) {
 
 void WindowHouse::daily(const std::string& date, const std::string& title, const std::string& currency,
                         int lines) {
-    ParsedSalesRow row;
+    SalesRowView row;
     row.beginDate = row.endDate = clock_.now();
     row.appleID = 1;
     row.title = row.sku = title;
@@ -40,7 +40,7 @@ void WindowHouse::daily(const std::string& date, const std::string& title, const
     row.proceedsPerUnit = 1;
     row.proceedsCurrency = row.customerCurrency = row.country = currency;
     app_->context().replaceSalesRows("DAILY", date,
-                                     std::vector<ParsedSalesRow>(static_cast<std::size_t>(lines), row));
+                                     std::vector<SalesRowView>(static_cast<std::size_t>(lines), row));
     SalesReport report{.reportDate = date, .message = title};
     report.setStatus(ReportStatus::ok);
     app_->context().salesReports().insert(report);

@@ -39,7 +39,6 @@ Item {
         active: false
         sourceComponent: CopyMenu {
             parent: handler
-            copyTitle: Theme.clipboard.copyTitle
             onCopied: Theme.clipboard.copy(handler.text)
             onClosed: menu.active = false
         }

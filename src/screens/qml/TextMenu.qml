@@ -12,21 +12,19 @@ Popover {
     padding: 6
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
 
-    Clipboard { id: clipboard }
-
     contentItem: Column {
         Entry {
             id: cut
             focus: pane.hasChosen
             enabled: pane.hasChosen
-            text: clipboard.cutTitle
+            text: Theme.clipboard.cutTitle
             KeyNavigation.down: copy
             onClicked: pane.field.cut()
         }
         Entry {
             id: copy
             enabled: pane.hasChosen
-            text: clipboard.copyTitle
+            text: Theme.clipboard.copyTitle
             KeyNavigation.up: cut
             KeyNavigation.down: paste
             onClicked: pane.field.copy()
@@ -34,7 +32,7 @@ Popover {
         Entry {
             id: paste
             enabled: pane.field.canPaste
-            text: clipboard.pasteTitle
+            text: Theme.clipboard.pasteTitle
             KeyNavigation.up: copy
             KeyNavigation.down: all
             onClicked: pane.field.paste()
@@ -44,7 +42,7 @@ Popover {
             id: all
             focus: !pane.hasChosen
             enabled: pane.field.length > 0
-            text: clipboard.selectAllTitle
+            text: Theme.clipboard.selectAllTitle
             KeyNavigation.up: paste
             onClicked: pane.field.selectAll()
         }
