@@ -72,7 +72,7 @@ void AppsView::addProceeds(BlockBuilder& rows) {
 void AppsView::addEntry(BlockBuilder& rows, const AppTableEntry& entry, bool isBanded) {
     const auto products = productsByApp_.find(entry.app.id);
     const bool hasProducts = products != productsByApp_.end() && !products->second.empty();
-    rows.add(RowKind::Windows, [this, &entry, isBanded, hasProducts] {
+    rows.add(RowKind::AppWindows, [this, &entry, isBanded, hasProducts] {
         WindowsRow row = windowsRow(context(), entry);
         row.icon = icon(entry.app.id);
         row.isBanded = isBanded;
@@ -83,7 +83,8 @@ void AppsView::addEntry(BlockBuilder& rows, const AppTableEntry& entry, bool isB
         return;
     }
     for (const ProductWindowStat& product : products->second) {
-        rows.add(RowKind::Windows, [this, &product, isBanded, isLast = &product == &products->second.back()] {
+        const bool isLast = &product == &products->second.back();
+        rows.add(RowKind::ProductWindows, [this, &product, isBanded, isLast] {
             WindowsRow row = windowsRow(context(), product);
             row.isBanded = isBanded;
             row.startsEntry = false;

@@ -24,7 +24,8 @@ bool takesFocus(RowKind::Value kind) {
         case RowKind::Day:
         case RowKind::Product:
         case RowKind::Country:
-        case RowKind::Windows:
+        case RowKind::AppWindows:
+        case RowKind::ProductWindows:
         case RowKind::Years:
         case RowKind::Payout:
             return true;
@@ -113,7 +114,7 @@ QVariant BlockList::data(const QModelIndex& index, int role) const {
         case rowRole:
             return row.value();
         case kindRole:
-            return row.kind;
+            return static_cast<int>(row.kind);
         case startsBlockRole:
             return row.startsBlock;
         case endsBlockRole:

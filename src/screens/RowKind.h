@@ -13,21 +13,22 @@ class RowKind : public QObject {
 
   public:
     enum Value {
-        Heading,       ///< QString
-        Note,          ///< QString, in small print
-        Absence,       ///< QString, in place of a list
-        Tiles,         ///< nothing: the screen has them
-        Chart,         ///< likewise
-        WindowTitles,  ///< ColumnTitles
-        YearTitles,    ///< ColumnTitles
-        PayoutTitles,  ///< ColumnTitles
-        Period,        ///< PeriodRowView
-        Day,           ///< DayRowView
-        Product,       ///< ProductRowView
-        Country,       ///< CountryRow
-        Windows,       ///< WindowsRow
-        Years,         ///< YearsRow
-        Payout,        ///< AppPayoutRow
+        Heading,         ///< QString
+        Note,            ///< QString, in small print
+        Absence,         ///< QString, in place of a list
+        Tiles,           ///< nothing: the screen has them
+        Chart,           ///< likewise
+        WindowTitles,    ///< ColumnTitles
+        YearTitles,      ///< ColumnTitles
+        PayoutTitles,    ///< ColumnTitles
+        Period,          ///< PeriodRowView
+        Day,             ///< DayRowView
+        Product,         ///< ProductRowView
+        Country,         ///< CountryRow
+        AppWindows,      ///< WindowsRow
+        ProductWindows,  ///< WindowsRow
+        Years,           ///< YearsRow
+        Payout,          ///< AppPayoutRow
     };
     Q_ENUM(Value)
 };

@@ -65,9 +65,10 @@ TEST_F(AppsViewTest, BandsEverySecondAppWithItsProducts) {
     const char* expected[] = {"app (", "product", "product )", "banded app ( )", "app ( )"};
     for (std::size_t place = 0; place < std::size(expected); ++place) {
         const auto row = apps.rows()->at<WindowsRow>(place + 2);
+        const RowKind::Value kind = apps.rows()->rows()[place + 2].kind;
         const std::string shown = std::string(row.isBanded ? "banded " : "") +
-                                  (row.isProduct ? "product" : "app") + (row.startsEntry ? " (" : "") +
-                                  (row.endsEntry ? " )" : "");
+                                  (kind == RowKind::ProductWindows ? "product" : "app") +
+                                  (row.startsEntry ? " (" : "") + (row.endsEntry ? " )" : "");
         EXPECT_EQ(shown, expected[place]);
     }
 }

@@ -47,7 +47,6 @@ WindowsRow windowsRow(const FigureContext& context, const ProductWindowStat& pro
     WindowsRow row = withCells(context, product);
     row.appID = product.appID;
     row.title = shownText(product.title);
-    row.isProduct = true;
     return row;
 }
 

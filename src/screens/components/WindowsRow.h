@@ -13,7 +13,6 @@ struct WindowsRow {
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(QString caption MEMBER caption)
     Q_PROPERTY(QString icon MEMBER icon)
-    Q_PROPERTY(bool isProduct MEMBER isProduct)
     Q_PROPERTY(bool isBanded MEMBER isBanded)
     Q_PROPERTY(bool startsEntry MEMBER startsEntry)
     Q_PROPERTY(bool endsEntry MEMBER endsEntry)
@@ -26,9 +25,8 @@ struct WindowsRow {
   public:
     std::int64_t appID = 0;  ///< of the app that the row belongs to
     QString title;
-    QString caption;         ///< empty for a product
-    QString icon;            ///< where an Image finds it; empty if that isn't known
-    bool isProduct = false;  ///< stands beneath its app
+    QString caption;  ///< empty for a product
+    QString icon;     ///< where an Image finds it; empty if that isn't known
     // An app and its products are one entry of the table.
     bool isBanded = false;
     bool startsEntry = true;

@@ -1,4 +1,5 @@
 import QtQuick
+import Qt.labs.qmlmodels
 import Vantrell
 
 BlockView {
@@ -9,36 +10,44 @@ BlockView {
     focus: true
     rows: screen.detail.rows
     Accessible.name: screen.detail.title
-    delegate: BlockRowView {
-        id: entry
-        special: {
-            switch (entry.kind) {
-            case RowKind.Tiles: return tiles
-            case RowKind.Chart: return chart
-            default: return country
+    delegate: BlockDelegates {
+        DelegateChoice {
+            roleValue: RowKind.Tiles
+            BlockRowView {
+                id: tiles
+                isBare: true
+                TileGrid {
+                    width: tiles.contentWidth
+                    tiles: screen.detail.tiles
+                }
             }
         }
+        DelegateChoice {
+            roleValue: RowKind.Chart
+            BlockRowView {
+                id: chart
+                ChartBlock {
+                    width: chart.contentWidth
+                    chartHeight: 220
+                    chart: screen.detail.chart
+                    legend: screen.detail.legend
+                    viewport: screen
+                }
+            }
+        }
+        DelegateChoice {
+            roleValue: RowKind.Country
+            BlockRowView {
+                id: country
+                CountryLine {
+                    width: country.contentWidth
+                    row: country.row
+                    tabStop: country.isStop
+                    focus: true
+                }
+            }
+        }
+    }
 
-        Component {
-            id: tiles
-            TileGrid { tiles: screen.detail.tiles }
-        }
-        Component {
-            id: chart
-            ChartBlock {
-                chartHeight: 220
-                chart: screen.detail.chart
-                legend: screen.detail.legend
-                viewport: screen
-            }
-        }
-        Component {
-            id: country
-            CountryLine {
-                row: entry.row
-                tabStop: entry.isStop
-                focus: true
-            }
-        }
-    }    DaySheetPopup { sheet: screen.detail.selectedDay }
+    DaySheetPopup { sheet: screen.detail.selectedDay }
 }

@@ -6,6 +6,7 @@ TableRow {
     id: line
 
     required property yearsRow row
+    readonly property var amounts: row.cells
 
     copyText: line.row.copyText
     topPadding: 5
@@ -17,18 +18,21 @@ TableRow {
         font.weight: Font.Medium
     }
     Repeater {
-        model: line.row.cells
+        // By number, so that another app's figures come into what is there.
+        model: line.table.columns
         DataText {
-            required property yearCell modelData
+            required property int index
+            // Absent while there is one more year, until the rows know of it.
+            readonly property var cell: line.amounts[index]
             anchors.verticalCenter: parent !== null ? parent.verticalCenter : undefined
             width: line.table.columnWidth
             horizontalAlignment: Text.AlignRight
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 10
-            text: modelData.text
+            text: cell?.text ?? ""
             font.pixelSize: Theme.callout
-            color: modelData.isEmpty ? Theme.tertiary : Theme.primary
-            Accessible.name: modelData.spoken
+            color: cell?.isEmpty ?? true ? Theme.tertiary : Theme.primary
+            Accessible.name: cell?.spoken ?? ""
         }
     }
 }

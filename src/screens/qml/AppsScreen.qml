@@ -1,4 +1,5 @@
 import QtQuick
+import Qt.labs.qmlmodels
 import Vantrell
 
 Item {
@@ -43,53 +44,88 @@ Item {
         focus: true
         rows: screen.apps.rows
         Accessible.name: screen.apps.title
-        delegate: BlockRowView {
-            id: entry
-            special: {
-                switch (entry.kind) {
-                case RowKind.WindowTitles: return windowTitles
-                case RowKind.Windows: return windowsRow
-                case RowKind.YearTitles: return yearTitles
-                case RowKind.Years: return yearsRow
-                case RowKind.PayoutTitles: return payoutTitles
-                default: return payoutRow
+        delegate: BlockDelegates {
+            DelegateChoice {
+                roleValue: RowKind.WindowTitles
+                BlockRowView {
+                    id: windowTitles
+                    TableHeader {
+                        width: windowTitles.contentWidth
+                        table: windows
+                        titles: windowTitles.row
+                    }
                 }
             }
-            Component {
-                id: windowTitles
-                TableHeader { table: windows; titles: entry.row }
-            }
-            Component {
-                id: windowsRow
-                AppWindowsRow {
-                    table: windows
-                    row: entry.row
-                    tabStop: entry.isStop
-                    onActivated: screen.apps.open(entry.row)
+            DelegateChoice {
+                roleValue: RowKind.AppWindows
+                BlockRowView {
+                    id: app
+                    AppWindowsRow {
+                        width: app.contentWidth
+                        table: windows
+                        row: app.row
+                        tabStop: app.isStop
+                        onActivated: screen.apps.open(app.row)
+                    }
                 }
             }
-            Component {
-                id: yearTitles
-                TableHeader { table: years; titles: entry.row }
-            }
-            Component {
-                id: yearsRow
-                AppYearsRow {
-                    table: years
-                    row: entry.row
-                    tabStop: entry.isStop
+            DelegateChoice {
+                roleValue: RowKind.ProductWindows
+                BlockRowView {
+                    id: product
+                    ProductWindowsRow {
+                        width: product.contentWidth
+                        table: windows
+                        row: product.row
+                        tabStop: product.isStop
+                        onActivated: screen.apps.open(product.row)
+                    }
                 }
             }
-            Component {
-                id: payoutTitles
-                TableHeader { table: payouts; titles: entry.row }
+            DelegateChoice {
+                roleValue: RowKind.YearTitles
+                BlockRowView {
+                    id: yearTitles
+                    TableHeader {
+                        width: yearTitles.contentWidth
+                        table: years
+                        titles: yearTitles.row
+                    }
+                }
             }
-            Component {
-                id: payoutRow
-                AppPaidRow {
-                    table: payouts
-                    row: entry.row
-                    tabStop: entry.isStop
+            DelegateChoice {
+                roleValue: RowKind.Years
+                BlockRowView {
+                    id: earned
+                    AppYearsRow {
+                        width: earned.contentWidth
+                        table: years
+                        row: earned.row
+                        tabStop: earned.isStop
+                    }
+                }
+            }
+            DelegateChoice {
+                roleValue: RowKind.PayoutTitles
+                BlockRowView {
+                    id: payoutTitles
+                    TableHeader {
+                        width: payoutTitles.contentWidth
+                        table: payouts
+                        titles: payoutTitles.row
+                    }
+                }
+            }
+            DelegateChoice {
+                roleValue: RowKind.Payout
+                BlockRowView {
+                    id: paid
+                    AppPaidRow {
+                        width: paid.contentWidth
+                        table: payouts
+                        row: paid.row
+                        tabStop: paid.isStop
+                    }
                 }
             }
         }

@@ -36,6 +36,7 @@ ListView {
     boundsBehavior: Flickable.StopAtBounds
     clip: true
     cacheBuffer: 400
+    reuseItems: true
     keyNavigationEnabled: false
     highlightMoveDuration: Theme.quick
     Accessible.role: Accessible.List

@@ -26,6 +26,7 @@ Item {
     }
 
     anchors.fill: parent
+    onVisibleChanged: if (!handler.visible) menu.active = false
 
     TapHandler {
         acceptedButtons: Qt.RightButton

@@ -8,5 +8,5 @@ BlockView {
     focus: true
     rows: screen.history.rows
     Accessible.name: screen.history.title
-    delegate: BlockRowView {}
+    delegate: BlockDelegates {}
 }

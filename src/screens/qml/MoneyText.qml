@@ -29,6 +29,8 @@ T.AbstractButton {
     Keys.onReturnPressed: figure.clicked()
     Keys.onEnterPressed: figure.clicked()
     onClicked: figure.showBreakdown = !figure.showBreakdown
+    // What has left the sight opens nothing.
+    onVisibleChanged: if (!figure.visible) figure.showBreakdown = false
 
     Loader {
         anchors.fill: parent

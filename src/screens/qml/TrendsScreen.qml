@@ -1,4 +1,5 @@
 import QtQuick
+import Qt.labs.qmlmodels
 import Vantrell
 
 BlockView {
@@ -8,24 +9,29 @@ BlockView {
 
     rows: screen.trends.rows
     Accessible.name: screen.trends.title
-    delegate: BlockRowView {
-        id: entry
-        special: entry.kind === RowKind.Day ? day : chart
-
-        Component {
-            id: chart
-            TrendBlock {
-                model: screen.trends
-                viewport: screen
+    delegate: BlockDelegates {
+        DelegateChoice {
+            roleValue: RowKind.Chart
+            BlockRowView {
+                id: chart
+                TrendBlock {
+                    width: chart.contentWidth
+                    model: screen.trends
+                    viewport: screen
+                }
             }
         }
-        Component {
-            id: day
-            DayRow {
-                row: entry.row
-                tabStop: entry.isStop
-                focus: true
-                onActivated: screen.trends.openDay(entry.row.key)
+        DelegateChoice {
+            roleValue: RowKind.Day
+            BlockRowView {
+                id: day
+                DayRow {
+                    width: day.contentWidth
+                    row: day.row
+                    tabStop: day.isStop
+                    focus: true
+                    onActivated: screen.trends.openDay(day.row.key)
+                }
             }
         }
     }
