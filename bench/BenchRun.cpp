@@ -117,6 +117,7 @@ class BenchRun {
         add({"startup_first_frame_ms", figures.firstFrame, "ms", rows_});
         add({"screen_switch_ms", figures.screenSwitch, "ms", rows_});
         add({"filter_change_ms", figures.filterChange, "ms", rows_});
+        add({"open_day_ms", figures.openDay, "ms", rows_});
         add({"longest_stall_ms", figures.longestStall, "ms", rows_});
     }
 

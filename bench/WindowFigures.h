@@ -11,7 +11,8 @@ struct WindowFigures {
     double firstFrame = 0;    ///< from the start of the process to the first painted frame
     double screenSwitch = 0;  ///< the slowest screen, from its selection to the frame that shows it
     double filterChange = 0;  ///< the slowest screen, from a new app filter to the frame that shows it
-    double longestStall = 0;  ///< the longest absence of the event loop while two months are fetched again
+    double openDay = 0;       ///< from the press on yesterday to the frame that shows its sheet
+    double longestStall = 0;  ///< the longest absence of the event loop while much is fetched again
 };
 
 /// Starts this program again over the store in `folder`. Throws std::runtime_error if it fails.

@@ -3,9 +3,12 @@
 #include "data/LineWriter.h"
 #include "platform/Sqlite.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <map>
 #include <optional>
+#include <ranges>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -63,6 +66,7 @@ class LineTable {
             nextLine_ = std::max(nextLine_, entry.firstLine + entry.batch.lineCount);
             entries_.emplace(order(entry.batch), std::move(entry));
         }
+        nextPlace_ = nextLine_;
     }
     LineTable(const LineTable&) = delete;
     LineTable& operator=(const LineTable&) = delete;
@@ -128,43 +132,75 @@ class LineTable {
 
     [[nodiscard]] bool hasChanges() const { return !removed_.empty() || !pending_.empty(); }
 
-    /// Writes the pending changes inside the caller's transaction; throws SqliteError.
+    /// Writes pending changes of lines inside the caller's transaction, at most as many lines as `most` says,
+    /// from which those written are taken. What names the lines is left to `write`. Throws SqliteError.
+    void writeLines(std::int64_t& most) {
+        for (Entry& entry : removed_) {
+            deleteSome(entry, most);
+        }
+        for (Entry* entry : unsavedEntries()) {
+            insertSome(*entry, most);
+        }
+    }
+
+    /// Whether `writeLines` has more to do.
+    [[nodiscard]] bool hasUnwrittenLines() {
+        const auto isUnwritten = [](const Entry& entry) { return entry.written < entry.batch.lineCount; };
+        const auto entries = unsavedEntries();
+        return std::ranges::any_of(removed_, isUnwritten) ||
+               std::ranges::any_of(entries, [&](const Entry* entry) { return isUnwritten(*entry); });
+    }
+
+    /// Writes the pending changes, or what `writeLines` has left of them, inside the caller's transaction;
+    /// throws SqliteError.
     void write() {
-        removeOld();
-        std::int64_t line = nextLine_;
-        for (const Order& key : pending_) {
-            const auto known = entries_.find(key);
-            if (known == entries_.end()) {
-                continue;  // replaced again before it was ever saved
-            }
-            insertBatch(known->second, line);
-            line += known->second.batch.lineCount;
+        std::int64_t all = std::numeric_limits<std::int64_t>::max();
+        writeLines(all);
+        for (const Entry& entry : removed_) {
+            SqliteStatement& batch = prepared(deleteBatch_, Mapping::sql.deleteBatch);
+            batch.bind(0, entry.batch.id);
+            batch.run();
+        }
+        for (const Entry* entry : unsavedEntries()) {
+            insertBatch(*entry);
         }
     }
 
     /// To be called when that transaction was committed.
     void committed() {
         removed_.clear();
-        for (const Order& key : pending_) {
-            const auto known = entries_.find(key);
-            if (known == entries_.end()) {
-                continue;
-            }
-            Entry& entry = known->second;
-            entry.firstLine = nextLine_;
-            nextLine_ += entry.batch.lineCount;
-            entry.lines = {};
+        for (Entry* entry : unsavedEntries()) {
+            entry->firstLine = entry->place;
+            entry->lines = {};
+            entry->written = 0;
         }
         pending_.clear();
+        nextLine_ = nextPlace_;
+    }
+
+    /// To be called when it came to nothing.
+    void rolledBack() {
+        for (Entry& entry : removed_) {
+            entry.written = 0;
+        }
+        for (Entry* entry : unsavedEntries()) {
+            entry->place = unsaved;
+            entry->written = 0;
+        }
+        nextPlace_ = nextLine_;
     }
 
   private:
     static constexpr std::int64_t unsaved = 0;
+    static constexpr std::int64_t mostBelievable = 10'000'000;
 
     struct Entry {
         LineBatch batch;
         std::int64_t firstLine = unsaved;
         std::vector<Line> lines;  // only while unsaved
+        // Of the transaction under way:
+        std::int64_t place = unsaved;  // where the first line lies
+        std::int64_t written = 0;      // how many lines were inserted, or deleted
     };
 
     static Order order(const LineBatch& batch) {
@@ -189,38 +225,65 @@ class LineTable {
         select.reset();
     }
 
-    void removeOld() {
-        for (const Entry& entry : removed_) {
-            SqliteStatement& lines = prepared(deleteLines_, Mapping::sql.deleteLines);
-            lines.bind(0, entry.firstLine);
-            lines.bind(1, entry.firstLine + entry.batch.lineCount);
-            lines.run();
-            SqliteStatement& batch = prepared(deleteBatch_, Mapping::sql.deleteBatch);
-            batch.bind(0, entry.batch.id);
-            batch.run();
+    // Without those that were replaced again before they were ever saved.
+    std::vector<Entry*> unsavedEntries() {
+        std::vector<Entry*> result;
+        for (const Order& key : pending_) {
+            if (const auto known = entries_.find(key); known != entries_.end()) {
+                result.push_back(&known->second);
+            }
         }
+        return result;
     }
 
-    void insertBatch(const Entry& entry, std::int64_t firstLine) {
+    void deleteSome(Entry& entry, std::int64_t& most) {
+        // The count of a damaged store can be any number: too many to go through step by step.
+        const std::int64_t left = entry.batch.lineCount - entry.written;
+        const std::int64_t count = left > mostBelievable ? left : std::min(most, left);
+        if (count <= 0) {
+            return;
+        }
+        SqliteStatement& lines = prepared(deleteLines_, Mapping::sql.deleteLines);
+        lines.bind(0, entry.firstLine + entry.written);
+        lines.bind(1, entry.firstLine + entry.written + count);
+        lines.run();
+        entry.written += count;
+        most -= count;
+    }
+
+    void insertSome(Entry& entry, std::int64_t& most) {
+        if (entry.place == unsaved) {
+            entry.place = nextPlace_;
+            nextPlace_ += entry.batch.lineCount;
+        }
+        const std::int64_t count = std::min(most, entry.batch.lineCount - entry.written);
+        if (count <= 0) {
+            return;
+        }
+        LineWriter writer(prepared(insertLine_, Mapping::sql.insertLine));
+        const auto first = entry.lines.begin() + entry.written;
+        for (const Line& line : std::ranges::subrange(first, first + count)) {
+            Mapping::write(writer, line);
+            writer.insert(entry.place + entry.written++);
+        }
+        most -= count;
+    }
+
+    void insertBatch(const Entry& entry) {
         SqliteStatement& batch = prepared(insertBatch_, Mapping::sql.insertBatch);
         batch.bind(0, entry.batch.id);
         batch.bind(1, std::string_view(entry.batch.group));
         batch.bind(2, std::string_view(entry.batch.label));
-        batch.bind(3, firstLine);
+        batch.bind(3, entry.place);
         batch.bind(4, entry.batch.lineCount);
         batch.run();
-        SqliteStatement& insert = prepared(insertLine_, Mapping::sql.insertLine);
-        LineWriter writer(insert);
-        for (const Line& line : entry.lines) {
-            Mapping::write(writer, line);
-            writer.insert(firstLine++);
-        }
     }
 
     SqliteDatabase& database_;
     std::map<Order, Entry> entries_;
     BatchID lastID_ = 0;
     std::int64_t nextLine_ = 1;
+    std::int64_t nextPlace_ = 1;  // the same in the transaction under way
     std::vector<Entry> removed_;
     std::vector<Order> pending_;
     std::optional<SqliteStatement> selectLines_;

@@ -5,15 +5,16 @@
 namespace vantrell {
 namespace {
 
-template <typename Row, typename... Dictionaries>
-auto encodedAll(const std::vector<Row>& rows, TextDictionary& dictionary, Dictionaries&... others) {
+// A few milliseconds' work.
+constexpr std::int64_t linesAhead = 2'500;
+
+template <typename Row, typename Line, typename... Dictionaries>
+void appendEncoded(std::span<const Row> rows, std::vector<Line>& lines, TextDictionary& dictionary,
+                   Dictionaries&... others) {
     LineTexts texts(dictionary);
-    std::vector<decltype(encoded(rows.front(), texts, others...))> lines;
-    lines.reserve(rows.size());
     for (const Row& row : rows) {
         lines.push_back(encoded(row, texts, others...));
     }
-    return lines;
 }
 
 }  // namespace
@@ -29,14 +30,41 @@ ModelContext::ModelContext(SqliteDatabase& database)
       salesLines_(database),
       financeLines_(database) {}
 
+void ModelContext::encode(std::span<const SalesRowView> rows, std::vector<SalesLine>& lines) {
+    appendEncoded(rows, lines, texts_, offers_);
+}
+
+void ModelContext::encode(std::span<const ParsedFinanceRow> rows, std::vector<FinanceLine>& lines) {
+    appendEncoded(rows, lines, texts_);
+}
+
+// What was written ahead may be of the lines that are replaced, and is undone.
+void ModelContext::replaceSalesLines(const std::string& frequencyRaw, const std::string& reportDate,
+                                     std::vector<SalesLine> lines) {
+    rollBack();
+    salesLines_.replace(frequencyRaw, reportDate, std::move(lines));
+}
+
+void ModelContext::replaceFinanceLines(const std::string& region, const std::string& fiscalPeriod,
+                                       std::vector<FinanceLine> lines) {
+    rollBack();
+    financeLines_.replace(region, fiscalPeriod, std::move(lines));
+}
+
 void ModelContext::replaceSalesRows(const std::string& frequencyRaw, const std::string& reportDate,
                                     const std::vector<SalesRowView>& rows) {
-    salesLines_.replace(frequencyRaw, reportDate, encodedAll(rows, texts_, offers_));
+    std::vector<SalesLine> lines;
+    lines.reserve(rows.size());
+    encode(rows, lines);
+    replaceSalesLines(frequencyRaw, reportDate, std::move(lines));
 }
 
 void ModelContext::replaceFinanceRows(const std::string& region, const std::string& fiscalPeriod,
                                       const std::vector<ParsedFinanceRow>& rows) {
-    financeLines_.replace(region, fiscalPeriod, encodedAll(rows, texts_));
+    std::vector<FinanceLine> lines;
+    lines.reserve(rows.size());
+    encode(rows, lines);
+    replaceFinanceLines(region, fiscalPeriod, std::move(lines));
 }
 
 std::vector<SalesRow> ModelContext::fetchSalesRows() {
@@ -72,14 +100,44 @@ std::optional<StoreError> ModelContext::save() {
         return std::nullopt;
     }
     try {
-        SqliteTransaction transaction(database_);
+        begin();
         write();
-        transaction.commit();
+        transaction_->commit();
     } catch (const SqliteError& error) {
+        rollBack();
         return StoreError{error.what()};
     }
+    transaction_.reset();
     committed();
     return std::nullopt;
+}
+
+bool ModelContext::writeAhead() {
+    if (!salesLines_.hasUnwrittenLines() && !financeLines_.hasUnwrittenLines()) {
+        return false;
+    }
+    try {
+        begin();
+        std::int64_t most = linesAhead;
+        salesLines_.writeLines(most);
+        financeLines_.writeLines(most);
+        return salesLines_.hasUnwrittenLines() || financeLines_.hasUnwrittenLines();
+    } catch (const SqliteError&) {
+        rollBack();
+        return false;
+    }
+}
+
+void ModelContext::begin() {
+    if (!transaction_) {
+        transaction_.emplace(database_);
+    }
+}
+
+void ModelContext::rollBack() {
+    transaction_.reset();
+    salesLines_.rolledBack();
+    financeLines_.rolledBack();
 }
 
 void ModelContext::write() {

@@ -5,6 +5,7 @@
 #include "data/StoreError.h"
 
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -26,10 +27,20 @@ class ModelContext {
     [[nodiscard]] RecordTable<RateSet>& rateSets() { return rateSets_; }
     [[nodiscard]] RecordTable<SyncLogEntry>& syncLog() { return syncLog_; }
 
-    /// Removes all rows of that sales report and puts `rows` in their place, in this order.
+    /// How rows are kept, in this order: appended to `lines`, so that a long report can be gone through in
+    /// steps.
+    void encode(std::span<const SalesRowView> rows, std::vector<SalesLine>& lines);
+    void encode(std::span<const ParsedFinanceRow> rows, std::vector<FinanceLine>& lines);
+
+    /// Removes all lines of that sales report and puts `lines` in their place, in this order.
+    void replaceSalesLines(const std::string& frequencyRaw, const std::string& reportDate,
+                           std::vector<SalesLine> lines);
+    /// Likewise for a finance report.
+    void replaceFinanceLines(const std::string& region, const std::string& fiscalPeriod,
+                             std::vector<FinanceLine> lines);
+    // Both with rows that are encoded at once.
     void replaceSalesRows(const std::string& frequencyRaw, const std::string& reportDate,
                           const std::vector<SalesRowView>& rows);
-    /// Likewise for a finance report.
     void replaceFinanceRows(const std::string& region, const std::string& fiscalPeriod,
                             const std::vector<ParsedFinanceRow>& rows);
 
@@ -46,12 +57,18 @@ class ModelContext {
     [[nodiscard]] std::vector<FinanceRow> fetchFinanceRows();
 
     [[nodiscard]] bool hasChanges() const;
+    /// Writes some of the pending lines, for the next save to make durable with all else, so that it is
+    /// quick. True while there are more: whoever saves a long report calls it until there are none. A failure
+    /// undoes what was written ahead, and is left to the save to tell.
+    [[nodiscard]] bool writeAhead();
     /// Absent when everything pending is on disk.
     [[nodiscard]] std::optional<StoreError> save();
 
   private:
+    void begin();
     void write();
     void committed();
+    void rollBack();
 
     SqliteDatabase& database_;
     TextDictionary texts_;
@@ -62,6 +79,8 @@ class ModelContext {
     RecordTable<SyncLogEntry> syncLog_;
     LineTable<SalesLine> salesLines_;
     LineTable<FinanceLine> financeLines_;
+    // Open from the first line written ahead to the save.
+    std::optional<SqliteTransaction> transaction_;
 };
 
 }  // namespace vantrell

@@ -56,6 +56,9 @@ class EarningsStore : public QObject {
     /// The display currency is the one that was chosen last, else that of the locale, else "USD".
     EarningsStore(Defaults& defaults, const Locale& locale, const ReportCalendar& calendar);
 
+    /// Reads some of what the next reload will need, so that it is quick; true while there is more. Nothing
+    /// that is shown changes before the reload.
+    [[nodiscard]] bool readAhead(ModelContext& context) { return salesRows_.readAhead(context); }
     void reload(ModelContext& context);
 
     [[nodiscard]] const SalesSnapshot& salesRows() const { return salesRows_; }
@@ -104,6 +107,8 @@ class EarningsStore : public QObject {
     /// True when line `left` of a day stands before `right`: what moved money first, then the larger amount
     /// in the display currency.
     [[nodiscard]] bool lineItemOrder(const SalesRowLite& left, const SalesRowLite& right) const;
+    /// All lines of a day in that order; equals stay in the order of the report.
+    [[nodiscard]] std::vector<SalesRowLite> lineItems(const std::string& day, const AppFilter& apps) const;
 
     // The lists below put the largest first; equals stay in the order of the catalog (apps), of their
     // identifiers (products) or of their codes (countries).

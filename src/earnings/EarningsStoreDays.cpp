@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <map>
 #include <string_view>
+#include <utility>
 
 // Figures by day.
 
@@ -20,6 +21,11 @@ double convertedOrZero(const CurrencyConverter& converter, const SalesRowLite& r
 // Lines that never bring money, or brought none.
 bool isSilent(const SalesRowLite& row) {
     return row.kind == ProductKind::update || row.kind == ProductKind::redownload || row.amount().isZero();
+}
+
+// What a line is sorted by, the smallest first.
+std::pair<bool, double> lineItemRank(const CurrencyConverter& converter, const SalesRowLite& row) {
+    return {isSilent(row), -convertedOrZero(converter, row)};
 }
 
 }  // namespace
@@ -64,11 +70,23 @@ std::vector<DayTableRow> EarningsStore::dayTable(const std::string& from, const 
 }
 
 bool EarningsStore::lineItemOrder(const SalesRowLite& left, const SalesRowLite& right) const {
-    const bool leftSilent = isSilent(left);
-    if (leftSilent != isSilent(right)) {
-        return !leftSilent;
+    return lineItemRank(converter_, left) < lineItemRank(converter_, right);
+}
+
+std::vector<SalesRowLite> EarningsStore::lineItems(const std::string& day, const AppFilter& apps) const {
+    const std::vector<SalesRowLite> rows = dailyRows(day, day, apps).rows();
+    std::vector<std::pair<std::pair<bool, double>, const SalesRowLite*>> ranked;
+    ranked.reserve(rows.size());
+    for (const SalesRowLite& row : rows) {
+        ranked.emplace_back(lineItemRank(converter_, row), &row);
     }
-    return convertedOrZero(converter_, left) > convertedOrZero(converter_, right);
+    std::ranges::stable_sort(ranked, {}, [](const auto& entry) { return entry.first; });
+    std::vector<SalesRowLite> sorted;
+    sorted.reserve(rows.size());
+    for (const auto& [rank, row] : ranked) {
+        sorted.push_back(*row);
+    }
+    return sorted;
 }
 
 }  // namespace vantrell

@@ -2,23 +2,46 @@
 
 #include <algorithm>
 #include <tuple>
-#include <unordered_map>
 #include <utility>
 
 namespace vantrell {
 
+namespace {
+
+// A few milliseconds' work.
+constexpr std::size_t linesAhead = 20'000;
+
+}  // namespace
+
+bool SalesSnapshot::readAhead(ModelContext& context) {
+    std::size_t lines = 0;
+    try {
+        for (const LineBatch& batch : context.salesLines().batches()) {
+            if (read_.contains(batch.id)) {
+                continue;
+            }
+            if (lines >= linesAhead) {
+                return true;
+            }
+            auto chunk = loader_.chunk(context, batch);
+            lines += chunk->size();
+            read_.emplace(batch.id, std::move(chunk));
+        }
+    } catch (const SqliteError&) {
+        // The load meets it again.
+    }
+    return false;
+}
+
 bool SalesSnapshot::load(ModelContext& context, std::int64_t load) {
     load_ = load;
     const auto before = std::exchange(chunks_, {});
-    std::unordered_map<BatchID, std::shared_ptr<const SalesChunk>> known;
-    known.reserve(before.size());
-    for (const auto& chunk : before) {
-        known.emplace(chunk->batch, chunk);
-    }
+    const auto known = std::exchange(read_, {});
     try {
         for (const LineBatch& batch : context.salesLines().batches()) {
-            const auto unchanged = known.find(batch.id);
-            chunks_.push_back(unchanged != known.end() ? unchanged->second : loader_.chunk(context, batch));
+            const auto read = known.find(batch.id);
+            chunks_.push_back(read != known.end() ? read->second : loader_.chunk(context, batch));
+            read_.emplace(batch.id, chunks_.back());
         }
     } catch (const SqliteError&) {
         // A store that can't be read shows as an empty one; the next reload tries again.

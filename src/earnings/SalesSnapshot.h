@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace vantrell {
@@ -29,6 +30,10 @@ class SalesSnapshot {
     SalesSnapshot() = default;
     SalesSnapshot(const SalesSnapshot&) = delete;
     SalesSnapshot& operator=(const SalesSnapshot&) = delete;
+
+    /// Reads some of the reports that the next load will need, so that it is quick; true while there are
+    /// more. What is shown until then stays as it is.
+    [[nodiscard]] bool readAhead(ModelContext& context);
 
     /// Takes over what the context holds now; always of the same store. If that can't be read, the snapshot
     /// is empty. `load` numbers the reload, for the identities of the rows.
@@ -65,6 +70,8 @@ class SalesSnapshot {
     TextPool currencies_;
     std::vector<SalesOffer> offers_;
     std::vector<std::shared_ptr<const SalesChunk>> chunks_;
+    // Those of the last load, and what was read ahead of the next.
+    std::unordered_map<BatchID, std::shared_ptr<const SalesChunk>> read_;
     std::vector<std::uint64_t> firstRow_;  // number of each chunk's first row
     std::size_t size_ = 0;
     std::int64_t load_ = 0;

@@ -20,7 +20,8 @@ class Clock {
     /// Time since some fixed moment; never goes back, whatever happens to the wall clock.
     [[nodiscard]] virtual std::chrono::microseconds monotonic() const = 0;
 
-    /// Resumes after `duration`, or at once when `cancel` is cancelled; tell the two apart by the token.
+    /// Resumes after `duration`, or at once when `cancel` is cancelled; tell the two apart by the token. No
+    /// duration at all lets the event loop do what waits there.
     [[nodiscard]] virtual QCoro::Task<> sleep(std::chrono::microseconds duration, CancelToken cancel) = 0;
 };
 

@@ -1,5 +1,7 @@
 #include "platform/SystemClock.h"
 
+#include <algorithm>
+
 #include <QTimer>
 #include <qcoro/qcorotimer.h>
 
@@ -14,13 +16,14 @@ std::chrono::microseconds SystemClock::monotonic() const {
 }
 
 QCoro::Task<> SystemClock::sleep(std::chrono::microseconds duration, CancelToken cancel) {
-    if (cancel.isCancelled() || duration <= std::chrono::microseconds::zero()) {
+    if (cancel.isCancelled()) {
         co_return;
     }
     QTimer timer;
     timer.setSingleShot(true);
     timer.setTimerType(Qt::PreciseTimer);
-    timer.start(std::chrono::ceil<std::chrono::milliseconds>(duration));
+    timer.start(
+        std::max(std::chrono::ceil<std::chrono::milliseconds>(duration), std::chrono::milliseconds(0)));
     // The timer is made to fire rather than deleted: a frame whose awaited object is gone never resumes.
     const auto registration = cancel.onCancel([&timer] { timer.start(0); });
     co_await qCoro(timer).waitForTimeout();

@@ -23,6 +23,7 @@ bool takesFocus(RowKind::Value kind) {
         case RowKind::Period:
         case RowKind::Day:
         case RowKind::Product:
+        case RowKind::LineItem:
         case RowKind::Country:
         case RowKind::AppWindows:
         case RowKind::ProductWindows:

@@ -6,7 +6,6 @@
 #include "screens/components/StatusLabel.h"
 #include "screens/components/UnitsCaption.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace vantrell {
@@ -21,21 +20,16 @@ QString DayDetailView::title() const {
 }
 
 void DayDetailView::refresh() {
-    const SalesSelection selection = store().dailyRows(dayKey_, dayKey_, apps_);
-    const AggregateStats stats = selection.aggregate();
+    const AggregateStats stats = store().dailyRows(dayKey_, dayKey_, apps_).aggregate();
     caption_ = unitsCaption(locale(), stats, true);
     money_ = moneyValue({store(), locale()}, stats.proceedsByCurrency, proceedsLabel());
-    std::vector<SalesRowLite> rows = selection.rows();
-    std::ranges::stable_sort(rows, [this](const SalesRowLite& left, const SalesRowLite& right) {
-        return store().lineItemOrder(left, right);
-    });
-    std::vector<LineItemRow> lines;
-    lines.reserve(rows.size());
-    for (const SalesRowLite& row : rows) {
-        lines.push_back(lineItemRow(locale(), row));
-    }
-    noLinesText_ = lines.empty() ? statusText() : QString();
-    lines_.show(lines);
+    // The list may ask for its old rows until it has the new ones.
+    const std::vector<SalesRowLite> before = std::exchange(items_, store().lineItems(dayKey_, apps_));
+    BlockBuilder lines;
+    lines.addEach(RowKind::LineItem, items_,
+                  [this](const SalesRowLite& item) { return lineItemRow(locale(), item); });
+    lines_.show(lines.take());
+    noLinesText_ = items_.empty() ? statusText() : QString();
     Q_EMIT changed();
 }
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "earnings/AppFilter.h"
-#include "screens/RowList.h"
+#include "screens/BlockList.h"
 #include "screens/Screen.h"
 #include "screens/components/MoneyValue.h"
 
 #include <string>
+#include <vector>
 
 namespace vantrell {
 
@@ -21,7 +22,7 @@ class DayDetailView : public vantrell::Screen {
     Q_PROPERTY(QString caption READ caption NOTIFY changed)
     Q_PROPERTY(vantrell::MoneyValue money READ money NOTIFY changed)
     Q_PROPERTY(QString noLinesText READ noLinesText NOTIFY changed)
-    Q_PROPERTY(vantrell::RowList* lines READ lines CONSTANT)
+    Q_PROPERTY(vantrell::BlockList* lines READ lines CONSTANT)
 
   public:
     /// `dayKey` is what the caller selected and may be any text.
@@ -35,7 +36,7 @@ class DayDetailView : public vantrell::Screen {
     [[nodiscard]] const MoneyValue& money() const { return money_; }
     /// What stands in place of the lines; empty if there are some.
     [[nodiscard]] QString noLinesText() const { return noLinesText_; }
-    [[nodiscard]] RowList* lines() { return &lines_; }
+    [[nodiscard]] BlockList* lines() { return &lines_; }
 
   Q_SIGNALS:
     void changed();
@@ -49,7 +50,8 @@ class DayDetailView : public vantrell::Screen {
     QString caption_;
     MoneyValue money_;
     QString noLinesText_;
-    RowList lines_;
+    std::vector<SalesRowLite> items_;
+    BlockList lines_;
 };
 
 }  // namespace vantrell

@@ -10,7 +10,7 @@ constexpr auto roundInterval = std::chrono::seconds(900);
 DriveLoop::DriveLoop(const Parts& parts) : parts_(parts) {
     // The only way in which fetched data reaches the screens during a run.
     connect(&parts_.engine, &SyncEngine::revisionChanged, this,
-            [this] { parts_.store.reload(parts_.context); });
+            [this] { parts_.tasks.spawn(reload(parts_, life_.token())); });
 }
 
 void DriveLoop::start() {
@@ -19,19 +19,34 @@ void DriveLoop::start() {
 }
 
 void DriveLoop::becameActive() {
-    parts_.store.reload(parts_.context);
-    parts_.tasks.spawn(parts_.engine.autoSyncIfDue());
+    parts_.tasks.spawn(goRound(parts_, life_.token()));
 }
 
-// Takes copies, since a round may outlast the window that began it.
-QCoro::Task<> DriveLoop::repeat(Parts parts, CancelToken cancel) {
-    while (!cancel.isCancelled()) {
-        co_await parts.clock.sleep(roundInterval, cancel);
+// These take copies, since a round may outlast the window that began it.
+
+QCoro::Task<> DriveLoop::reload(Parts parts, CancelToken cancel) {
+    while (parts.store.readAhead(parts.context)) {
+        co_await parts.clock.sleep(std::chrono::microseconds::zero(), cancel);
         if (cancel.isCancelled()) {
             co_return;
         }
-        parts.store.reload(parts.context);
+    }
+    parts.store.reload(parts.context);
+}
+
+QCoro::Task<> DriveLoop::goRound(Parts parts, CancelToken cancel) {
+    co_await reload(parts, cancel);
+    if (!cancel.isCancelled()) {
         co_await parts.engine.autoSyncIfDue();
+    }
+}
+
+QCoro::Task<> DriveLoop::repeat(Parts parts, CancelToken cancel) {
+    while (!cancel.isCancelled()) {
+        co_await parts.clock.sleep(roundInterval, cancel);
+        if (!cancel.isCancelled()) {
+            co_await goRound(parts, cancel);
+        }
     }
 }
 

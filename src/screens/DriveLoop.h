@@ -13,6 +13,7 @@ namespace vantrell {
 /// Keeps the data moving while the main window lives: on its first appearance, every 900 seconds and each
 /// time it becomes active the figures are read again and a run starts if one is due; each new `revision` of
 /// the engine is read as well. The engine's throttle decides what is due, so all of these may fire at will.
+/// Much to read is read in steps, between which the window can move.
 ///
 /// All that is handed over must outlive the loop, and `tasks` the engine.
 class DriveLoop : public QObject {
@@ -35,6 +36,8 @@ class DriveLoop : public QObject {
     void becameActive();
 
   private:
+    static QCoro::Task<> reload(Parts parts, CancelToken cancel);
+    static QCoro::Task<> goRound(Parts parts, CancelToken cancel);
     static QCoro::Task<> repeat(Parts parts, CancelToken cancel);
 
     Parts parts_;

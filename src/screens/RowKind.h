@@ -24,6 +24,7 @@ class RowKind : public QObject {
         Period,          ///< PeriodRowView
         Day,             ///< DayRowView
         Product,         ///< ProductRowView
+        LineItem,        ///< LineItemRow
         Country,         ///< CountryRow
         AppWindows,      ///< WindowsRow
         ProductWindows,  ///< WindowsRow

@@ -1,6 +1,7 @@
 #include "sync/ReportRequests.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vantrell {
 namespace {
@@ -43,14 +44,15 @@ QCoro::Task<ReportResponse> SalesReportRequest::fetch(ASCClient& client, CancelT
     return client.fetchSales(frequency, reportDate, std::nullopt, std::move(cancel));
 }
 
-void SalesReportRequest::storeRows(ModelContext& context, SalesReport& report, const Parsed& parsed) const {
-    context.replaceSalesRows(report.frequencyRaw, report.reportDate, parsed.rows);
+void SalesReportRequest::storeRows(ModelContext& context, SalesReport& report, const Parsed& parsed,
+                                   std::vector<SalesLine> lines) const {
+    context.replaceSalesLines(report.frequencyRaw, report.reportDate, std::move(lines));
     report.rowCount = static_cast<std::int64_t>(parsed.rows.size());
     report.message = parsed.skippedLines;
 }
 
 void SalesReportRequest::removeRows(ModelContext& context) const {
-    context.replaceSalesRows(std::string(rawText(frequency)), reportDate, {});
+    context.replaceSalesLines(std::string(rawText(frequency)), reportDate, {});
 }
 
 std::string FinanceReportRequest::logKey() const {
@@ -76,16 +78,16 @@ QCoro::Task<ReportResponse> FinanceReportRequest::fetch(ASCClient& client, Cance
     return client.fetchFinance(fiscalPeriod, std::move(cancel));
 }
 
-void FinanceReportRequest::storeRows(ModelContext& context, FinanceReport& report,
-                                     const Parsed& parsed) const {
-    context.replaceFinanceRows(report.region, report.fiscalPeriod, parsed.rows);
+void FinanceReportRequest::storeRows(ModelContext& context, FinanceReport& report, const Parsed& parsed,
+                                     std::vector<FinanceLine> lines) const {
+    context.replaceFinanceLines(report.region, report.fiscalPeriod, std::move(lines));
     report.rowCount = static_cast<std::int64_t>(parsed.rows.size());
     report.message = parsed.skippedLines;
     noteDates(report, parsed.rows);
 }
 
 void FinanceReportRequest::removeRows(ModelContext& context) const {
-    context.replaceFinanceRows(std::string(consolidatedRegion), fiscalPeriod, {});
+    context.replaceFinanceLines(std::string(consolidatedRegion), fiscalPeriod, {});
 }
 
 }  // namespace vantrell

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <qcoro/qcorotask.h>
 
@@ -19,6 +20,7 @@ namespace vantrell {
 struct SalesReportRequest {
     using Record = SalesReport;
     using Parsed = ParsedSales;
+    using Line = SalesLine;
 
     ReportFrequency frequency;
     std::string reportDate;
@@ -32,8 +34,10 @@ struct SalesReportRequest {
 
     /// What the text of the report says; needs nothing but the text.
     [[nodiscard]] static Parsed parse(std::string_view text) { return parseSales(text); }
-    /// Replaces the stored rows with those of `parsed`, and notes their number and the skipped lines.
-    void storeRows(ModelContext& context, SalesReport& report, const Parsed& parsed) const;
+    /// Replaces the stored rows with those of `parsed`, which are encoded as `lines`, and notes their number
+    /// and the skipped lines.
+    void storeRows(ModelContext& context, SalesReport& report, const Parsed& parsed,
+                   std::vector<SalesLine> lines) const;
     void removeRows(ModelContext& context) const;
 };
 
@@ -41,6 +45,7 @@ struct SalesReportRequest {
 struct FinanceReportRequest {
     using Record = FinanceReport;
     using Parsed = ParsedFinance;
+    using Line = FinanceLine;
 
     std::string fiscalPeriod;
 
@@ -53,7 +58,8 @@ struct FinanceReportRequest {
 
     [[nodiscard]] static Parsed parse(std::string_view text) { return parseFinance(text); }
     /// As above, and notes the dates that the rows span.
-    void storeRows(ModelContext& context, FinanceReport& report, const Parsed& parsed) const;
+    void storeRows(ModelContext& context, FinanceReport& report, const Parsed& parsed,
+                   std::vector<FinanceLine> lines) const;
     void removeRows(ModelContext& context) const;
 };
 

@@ -100,6 +100,10 @@ QCoro::Task<> SyncEngine::pause() {
     return clock_.sleep(settings_.pause, life_.token());
 }
 
+QCoro::Task<> SyncEngine::breathe() {
+    return clock_.sleep(std::chrono::microseconds::zero(), life_.token());
+}
+
 void SyncEngine::setProgress(std::string text, std::optional<double> fraction) {
     progressText_ = std::move(text);
     progressFraction_ = fraction;

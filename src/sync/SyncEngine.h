@@ -17,9 +17,11 @@
 
 #include <chrono>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <QObject>
 #include <QProperty>
@@ -148,21 +150,34 @@ class SyncEngine : public QObject {
   private:
     enum class Applied { stored, skipped, rateLimited };
 
+    /// What a report says. Rows may refer to the text.
+    template <typename Request>
+    struct Content {
+        std::shared_ptr<const std::string> text;
+        typename Request::Parsed parsed;
+        std::vector<typename Request::Line> lines;
+    };
+
     template <typename Request>
     Stored<typename Request::Record> findOrCreate(const Request& request);
     Stored<SalesReport> findOrCreateSalesReport(ReportFrequency frequency, std::string reportDate);
     template <typename Request>
     QCoro::Task<ReportStatus> syncReport(Request request, bool force);
     template <typename Request>
-    Applied apply(const Request& request, const ReportResponse& answer,
-                  const typename Request::Parsed& parsed, Instant started);
+    QCoro::Task<Content<Request>> read(std::shared_ptr<const std::string> text);
     template <typename Request>
-    void settle(const Request& request, const ReportResponse& answer, const typename Request::Parsed& parsed,
+    Applied apply(const Request& request, const ReportResponse& answer, Content<Request> content,
+                  Instant started);
+    template <typename Request>
+    void settle(const Request& request, const ReportResponse& answer, Content<Request> content,
                 typename Request::Record& report);
+    QCoro::Task<> saveInSteps();
     void stopForRateLimit(const std::string& key, const std::string& message);
     void log(std::string key, std::string_view outcome, std::string_view message);
     void save();
     QCoro::Task<> pause();
+    /// Lets the event loop do what waits there.
+    QCoro::Task<> breathe();
 
     QCoro::Task<> syncRecentDays();
     QCoro::Task<> syncRecentMonths();

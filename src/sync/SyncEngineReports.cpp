@@ -3,7 +3,9 @@
 #include "platform/Overloaded.h"
 #include "sync/SyncEngine.h"
 
+#include <algorithm>
 #include <memory>
+#include <span>
 #include <utility>
 
 // One report's way from its stored status through one request to its rows, new status and log line.
@@ -12,6 +14,8 @@ namespace vantrell {
 namespace {
 
 constexpr std::size_t loggedCharacters = 500;
+// A few milliseconds' work.
+constexpr std::size_t rowsAtOnce = 4'000;
 
 }  // namespace
 
@@ -47,18 +51,14 @@ QCoro::Task<ReportStatus> SyncEngine::syncReport(Request request, bool force) {
     }
     const Instant started = clock_.now();
     ReportResponse answer = co_await request.fetch(client_, life_.token());
-    std::optional<typename Request::Parsed> parsed(std::in_place);
-    // Rows may refer to the text.
-    std::shared_ptr<const std::string> text;
+    Content<Request> content;
     if (auto* const success = std::get_if<response::Success>(&answer)) {
-        text = std::make_shared<const std::string>(std::move(success->text));
-        std::function<typename Request::Parsed()> parse = [text] { return Request::parse(*text); };
-        parsed = co_await worker_.run(std::move(parse), life_.token());
+        content = co_await read<Request>(std::make_shared<const std::string>(std::move(success->text)));
     }
     if (isClosing()) {
         co_return before;
     }
-    switch (apply(request, answer, *parsed, started)) {
+    switch (apply(request, answer, std::move(content), started)) {
         case Applied::rateLimited:
             co_return findOrCreate(request).record.status();
         case Applied::skipped:
@@ -67,16 +67,45 @@ QCoro::Task<ReportStatus> SyncEngine::syncReport(Request request, bool force) {
         case Applied::stored:
             break;
     }
-    save();
+    co_await saveInSteps();
+    if (isClosing()) {
+        co_return before;
+    }
     bumpRevision(false);
     const ReportStatus after = findOrCreate(request).record.status();
     co_await pause();
     co_return after;
 }
 
+// Parsed beside the window, then encoded in steps between which the window can move.
+template <typename Request>
+QCoro::Task<SyncEngine::Content<Request>> SyncEngine::read(std::shared_ptr<const std::string> text) {
+    Content<Request> content{.text = text};
+    std::function<typename Request::Parsed()> parse = [text] { return Request::parse(*text); };
+    auto parsed = co_await worker_.run(std::move(parse), life_.token());
+    if (isClosing() || !parsed) {
+        co_return content;
+    }
+    content.parsed = *std::move(parsed);
+    std::span rows(content.parsed.rows);
+    content.lines.reserve(rows.size());
+    while (!rows.empty()) {
+        const std::size_t count = std::min(rows.size(), rowsAtOnce);
+        context_.encode(rows.first(count), content.lines);
+        rows = rows.subspan(count);
+        if (!rows.empty()) {
+            co_await breathe();
+        }
+        if (isClosing()) {
+            break;
+        }
+    }
+    co_return content;
+}
+
 template <typename Request>
 SyncEngine::Applied SyncEngine::apply(const Request& request, const ReportResponse& answer,
-                                      const typename Request::Parsed& parsed, Instant started) {
+                                      Content<Request> content, Instant started) {
     // The record may have changed while the request was out and read, so it is looked up again.
     auto [id, report] = findOrCreate(request);
     if (const auto* limited = std::get_if<response::RateLimited>(&answer)) {
@@ -88,7 +117,7 @@ SyncEngine::Applied SyncEngine::apply(const Request& request, const ReportRespon
         log(request.logKey(), "skipped", "A fresher copy synced in from another device.");
         return Applied::skipped;
     }
-    settle(request, answer, parsed, report);
+    settle(request, answer, std::move(content), report);
     report.fetchedAt = clock_.now();
     log(request.logKey(), report.statusRaw, report.message);
     Request::records(context_).update(id, std::move(report));
@@ -98,8 +127,8 @@ SyncEngine::Applied SyncEngine::apply(const Request& request, const ReportRespon
 // What each answer makes of the report. Only good data and the word that there is none touch its rows: a
 // failure never loses what was there.
 template <typename Request>
-void SyncEngine::settle(const Request& request, const ReportResponse& answer,
-                        const typename Request::Parsed& parsed, typename Request::Record& report) {
+void SyncEngine::settle(const Request& request, const ReportResponse& answer, Content<Request> content,
+                        typename Request::Record& report) {
     const auto attempted = [&report](ReportStatus status, const std::string& message) {
         report.setStatus(status);
         report.message = message;
@@ -107,7 +136,7 @@ void SyncEngine::settle(const Request& request, const ReportResponse& answer,
     std::visit(
         Overloaded{
             [&](const response::Success&) {
-                request.storeRows(context_, report, parsed);
+                request.storeRows(context_, report, content.parsed, std::move(content.lines));
                 report.setStatus(ReportStatus::ok);
             },
             [&](const response::NoSales& none) {
@@ -126,6 +155,17 @@ void SyncEngine::settle(const Request& request, const ReportResponse& answer,
             [](const response::RateLimited&) {},
             [&](const response::Failure& failure) { attempted(ReportStatus::error, failure.message); }},
         answer);
+}
+
+// The lines of a long report are written in steps between which the window can move.
+QCoro::Task<> SyncEngine::saveInSteps() {
+    while (context_.writeAhead()) {
+        co_await breathe();
+        if (isClosing()) {
+            co_return;
+        }
+    }
+    save();
 }
 
 // The report keeps its status, and so it is due again on the next run.

@@ -74,6 +74,11 @@ TEST(Reload, OfWhatChangedGivesTheSameAsReadingEverything) {
                  .title = "T" + std::to_string(random() % 3)});
         }
         fixture.daily(date, lines);
+        if (round % 3 == 0) {
+            // The next round may replace what was read ahead.
+            EXPECT_FALSE(fixture.store().readAhead(fixture.context()));
+            continue;
+        }
         EarningsStore& incremental = fixture.reload();
         const auto whole = fixture.another();
         whole->reload(fixture.context());

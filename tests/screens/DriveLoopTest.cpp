@@ -81,6 +81,18 @@ TEST_F(DriveLoopTest, ReadsAtEachNewRevisionOfTheEngine) {
     EXPECT_EQ(reloads(), 2);
 }
 
+TEST_F(DriveLoopTest, LetsTheWindowMoveWhileItReadsMuch) {
+    const std::vector<SalesRowView> lines(20'000, testing::sale(1, "1"));
+    fixture.context().replaceSalesRows("DAILY", "2026-11-20", lines);
+    fixture.context().replaceSalesRows("DAILY", "2026-11-21", lines);
+    loop->start();
+    EXPECT_FALSE(store.isLoaded());
+    EXPECT_EQ(runsBegun(), 0U) << "first what is there, then what is new";
+    fixture.clock.advance(std::chrono::microseconds::zero());
+    EXPECT_EQ(store.salesRows().size(), 40'000U);
+    EXPECT_EQ(runsBegun(), 1U);
+}
+
 TEST_F(DriveLoopTest, EndsItsWaitWithTheWindow) {
     loop->start();
     fixture.clock.advance(std::chrono::seconds(60));

@@ -206,5 +206,26 @@ TEST(Run, ThatIsReadingAReportWhenTheProgramEndsChangesNothingMore) {
     EXPECT_TRUE(fixture.context().salesLines().batches().empty());
 }
 
+TEST(Run, LetsTheWindowMoveWhileItKeepsALongReport) {
+    for (const bool ends : {false, true}) {
+        EngineFixture fixture;
+        fixture.otherwise = EngineFixture::sales(9'000);
+        fixture.clock.autoAdvance = false;
+        TaskScope tasks;
+        tasks.spawn(fixture.engine().refetchDay(*dateFromDayKey("2026-11-20")));
+        EXPECT_EQ(fixture.clock.slept, std::vector{std::chrono::microseconds::zero()});
+        if (ends) {
+            fixture.destroyEngine();
+            EXPECT_TRUE(fixture.log().empty());
+        } else {
+            fixture.clock.advance(std::chrono::seconds(1));
+            EXPECT_GT(std::ranges::count(fixture.clock.slept, std::chrono::microseconds::zero()), 3);
+            EXPECT_EQ(fixture.context().fetchSalesRows().size(), 9'000U);
+            EXPECT_FALSE(fixture.context().hasChanges());
+        }
+        EXPECT_EQ(tasks.pending(), 0);
+    }
+}
+
 }  // namespace
 }  // namespace vantrell

@@ -57,6 +57,7 @@ FocusScope {
             width: lines.width - 32
             day: detail.day
         }
+        reuseItems: true
         delegate: LineRow { width: lines.width - 32 }
     }
 }
