@@ -56,9 +56,11 @@ class EarningsStore : public QObject {
     /// The display currency is the one that was chosen last, else that of the locale, else "USD".
     EarningsStore(Defaults& defaults, const Locale& locale, const ReportCalendar& calendar);
 
-    /// Reads some of what the next reload will need, so that it is quick; true while there is more. Nothing
-    /// that is shown changes before the reload.
-    [[nodiscard]] bool readAhead(ModelContext& context) { return salesRows_.readAhead(context); }
+    /// Reads some of what the next reload will need, so that it is quick; false when that was little or
+    /// nothing, and the reload can follow. Nothing that is shown changes before it.
+    [[nodiscard]] bool readAhead(ModelContext& context) {
+        return salesRows_.readAhead(context) || financeRows_.readAhead(context);
+    }
     void reload(ModelContext& context);
 
     [[nodiscard]] const SalesSnapshot& salesRows() const { return salesRows_; }

@@ -1,9 +1,19 @@
 #include "earnings/FinanceSnapshot.h"
 
+#include "earnings/ReadAhead.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace vantrell {
+
+bool FinanceSnapshot::readAhead(ModelContext& context) {
+    return vantrell::readAhead(
+        context.financeLines().batches(), [this](BatchID batch) { return rowsByBatch_.contains(batch); },
+        [&](const LineBatch& batch) {
+            return rowsByBatch_.emplace(batch.id, readBatch(context, batch)).first->second.size();
+        });
+}
 
 void FinanceSnapshot::load(ModelContext& context, std::int64_t load) {
     const auto batches = context.financeLines().batches();

@@ -18,6 +18,10 @@ class FinanceSnapshot {
     FinanceSnapshot(const FinanceSnapshot&) = delete;
     FinanceSnapshot& operator=(const FinanceSnapshot&) = delete;
 
+    /// Reads some of the reports that the next load will need, so that it is quick; false when that was
+    /// little or nothing, and the load can follow. What is shown until then stays as it is.
+    [[nodiscard]] bool readAhead(ModelContext& context);
+
     /// Takes over what the context holds now; always of the same store. If that can't be read, the snapshot
     /// is empty. `load` numbers the reload, for the identities of the rows.
     void load(ModelContext& context, std::int64_t load);
@@ -30,6 +34,7 @@ class FinanceSnapshot {
 
     TextPool texts_;
     std::vector<LineBatch> batches_;  // what the rows were read from
+    // Those of the last load, and what was read ahead of the next.
     std::map<BatchID, std::vector<FinanceRowLite>> rowsByBatch_;
     std::vector<FinanceRowLite> rows_;
 };

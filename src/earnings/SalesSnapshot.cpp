@@ -1,36 +1,19 @@
 #include "earnings/SalesSnapshot.h"
 
+#include "earnings/ReadAhead.h"
+
 #include <algorithm>
 #include <tuple>
 #include <utility>
 
 namespace vantrell {
 
-namespace {
-
-// A few milliseconds' work.
-constexpr std::size_t linesAhead = 20'000;
-
-}  // namespace
-
 bool SalesSnapshot::readAhead(ModelContext& context) {
-    std::size_t lines = 0;
-    try {
-        for (const LineBatch& batch : context.salesLines().batches()) {
-            if (read_.contains(batch.id)) {
-                continue;
-            }
-            if (lines >= linesAhead) {
-                return true;
-            }
-            auto chunk = loader_.chunk(context, batch);
-            lines += chunk->size();
-            read_.emplace(batch.id, std::move(chunk));
-        }
-    } catch (const SqliteError&) {
-        // The load meets it again.
-    }
-    return false;
+    return vantrell::readAhead(
+        context.salesLines().batches(), [this](BatchID batch) { return read_.contains(batch); },
+        [&](const LineBatch& batch) {
+            return read_.emplace(batch.id, loader_.chunk(context, batch)).first->second->size();
+        });
 }
 
 bool SalesSnapshot::load(ModelContext& context, std::int64_t load) {

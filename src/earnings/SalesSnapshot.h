@@ -31,8 +31,8 @@ class SalesSnapshot {
     SalesSnapshot(const SalesSnapshot&) = delete;
     SalesSnapshot& operator=(const SalesSnapshot&) = delete;
 
-    /// Reads some of the reports that the next load will need, so that it is quick; true while there are
-    /// more. What is shown until then stays as it is.
+    /// Reads some of the reports that the next load will need, so that it is quick; false when that was
+    /// little or nothing, and the load can follow. What is shown until then stays as it is.
     [[nodiscard]] bool readAhead(ModelContext& context);
 
     /// Takes over what the context holds now; always of the same store. If that can't be read, the snapshot

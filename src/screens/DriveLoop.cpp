@@ -10,7 +10,7 @@ constexpr auto roundInterval = std::chrono::seconds(900);
 DriveLoop::DriveLoop(const Parts& parts) : parts_(parts) {
     // The only way in which fetched data reaches the screens during a run.
     connect(&parts_.engine, &SyncEngine::revisionChanged, this,
-            [this] { parts_.tasks.spawn(reload(parts_, life_.token())); });
+            [this] { parts_.tasks.spawn(reloadNext(parts_, life_.token())); });
 }
 
 void DriveLoop::start() {
@@ -32,6 +32,14 @@ QCoro::Task<> DriveLoop::reload(Parts parts, CancelToken cancel) {
         }
     }
     parts.store.reload(parts.context);
+}
+
+// The engine has just saved: the window may move before the figures do.
+QCoro::Task<> DriveLoop::reloadNext(Parts parts, CancelToken cancel) {
+    co_await parts.clock.sleep(std::chrono::microseconds::zero(), cancel);
+    if (!cancel.isCancelled()) {
+        co_await reload(parts, cancel);
+    }
 }
 
 QCoro::Task<> DriveLoop::goRound(Parts parts, CancelToken cancel) {

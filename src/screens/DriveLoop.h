@@ -37,6 +37,7 @@ class DriveLoop : public QObject {
 
   private:
     static QCoro::Task<> reload(Parts parts, CancelToken cancel);
+    static QCoro::Task<> reloadNext(Parts parts, CancelToken cancel);
     static QCoro::Task<> goRound(Parts parts, CancelToken cancel);
     static QCoro::Task<> repeat(Parts parts, CancelToken cancel);
 

@@ -1,5 +1,9 @@
 #include "WindowDriver.h"
 #include "WindowHouse.h"
+#include "trial/SpokenText.h"
+
+#include <sstream>
+#include <string>
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -59,6 +63,27 @@ TEST_F(AppsWindow, CopiesTheRowThatHasTheFocus) {
     driver.expectToSee(QAccessible::MenuItem, QStringLiteral("Copy"));
     driver.click(QAccessible::MenuItem, QStringLiteral("Copy"));
     EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("2026")));
+    EXPECT_EQ(complaints.take(), "");
+}
+
+// The rows that come back are those that have left the sight at the other end.
+TEST_F(AppsWindow, TellsTheSameOfEachDayAfterALookAtTheLastOne) {
+    driver.click(QAccessible::ListItem, QStringLiteral("Trends Over Time"));
+    driver.tabTo(QAccessible::ListItem, QStringLiteral("Sat, Nov 21, 2026"));
+    const std::string before = spokenText(house.window());
+    driver.key(Qt::Key_End);
+    driver.expectToSee(QAccessible::ListItem, QStringLiteral("Fri, Oct 23, 2026"));
+    driver.key(Qt::Key_Home);
+    const auto toldAgain = [&] {
+        const std::string after = spokenText(house.window());
+        std::istringstream lines(before);
+        std::string line;
+        while (std::getline(lines, line) && after.find(line) != std::string::npos) {
+        }
+        return lines.eof();
+    };
+    driver.waitUntil(toldAgain, "for the first rows to be back as they were");
+    EXPECT_NE(before.find("Sat, Nov 21, 2026 3 app $3.00"), std::string::npos) << before;
     EXPECT_EQ(complaints.take(), "");
 }
 
