@@ -57,7 +57,6 @@ FocusScope {
             width: lines.width - 32
             day: detail.day
         }
-        reuseItems: true
         delegate: LineRow { width: lines.width - 32 }
     }
 }
