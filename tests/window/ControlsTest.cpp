@@ -3,6 +3,8 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QQmlEngine>
+#include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
@@ -54,6 +56,12 @@ TEST_F(Controls, TheMenusAnswerToTheArrowKeys) {
     driver.key(Qt::Key_Up);
     driver.key(Qt::Key_Escape);
     EXPECT_EQ(house.windows().root().filter()->title().toStdString(), "No Apps");
+}
+
+TEST_F(Controls, CtrlQEndsTheProgram) {
+    const QSignalSpy ends(qmlEngine(&house.window()), &QQmlEngine::quit);
+    driver.key(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(ends.count(), 1);
 }
 
 TEST_F(Controls, ATextFieldHasTheUsualMenu) {
