@@ -25,7 +25,9 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
     destinations_.show(destinationItems());
     connect(&parts.appearance, &Appearance::isDarkChanged, this, &RootView::isDarkChanged);
     connect(&parts.appearance, &Appearance::reducesMotionChanged, this, &RootView::reducesMotionChanged);
-    connect(&parts.store, &EarningsStore::isLoadedChanged, this, &RootView::hasFiguresChanged);
+    // The selected screen shows its figures first; the others are built after that.
+    connect(&parts.store, &EarningsStore::isLoadedChanged, this, &RootView::hasFiguresChanged,
+            Qt::QueuedConnection);
     connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &RootView::hasCredentialsChanged);
     connect(this, &RootView::hasCredentialsChanged, this, &RootView::shownScreenChanged);
     connect(this, &RootView::selectionChanged, this, &RootView::shownScreenChanged);
