@@ -3,6 +3,7 @@
 #include "data/LineMappings.h"
 #include "data/RecordMappings.h"
 #include "data/StoreError.h"
+#include "data/StoreHealth.h"
 
 #include <optional>
 #include <span>
@@ -56,6 +57,9 @@ class ModelContext {
     [[nodiscard]] std::vector<SalesRow> fetchSalesRows();
     [[nodiscard]] std::vector<FinanceRow> fetchFinanceRows();
 
+    /// Whether what is pending could be stored and what is stored could be read.
+    [[nodiscard]] StoreHealth& health() { return health_; }
+
     [[nodiscard]] bool hasChanges() const;
     /// Writes some of the pending lines, for the next save to make durable with all else, so that it is
     /// quick. True while there are more: whoever saves a long report calls it until there are none. A failure
@@ -71,6 +75,7 @@ class ModelContext {
     void rollBack();
 
     SqliteDatabase& database_;
+    StoreHealth health_;
     TextDictionary texts_;
     OfferDictionary offers_;
     RecordTable<SalesReport> salesReports_;

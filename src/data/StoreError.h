@@ -4,9 +4,20 @@
 
 namespace vantrell {
 
-/// Why the store could not be opened, read or written, in words for the user.
+/// What kept the store from being opened, read or written.
+enum class StoreFailure {
+    diskFull,
+    readOnly,     ///< file, folder or disk can be read but not written
+    inputOutput,  ///< the disk answered with an error
+    damaged,      ///< what the file holds isn't what was stored
+    inUse,        ///< another process has it open
+    rejected,     ///< one value can't be stored; all others can
+    other,
+};
+
 struct StoreError {
-    std::string description;
+    std::string description;  ///< in words for the user
+    StoreFailure kind = StoreFailure::other;
     bool operator==(const StoreError&) const = default;
 };
 
