@@ -1,5 +1,6 @@
 #include "screens/RootView.h"
 
+#include "screens/StoreNotice.h"
 #include "screens/components/ShownText.h"
 
 #include <algorithm>
@@ -37,6 +38,7 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
     connect(&parts.engine, &SyncEngine::isSyncingChanged, this, &RootView::footerChanged);
     connect(&parts.engine, &SyncEngine::progressTextChanged, this, &RootView::footerChanged);
     connect(&parts.engine, &SyncEngine::lastRunSummaryChanged, this, &RootView::footerChanged);
+    connect(&parts.context.health(), &StoreHealth::changed, this, &RootView::storeNoticeChanged);
 }
 
 Screen* RootView::shownScreen() {
@@ -117,6 +119,14 @@ QString RootView::footer() const {
     }
     const std::string progress = engine.progressText();
     return progress.empty() ? tr("Syncing…") : shownText(progress);
+}
+
+QString RootView::storeNotice() const {
+    return vantrell::storeNotice(parts_.context.health());
+}
+
+Tone::Value RootView::storeTone() const {
+    return parts_.context.health().isDamaged() ? Tone::Bad : Tone::Warning;
 }
 
 void RootView::appear() {

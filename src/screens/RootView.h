@@ -15,6 +15,7 @@
 #include "screens/WelcomeView.h"
 #include "screens/components/AppFilterPicker.h"
 #include "screens/components/CurrencyBreakdown.h"
+#include "screens/components/StatusLabel.h"
 #include "screens/components/SyncToolbarButton.h"
 #include "screens/settings/SettingsView.h"
 
@@ -48,6 +49,8 @@ class RootView : public QObject {
     Q_PROPERTY(QString sidebarName READ sidebarName CONSTANT)
     Q_PROPERTY(bool hasToolbarControls READ hasToolbarControls NOTIFY selectionChanged)
     Q_PROPERTY(QString footer READ footer NOTIFY footerChanged)
+    Q_PROPERTY(QString storeNotice READ storeNotice NOTIFY storeNoticeChanged)
+    Q_PROPERTY(vantrell::Tone::Value storeTone READ storeTone NOTIFY storeNoticeChanged)
     Q_PROPERTY(bool isSyncing READ isSyncing NOTIFY footerChanged)
     Q_PROPERTY(vantrell::AppFilterPicker* filter READ filter CONSTANT)
     Q_PROPERTY(vantrell::SyncToolbarButton* syncButton READ syncButton CONSTANT)
@@ -97,6 +100,9 @@ class RootView : public QObject {
     /// What stands at the bottom of the sidebar; empty before the first run.
     [[nodiscard]] QString footer() const;
     [[nodiscard]] bool isSyncing() const { return parts_.engine.isSyncing(); }
+    /// What stands above every screen and the welcome while the store isn't well; empty while it is.
+    [[nodiscard]] QString storeNotice() const;
+    [[nodiscard]] Tone::Value storeTone() const;
 
     [[nodiscard]] AppFilterPicker* filter() { return &filter_; }
     [[nodiscard]] SyncToolbarButton* syncButton() { return &syncButton_; }
@@ -126,6 +132,7 @@ class RootView : public QObject {
     void screenTitleChanged();
     void appDetailChanged();
     void footerChanged();
+    void storeNoticeChanged();
 
   private:
     void showApp(std::unique_ptr<AppDetailView> detail);

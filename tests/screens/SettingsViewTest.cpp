@@ -1,11 +1,15 @@
 #include "ScreenFixture.h"
 #include "earnings/Exports.h"
+#include "screens/StoreNotice.h"
 #include "screens/WelcomeView.h"
 #include "screens/settings/SettingsView.h"
 #include "testing/TemporaryFolder.h"
 
 #include <fstream>
 #include <sstream>
+#include <tuple>
+
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -98,6 +102,60 @@ TEST_F(SettingsViewTest, WritesTheExportAsItWasWhenTheButtonWasPressed) {
     std::ostringstream written;
     written << std::ifstream(folder / "years.csv").rdbuf();
     EXPECT_EQ(written.str(), expected);
+}
+
+TEST_F(SettingsViewTest, TellsWhyAFileIsntExported) {
+    ExportSettings& exports = *settings->exports();
+    std::ignore = exports.prepare();
+    exports.save(QUrl::fromLocalFile(QStringLiteral("/dev/null/days.csv")));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !exports.problem().isEmpty(); }));
+    EXPECT_TRUE(exports.problem().startsWith(QStringLiteral("Not exported: /dev/null")))
+        << exports.problem().toStdString();
+    std::ignore = exports.prepare();
+    EXPECT_EQ(exports.problem(), QString());
+    fixture.context().health().addDamage("malformed");
+    EXPECT_FALSE(exports.canExport());
+    EXPECT_TRUE(exports.problem().startsWith(QStringLiteral("The store is damaged")));
+}
+
+TEST(StoreNotice, NamesWhatIsntStoredAndWhatCantBeRead) {
+    const std::vector<DamagedReport> reports{
+        {"DAILY", "2026-11-20"}, {"MONTHLY", "2026-10"}, {"ZZ", "2026-02"}, {"YEARLY", "2025"}};
+    const std::string waits = " What was fetched is kept in memory and is stored as soon as it can be.";
+    const std::string lacks =
+        " The figures leave out what can't be read, and nothing is stored or exported. Close the program and "
+        "bring the store's file back from a backup.";
+    const struct {
+        std::optional<StoreFailure> unsaved;
+        std::size_t damaged;
+        std::string notice;
+    } cases[] = {
+        {std::nullopt, 0, ""},
+        {StoreFailure::diskFull, 0, "Not stored: the disk is full." + waits},
+        {StoreFailure::other, 0, "Not stored: words." + waits},
+        {StoreFailure::diskFull, 1,
+         "This store is damaged: the daily report of 2026-11-20 can't be read." + lacks},
+        {std::nullopt, 3,
+         "This store is damaged: the daily report of 2026-11-20, the monthly report of 2026-10 and the "
+         "finance "
+         "report of 2026-02 for ZZ can't be read." +
+             lacks},
+        {std::nullopt, 4,
+         "This store is damaged: the daily report of 2026-11-20, the monthly report of 2026-10 and 2 more "
+         "can't "
+         "be read." +
+             lacks},
+    };
+    for (const auto& [unsaved, damaged, notice] : cases) {
+        StoreHealth health;
+        if (unsaved) {
+            health.setUnsaved(StoreError{"words", *unsaved});
+        }
+        for (std::size_t number = 0; number < damaged; ++number) {
+            health.addDamagedReport(reports[number]);
+        }
+        EXPECT_EQ(storeNotice(health).toStdString(), notice);
+    }
 }
 
 TEST_F(SettingsViewTest, ShowsTheNewest500LinesOfTheLogAndFollowsIt) {

@@ -23,10 +23,17 @@ FormSection {
     PushButton {
         symbol: "square.and.arrow.up"
         text: section.model.exportText
+        enabled: section.model.canExport
+        Accessible.description: section.model.problem
         onClicked: {
             dialog.selectedFile = section.model.prepare()
             dialog.open()
         }
+    }
+    FormNote {
+        visible: text !== ""
+        text: section.model.problem
+        color: Theme.bad
     }
     FormNote { text: section.model.caption }
     FileDialog {

@@ -40,13 +40,19 @@ T.ApplicationWindow {
         anchors.fill: parent
         active: !window.root.hasCredentials
         sourceComponent: Item {
+            StoreNotice {
+                id: notice
+                width: parent.width
+                root: window.root
+            }
             WelcomeScreen {
                 anchors.fill: parent
+                anchors.topMargin: notice.height
                 model: window.root.welcome
             }
             ApplicationMenu {
                 anchors.left: parent.left
-                anchors.top: parent.top
+                anchors.top: notice.bottom
                 anchors.margins: 14
                 commands: window.root.menu
             }
@@ -72,6 +78,10 @@ T.ApplicationWindow {
         ColumnLayout {
             spacing: 0
             Toolbar {
+                Layout.fillWidth: true
+                root: window.root
+            }
+            StoreNotice {
                 Layout.fillWidth: true
                 root: window.root
             }

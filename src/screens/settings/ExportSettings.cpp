@@ -4,7 +4,6 @@
 #include "screens/components/ShownText.h"
 #include "screens/settings/UserFolder.h"
 
-#include <tuple>
 #include <utility>
 
 #include <QFile>
@@ -13,8 +12,9 @@
 namespace vantrell {
 
 ExportSettings::ExportSettings(const ScreenParts& parts, QObject* parent)
-    : QObject(parent), store_(parts.store) {
+    : QObject(parent), store_(parts.store), health_(parts.context.health()) {
     writer_.setMaxThreadCount(1);
+    connect(&health_, &StoreHealth::changed, this, &ExportSettings::outcomeChanged);
 }
 
 ExportSettings::~ExportSettings() {
@@ -43,7 +43,14 @@ QString ExportSettings::caption() const {
         "Days, months and years cover all apps together.");
 }
 
+QString ExportSettings::problem() const {
+    return canExport()
+               ? problem_
+               : tr("The store is damaged: a file would lack what can't be read, so nothing is exported.");
+}
+
 QUrl ExportSettings::prepare() {
+    say({});
     text_ = vantrell::exportText(store_, kind_);
     const QString name = fromUtf8(exportFileName(kind_)) + QLatin1Char('.') + fileSuffix();
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
@@ -51,12 +58,27 @@ QUrl ExportSettings::prepare() {
 }
 
 void ExportSettings::save(const QUrl& file) {
-    if (!file.isLocalFile()) {
+    if (!canExport()) {
         return;
     }
-    writer_.start([path = QFile::encodeName(file.toLocalFile()).toStdString(), text = std::move(text_)] {
-        std::ignore = writeAtomically(path, text);
+    if (!file.isLocalFile()) {
+        say(tr("Only a file on this computer can be written."));
+        return;
+    }
+    writer_.start([this, path = QFile::encodeName(file.toLocalFile()).toStdString(),
+                   text = std::move(text_)] {
+        if (const auto problem = writeAtomically(path, text)) {
+            const auto tell = [this, words = shownText(*problem)] { say(tr("Not exported: %1").arg(words)); };
+            QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+        }
     });
+}
+
+void ExportSettings::say(const QString& problem) {
+    if (problem != problem_) {
+        problem_ = problem;
+        Q_EMIT outcomeChanged();
+    }
 }
 
 }  // namespace vantrell

@@ -27,6 +27,8 @@ class ExportSettings : public QObject {
     Q_PROPERTY(QString fileSuffix READ fileSuffix CONSTANT)
     Q_PROPERTY(QStringList fileFilters READ fileFilters CONSTANT)
     Q_PROPERTY(QString caption READ caption CONSTANT)
+    Q_PROPERTY(bool canExport READ canExport NOTIFY outcomeChanged)
+    Q_PROPERTY(QString problem READ problem NOTIFY outcomeChanged)
 
   public:
     explicit ExportSettings(const ScreenParts& parts, QObject* parent = nullptr);
@@ -44,20 +46,29 @@ class ExportSettings : public QObject {
     [[nodiscard]] QString fileSuffix() const { return QStringLiteral("csv"); }
     [[nodiscard]] QStringList fileFilters() const { return {tr("Comma-separated values (*.csv)")}; }
     [[nodiscard]] QString caption() const;
+    /// False while the store is damaged, since a file would lack what can't be read.
+    [[nodiscard]] bool canExport() const { return !health_.isDamaged(); }
+    /// Why nothing can be exported, or why the last file wasn't written; empty if neither is so.
+    [[nodiscard]] QString problem() const;
 
     /// Takes the text as the figures are now, over all apps. Returns what the file is called unless the user
     /// says otherwise.
     Q_INVOKABLE QUrl prepare();
-    /// Writes what was prepared, in place of what was there. How that goes isn't reported.
+    /// Writes what was prepared, in place of what was there; `problem` tells if that fails.
     Q_INVOKABLE void save(const QUrl& file);
 
   Q_SIGNALS:
     void chosenKindChanged();
+    void outcomeChanged();
 
   private:
+    void say(const QString& problem);
+
     const EarningsStore& store_;
+    const StoreHealth& health_;
     ExportKind kind_ = ExportKind::days;
     std::string text_;
+    QString problem_;
     QThreadPool writer_;
 };
 
