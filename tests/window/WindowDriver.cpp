@@ -1,10 +1,9 @@
 #include "WindowDriver.h"
 
 #include <chrono>
+#include <stdexcept>
 
 #include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace vantrell::testing {
 namespace {
@@ -91,12 +90,13 @@ void WindowDriver::tabTo(QAccessible::Role role, const QString& name) {
         }
         key(Qt::Key_Tab);
     }
-    ADD_FAILURE() << "Tab doesn't reach " << name.toStdString();
+    throw std::runtime_error("Tab doesn't reach " + name.toStdString());
 }
 
 void WindowDriver::waitUntil(const std::function<bool()>& isSo, const std::string& what) {
-    const bool came = QTest::qWaitFor(isSo, static_cast<int>(patience.count()));
-    EXPECT_TRUE(came) << "waited in vain " << what;
+    if (!QTest::qWaitFor(isSo, static_cast<int>(patience.count()))) {
+        throw std::runtime_error("waited in vain " + what);
+    }
 }
 
 void WindowDriver::waitForFrame() {

@@ -11,7 +11,8 @@
 namespace vantrell::testing {
 
 /// Uses a window as a person does who sees, hears, clicks and types: things are found by their role and name
-/// as a screen reader finds them, and waited for, for at most forty seconds. What isn't there fails the test.
+/// as a screen reader finds them, and waited for, for at most forty seconds. What isn't there ends
+/// the test by std::runtime_error.
 class WindowDriver {
   public:
     explicit WindowDriver(QQuickWindow& window);

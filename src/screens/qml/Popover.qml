@@ -31,10 +31,14 @@ T.Popup {
             color: "#1A000000"
         }
     }
-    enter: Transition {
-        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.quick }
+    // Not as a transition, during which keys would go nowhere: it has them from the moment it is asked for to the
+    // one it is left, and then whoever had them before.
+    readonly property NumberAnimation fade: NumberAnimation {
+        target: popover.contentItem ? popover.contentItem.parent : null
+        property: "opacity"
+        from: 0
+        to: 1
+        duration: Theme.quick
     }
-    exit: Transition {
-        NumberAnimation { property: "opacity"; from: 1; to: 0; duration: Theme.quick }
-    }
+    onAboutToShow: fade.restart()
 }
