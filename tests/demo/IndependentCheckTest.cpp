@@ -5,6 +5,7 @@
 #include "sample/ReportPeriods.h"
 #include "sample/SalesBody.h"
 #include "sample/SampleTotals.h"
+#include "testing/CsvRecords.h"
 #include "testing/EarningsFixture.h"
 
 #include <array>
@@ -81,26 +82,6 @@ void add(SalesTotals& sum, const SalesTotals& other) {
 
 using Fields = std::vector<std::string>;
 
-std::vector<Fields> readCSV(const std::string& text) {
-    std::vector<Fields> records{{""}};
-    bool isQuoted = false;
-    for (const char letter : text) {
-        if (letter == '"') {
-            isQuoted = !isQuoted;
-        } else if (letter == ',' && !isQuoted) {
-            records.back().emplace_back();
-        } else if (letter == '\n' && !isQuoted) {
-            records.push_back({""});
-        } else {
-            records.back().back() += letter;
-        }
-    }
-    EXPECT_EQ(records.back(), Fields{""}) << "the text must end in a line feed";
-    records.erase(records.begin());
-    records.pop_back();
-    return records;
-}
-
 /// The columns from `first` on as "1|2|…|EUR 3", without the two that depend on rates.
 std::string exact(const Fields& record, std::size_t first) {
     std::string text;
@@ -132,7 +113,9 @@ class IndependentCheck : public ::testing::Test {
     }
 
     [[nodiscard]] EarningsStore& store() { return fixture_.store(); }
-    [[nodiscard]] std::vector<Fields> records(ExportKind kind) { return readCSV(exportText(store(), kind)); }
+    [[nodiscard]] std::vector<Fields> records(ExportKind kind) {
+        return testing::csvRecords(exportText(store(), kind));
+    }
     [[nodiscard]] SalesTotals totals(ReportKind kind, const std::string& label,
                                      std::optional<std::int64_t> app = {}) const {
         return sample::salesTotals(account_, daysOf(kind, label), app);

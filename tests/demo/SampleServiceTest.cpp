@@ -1,184 +1,188 @@
-#include "ServiceFixture.h"
+#include "icons/AppIconStore.h"
+#include "icons/ImageDesk.h"
+#include "platform/KeyPair.h"
+#include "platform/QtHttpClient.h"
+#include "reports/ASCClient.h"
 #include "sample/FinanceBody.h"
 #include "sample/SalesBody.h"
+#include "sample/SampleService.h"
 #include "sample/SampleTotals.h"
+#include "testing/ManualClock.h"
+#include "testing/MemoryDefaults.h"
+#include "testing/TemporaryFolder.h"
 
-#include <set>
+#include <QTest>
 
-#include <QImage>
-#include <QJsonDocument>
+#include <gtest/gtest.h>
 
-#include <gmock/gmock.h>
-#include <libdeflate.h>
-
-namespace vantrell::testing {
+namespace vantrell {
 namespace {
 
 using namespace std::chrono_literals;
 using sample::dayOf;
-using sample::wholeMonth;
-using ::testing::HasSubstr;
+using sample::TokenFault;
 
-using SampleService = ServiceFixture;
+/// 22 November 2026 at 6 am in California.
+constexpr Instant morning = dayOf(2026, 11, 22) + 14h;
 
-/// Empty if it is no gzip file, or its checksum or length is wrong.
-std::string unpacked(const std::string& file) {
-    std::string text(std::size_t{8} << 20U, '\0');
-    std::size_t size = 0;
-    auto* const decompressor = libdeflate_alloc_decompressor();
-    const auto result =
-        libdeflate_gzip_decompress(decompressor, file.data(), file.size(), text.data(), text.size(), &size);
-    libdeflate_free_decompressor(decompressor);
-    text.resize(result == LIBDEFLATE_SUCCESS ? size : 0);
-    return text;
-}
+/// The sample service, asked by the program's own clients.
+class SampleService : public ::testing::Test {
+  protected:
+    SampleService() { client.setCredentials(seller); }
 
-constexpr auto tooEarly = "not available yet";
-constexpr auto tooLate = "no longer available";
-constexpr auto nothing = "There were no sales for the date specified.";
+    /// In one line. `frequency` may be "FINANCE" as well.
+    std::string ask(const std::string& frequency, const std::string& date) {
+        return diagnosticText(QCoro::waitFor(
+            frequency == "FINANCE" ? client.fetchFinance(date, {})
+                                   : client.fetchSales(*reportFrequency(frequency), date, {}, {})));
+    }
 
-TEST_F(SampleService, SendsReportsAsGzipFilesWithAndWithoutAName) {
-    const auto august = wholeMonth(std::chrono::year{2026} / 8);
+    KeyPair keys = generateKeyPair();
+    APICredentials seller{"3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15", "7QK2MZ8T5W", keys.privatePEM, "60419372"};
+    testing::ManualClock clock{morning};
+    sample::SampleAccount account;
+    sample::SampleService service{
+        account, {seller.issuerID, seller.keyID, seller.vendorNumber, keys.publicPEM}, clock};
+    QtHttpClient http;
+    testing::ManualClock clientsClock{morning};
+    ImmediateWorker worker;
+    ASCClient client{http, clientsClock, worker, service.origin()};
+};
+
+TEST_F(SampleService, SendsWhatWasSoldAndPaidInTheVersionThatItHas) {
+    const auto august = sample::wholeMonth(std::chrono::year{2026} / 8);
     const struct {
         const char* name;
-        Reply reply;
-        std::string text;
-        char flags;
+        ReportFrequency frequency;
+        std::string date;
+        sample::DateRange range;
+        std::size_t requests;
     } cases[] = {
-        {"day", sales(salesQuery("DAILY", "2026-08-14", "1_1")),
-         salesBody(account, {dayOf(2026, 8, 14), dayOf(2026, 8, 14)}), 0},
-        {"month", sales(salesQuery("MONTHLY", "2026-08", "1_0")), salesBody(account, august), 8},
-        {"fiscal period", finance(financeQuery("2026-11")), financeBody(account, august), 8},
+        {"a day", ReportFrequency::daily, "2026-08-12", {dayOf(2026, 8, 12), dayOf(2026, 8, 12)}, 1},
+        {"a day in the older version",
+         ReportFrequency::daily,
+         "2026-08-11",
+         {dayOf(2026, 8, 11), dayOf(2026, 8, 11)},
+         2},
+        {"a month", ReportFrequency::monthly, "2026-08", august, 1},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        EXPECT_EQ(c.reply.status, 200);
-        EXPECT_TRUE(unpacked(c.reply.body) == c.text);
-        EXPECT_EQ(c.reply.body[3], c.flags);
+    for (const auto& [name, frequency, date, range, requests] : cases) {
+        service.log().clear();
+        EXPECT_TRUE(QCoro::waitFor(client.fetchSales(frequency, date, {}, {})) ==
+                    ReportResponse(response::Success{salesBody(account, range)}))
+            << name;
+        EXPECT_EQ(service.log().count(), requests) << name;
     }
+    EXPECT_TRUE(QCoro::waitFor(client.fetchFinance("2026-11", {})) ==
+                ReportResponse(response::Success{financeBody(account, august)}));
 }
 
 TEST_F(SampleService, PublishesEachReportWhenTheRealOneDoesAndForgetsItInTime) {
+    constexpr auto there = "OK";
+    constexpr auto tooEarly = "Not published yet";
+    constexpr auto tooLate = "Past retention";
     const struct {
         const char* name;
         std::string frequency;
         std::string date;
         Instant now;
-        int status;
-        std::string detail = {};
+        const char* answer;
     } cases[] = {
-        {"yesterday before 5 am", "DAILY", "2026-11-21", dayOf(2026, 11, 22) + 12h + 59min, 404, tooEarly},
-        {"yesterday from 5 am", "DAILY", "2026-11-21", dayOf(2026, 11, 22) + 13h, 200},
-        {"a year ago", "DAILY", "2025-11-22", morning, 200},
-        {"more than a year ago", "DAILY", "2025-11-20", morning, 410, tooLate},
-        {"last month on the 4th", "MONTHLY", "2026-10", dayOf(2026, 11, 4) + 14h, 404, tooEarly},
-        {"last month on the 5th", "MONTHLY", "2026-10", dayOf(2026, 11, 5) + 14h, 200},
-        {"last year on 5 January", "YEARLY", "2026", dayOf(2027, 1, 5) + 14h, 404, tooEarly},
-        {"last year on 6 January", "YEARLY", "2026", dayOf(2027, 1, 6) + 14h, 200},
-        {"ten years ago, before the first sale", "YEARLY", "2016", morning, 404, nothing},
-        {"eleven years ago", "YEARLY", "2015", morning, 410, tooLate},
-        {"fiscal period after 32 days", "FINANCE", "2027-01", dayOf(2026, 12, 2) + 14h, 404, tooEarly},
-        {"fiscal period after 33 days", "FINANCE", "2027-01", dayOf(2026, 12, 3) + 14h, 200},
-        {"fiscal period long ago", "FINANCE", "2021-01", morning, 200},
+        {"yesterday before 5 am", "DAILY", "2026-11-21", dayOf(2026, 11, 22) + 12h + 59min, tooEarly},
+        {"yesterday from 5 am", "DAILY", "2026-11-21", dayOf(2026, 11, 22) + 13h, there},
+        {"a year ago", "DAILY", "2025-11-22", morning, there},
+        {"more than a year ago", "DAILY", "2025-11-20", morning, tooLate},
+        {"last month on the 4th", "MONTHLY", "2026-10", dayOf(2026, 11, 4) + 14h, tooEarly},
+        {"last month on the 5th", "MONTHLY", "2026-10", dayOf(2026, 11, 5) + 14h, there},
+        {"last year on 5 January", "YEARLY", "2026", dayOf(2027, 1, 5) + 14h, tooEarly},
+        {"last year on 6 January", "YEARLY", "2026", dayOf(2027, 1, 6) + 14h, there},
+        {"ten years ago, before the first sale", "YEARLY", "2016", morning, "No sales"},
+        {"eleven years ago", "YEARLY", "2015", morning, tooLate},
+        {"fiscal period after 32 days", "FINANCE", "2027-01", dayOf(2026, 12, 2) + 14h, tooEarly},
+        {"fiscal period after 33 days", "FINANCE", "2027-01", dayOf(2026, 12, 3) + 14h, there},
+        {"fiscal period long ago", "FINANCE", "2021-01", morning, there},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        clock.setNow(c.now);
-        const auto reply = c.frequency == "FINANCE" ? finance(financeQuery(c.date))
-                                                    : sales(salesQuery(c.frequency, c.date, ""));
-        EXPECT_EQ(reply.status, c.status);
-        if (c.status != 200) {
-            EXPECT_THAT(reply.body, HasSubstr(c.detail));
-        }
+    for (const auto& [name, frequency, date, now, answer] : cases) {
+        clock.setNow(now);
+        clientsClock.setNow(now);
+        client.setCredentials(seller);
+        EXPECT_TRUE(ask(frequency, date).starts_with(answer)) << name;
     }
 }
 
-TEST_F(SampleService, HasEachReportInOneVersionAndNamesItToWhoeverAsksForAnother) {
+TEST_F(SampleService, LetsNobodyElseInAndNooneWhenATestSaysSo) {
     const struct {
         const char* name;
-        std::string frequency;
-        std::string date;
-        std::string right;
-        std::string wrong;
+        APICredentials credentials;
+        std::chrono::hours ahead;
+        std::optional<TokenFault> fault;
     } cases[] = {
-        {"most days", "DAILY", "2026-08-12", "1_1", "1_0"},
-        {"some days", "DAILY", "2026-08-11", "1_0", "1_1"},
-        {"some months", "MONTHLY", "2026-03", "1_1", "1_0"},
-        {"not published yet", "DAILY", "2026-12-11", "1_0", "1_1"},
+        {"another issuer",
+         {"somebody", seller.keyID, seller.privateKeyPEM, seller.vendorNumber},
+         0h,
+         TokenFault::issuer},
+        {"another key ID",
+         {seller.issuerID, "AAAAAAAAAA", seller.privateKeyPEM, seller.vendorNumber},
+         0h,
+         TokenFault::keyID},
+        {"another key",
+         {seller.issuerID, seller.keyID, generateKeyPair().privatePEM, seller.vendorNumber},
+         0h,
+         TokenFault::signature},
+        {"another seller", {seller.issuerID, seller.keyID, seller.privateKeyPEM, "60419373"}, 0h, {}},
+        {"an hour ago", seller, -1h, TokenFault::expired},
+        {"from the future", seller, 1h, TokenFault::fromTheFuture},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        const auto refused = sales(salesQuery(c.frequency, c.date, c.wrong));
-        EXPECT_EQ(refused.status, 400);
-        EXPECT_THAT(refused.body, HasSubstr("The latest version for this report is " + c.right + "."));
-        EXPECT_NE(sales(salesQuery(c.frequency, c.date, c.right)).status, 400);
+    for (const auto& [name, credentials, ahead, fault] : cases) {
+        clientsClock.setNow(morning + ahead);
+        client.setCredentials(credentials);
+        EXPECT_TRUE(ask("DAILY", "2026-11-21").starts_with("Authentication failed")) << name;
+        EXPECT_EQ(service.log().requests().back().tokenFault, fault) << name;
     }
+    clientsClock.setNow(morning);
+    client.setCredentials(seller);
+    service.faults().rateLimitNext();
+    EXPECT_TRUE(ask("DAILY", "2026-11-21").starts_with("Rate limited"));
+    EXPECT_TRUE(ask("DAILY", "2026-11-21").starts_with("OK"));
 }
 
 TEST_F(SampleService, GivesRatesForEveryCurrencyItPaysIn) {
-    const auto rates = get("/v6/latest/USD").body;
-    const auto totals = salesTotals(account, wholeMonth(std::chrono::year{2026} / 8));
+    const auto rates =
+        std::get<HttpResponse>(QCoro::waitFor(http.get({.url = service.origin() + "/v6/latest/USD"}, {})));
+    const auto totals = salesTotals(account, sample::wholeMonth(std::chrono::year{2026} / 8));
     EXPECT_EQ(totals.proceeds.size(), 25U);
     for (const auto& [currency, amount] : totals.proceeds) {
-        EXPECT_THAT(rates, HasSubstr("\"" + currency + "\":"));
+        EXPECT_NE(rates.body.find("\"" + currency + "\":"), std::string::npos) << currency;
     }
 }
 
-TEST_F(SampleService, LooksUpTheAppsThatAreSoldInACountry) {
-    const struct {
-        const char* name;
-        std::string id;
-        std::string country;
-        bool found;
-    } cases[] = {
-        {"app", "9900000101", "DE", true},
-        {"not sold here", "9900000110", "DE", false},
-        {"sold in one country", "9900000110", "jp", true},
-        {"withdrawn", "9900000107", "US", false},
-    };
-    for (const auto& c : cases) {
-        const auto body = get("/lookup", {{"id", c.id}, {"country", c.country}}).body;
-        EXPECT_EQ(body.find(c.id) != std::string::npos, c.found) << c.name;
-        EXPECT_EQ(body.find(service.origin() + "/icon/") != std::string::npos, c.found) << c.name;
-    }
+QImage shown(const QFuture<QImage>& picture) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return picture.isFinished(); }, 10'000));
+    return picture.isResultReadyAt(0) ? picture.result() : QImage();
 }
 
-TEST_F(SampleService, HasAPictureOfItsOwnAtEveryAddressThatItNames) {
-    std::set<std::string> pictures;
-    std::size_t named = 0;
-    for (const auto& item : account.items()) {
-        const auto id = std::to_string(item.appleID);
-        const auto found =
-            QJsonDocument::fromJson(QByteArray::fromStdString(get("/lookup", {{"id", id}}).body));
-        const auto entry = found[QLatin1StringView("results")][0];
-        for (const int side : {60, 100}) {
-            const auto path = "/icon/" + id + "-" + std::to_string(side) + ".png";
-            const auto address = entry[QLatin1StringView("artworkUrl%1").toString().arg(side)].toString();
-            const auto reply = get(path);
-            if (address.isEmpty()) {
-                EXPECT_EQ(reply.status, 404) << path;
-                continue;
-            }
-            EXPECT_EQ(address.toStdString(), service.origin() + path);
-            EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(reply.body), "PNG").size(),
-                      QSize(side, side));
-            pictures.insert(reply.body);
-            ++named;
-        }
+TEST_F(SampleService, HasIconsThatAreFoundFetchedAndKeptForTheNextStart) {
+    testing::MemoryDefaults defaults;
+    const testing::TemporaryFolder folder;
+    const Locale germany(LocaleNames{"de_DE.UTF-8", "C", "C", "C", "C"});
+    const std::vector<std::int64_t> apps{9900000101, 9900000106, 9900000107, 9900000110};
+    for (const bool isFirst : {true, false}) {
+        service.log().clear();
+        AppIconStore store({http, defaults, germany}, service.origin());
+        ImageLoader loader(http, {.folder = folder.path(), .plainOrigin = service.origin()});
+        ImageDesk desk(loader);
+        QCoro::waitFor(store.loadIcons(apps));
+        ASSERT_EQ(store.urls().size(), 3U) << "one was withdrawn";
+        EXPECT_EQ(shown(desk.ask(store.urls().at(9900000101))).size(), QSize(100, 100));
+        EXPECT_EQ(shown(desk.ask(store.urls().at(9900000106))).size(), QSize(60, 60))
+            << "there is no larger one";
+        EXPECT_EQ(shown(desk.ask(store.urls().at(9900000110))).size(), QSize(100, 100))
+            << "not sold in Germany";
+        EXPECT_EQ(service.log().count("/lookup"), 2U)
+            << "the withdrawn one is looked for again at each start";
+        EXPECT_EQ(service.log().count("/icon/"), isFirst ? 3U : 0U);
     }
-    EXPECT_EQ(pictures.size(), named);
-    EXPECT_EQ(named, 23U) << "12 apps, one of them without the large picture; a withdrawn one has none";
-}
-
-TEST_F(SampleService, RefusesOtherSellersAndWhomeverATestTellsItTo) {
-    auto query = salesQuery("DAILY", "2026-08-14", "1_1");
-    query[0].second = "60419373";
-    EXPECT_EQ(sales(query).status, 403);
-    query[0].second = access().vendorNumber;
-    service.faults().rateLimitNext();
-    EXPECT_EQ(sales(query).status, 429);
-    EXPECT_EQ(sales(query).status, 200);
 }
 
 }  // namespace
-}  // namespace vantrell::testing
+}  // namespace vantrell

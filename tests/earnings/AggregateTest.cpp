@@ -1,9 +1,5 @@
 #include "testing/EarningsFixture.h"
 
-#include <algorithm>
-#include <array>
-#include <random>
-
 #include <gtest/gtest.h>
 
 namespace vantrell {
@@ -103,64 +99,6 @@ TEST(AllTime, CountsEachYearOnceAndLeavesOutGapsAndOtherFrequencies) {
     EXPECT_EQ(years, (std::vector<std::string>{"2026 From daily reports · YTD USD 256",
                                                "2025 From daily reports USD 128", "2024 Yearly report USD 2",
                                                "2022 Yearly report USD 1"}));
-}
-
-TEST(AllTime, WithoutAYearlyReportIsAllDailyRows) {
-    EarningsFixture fixture;
-    fixture.daily("2019-07-01", {{.proceeds = "1"}});
-    fixture.report(ReportFrequency::monthly, "2026-10", {{.proceeds = "8"}});
-    EXPECT_EQ(testing::money(fixture.reload().allTimeRows({}).aggregate()), "USD 1");
-}
-
-std::vector<Line> randomLines(std::mt19937& random) {
-    const std::array<std::string, 6> types{"1F", "IA1", "IAY", "7T", "3F", "X"};
-    const std::array<std::string, 4> prices{"0", "0.7", "12.345678", "0.00000001"};
-    const std::array<std::string, 3> currencies{"USD", "JPY", ""};
-    std::vector<Line> lines(random() % 40);
-    for (Line& line : lines) {
-        line.productType = types.at(random() % types.size());
-        line.units = static_cast<std::int64_t>(random() % 7) - 3;
-        line.proceeds = prices.at(random() % prices.size());
-        line.currency = currencies.at(random() % currencies.size());
-    }
-    return lines;
-}
-
-// The rule line by line, in plain decimals.
-AggregateStats addedPlainly(const std::vector<SalesRowLite>& rows) {
-    AggregateStats stats;
-    for (const SalesRowLite& row : rows) {
-        const std::int64_t sold = std::max<std::int64_t>(row.units, 0);
-        stats.appUnits += row.kind == ProductKind::app ? sold : 0;
-        stats.iapUnits += row.kind == ProductKind::iap ? sold : 0;
-        stats.updateUnits += row.kind == ProductKind::update ? sold : 0;
-        stats.redownloadUnits += row.kind == ProductKind::redownload ? sold : 0;
-        stats.refundedUnits += isSold(row.kind) ? sold - row.units : 0;
-        if ((isSold(row.kind) || row.kind == ProductKind::other) && !row.amount().isZero()) {
-            stats.proceedsByCurrency[std::string(row.currency)] += row.amount();
-        }
-    }
-    return stats;
-}
-
-TEST(Aggregate, AddsSeveralSelectionsOfAnyLinesAsTheRuleDoesLineByLine) {
-    constexpr unsigned seed = 20261122;
-    std::mt19937 random(seed);
-    EarningsFixture fixture;
-    for (int day = 10; day < 22; ++day) {
-        fixture.daily("2026-11-" + std::to_string(day), randomLines(random));
-    }
-    fixture.report(ReportFrequency::yearly, "2025", randomLines(random));
-    const EarningsStore& store = fixture.reload();
-    const std::vector<SalesSelection> selections{
-        store.dailyRows("2026-11-21", "2026-11-21", {}), store.dailyRows("2026-11-15", {}, {}),
-        store.dailyRows({}, "2026-11-18", {}), store.dailyRows("2030-01-01", {}, {}), store.allTimeRows({})};
-    const auto sums = aggregates(selections);
-    ASSERT_EQ(sums.size(), selections.size());
-    for (std::size_t number = 0; number < sums.size(); ++number) {
-        EXPECT_EQ(sums[number], addedPlainly(selections[number].rows())) << "selection " << number;
-        EXPECT_EQ(sums[number], selections[number].aggregate()) << "selection " << number;
-    }
 }
 
 TEST(MonthStats, TakesTheCurrentMonthFromDaysAndThe12BeforeFromMonthlyReports) {

@@ -1,10 +1,10 @@
 #include "earnings/Exports.h"
 #include "earnings/StatsAccumulator.h"
+#include "testing/CsvRecords.h"
 #include "testing/EarningsFixture.h"
 
 #include <algorithm>
 #include <random>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
@@ -102,6 +102,35 @@ AggregateStats sumOf(const List& list, Field field) {
     return sum;
 }
 
+// The rule line by line, in plain decimals.
+AggregateStats addedPlainly(const std::vector<SalesRowLite>& rows) {
+    AggregateStats stats;
+    for (const SalesRowLite& row : rows) {
+        const std::int64_t sold = std::max<std::int64_t>(row.units, 0);
+        stats.appUnits += row.kind == ProductKind::app ? sold : 0;
+        stats.iapUnits += row.kind == ProductKind::iap ? sold : 0;
+        stats.updateUnits += row.kind == ProductKind::update ? sold : 0;
+        stats.redownloadUnits += row.kind == ProductKind::redownload ? sold : 0;
+        stats.refundedUnits += isSold(row.kind) ? sold - row.units : 0;
+        if ((isSold(row.kind) || row.kind == ProductKind::other) && !row.amount().isZero()) {
+            stats.proceedsByCurrency[std::string(row.currency)] += row.amount();
+        }
+    }
+    return stats;
+}
+
+void expectSumsOfTheLines(const EarningsStore& store) {
+    const std::vector<SalesSelection> selections{
+        store.dailyRows("2026-11-21", "2026-11-21", {}), store.dailyRows("2026-06-15", {}, {}),
+        store.dailyRows({}, "2026-06-15", {}), store.dailyRows("2030-01-01", {}, {}), store.allTimeRows({})};
+    const auto sums = aggregates(selections);
+    ASSERT_EQ(sums.size(), selections.size());
+    for (std::size_t number = 0; number < sums.size(); ++number) {
+        EXPECT_EQ(sums[number], addedPlainly(selections[number].rows())) << "selection " << number;
+        EXPECT_EQ(sums[number], selections[number].aggregate()) << "selection " << number;
+    }
+}
+
 void expectEveryDayInOneBucket(const EarningsStore& store) {
     const AggregateStats range = store.dailyRows(firstDay, lastDay, {}).aggregate();
     EXPECT_EQ(sumOf(store.dayTable(firstDay, lastDay, {}), &DayTableRow::stats), range);
@@ -174,28 +203,18 @@ void expectChartsToShowEveryLine(const EarningsStore& store) {
     EXPECT_NEAR(refunds, 0, roundings);
 }
 
-/// An export without its header and its third column from the end, which is the converted one.
-std::string exactColumns(const std::string& text) {
-    std::istringstream lines(text.substr(text.find('\n') + 1));
-    std::string exact;
-    for (std::string line; std::getline(lines, line);) {
-        const auto rest = line.rfind(',', line.rfind(',') - 1);
-        exact += line.substr(0, line.rfind(',', rest - 1)) + line.substr(rest) + "\n";
-    }
-    return exact;
-}
-
-std::vector<std::string> sortedExports(const EarningsStore& store) {
-    std::vector<std::string> lines;
+/// The records of all exports without what stands third from the end, which is the converted figure.
+std::vector<std::vector<std::string>> exactRecords(const EarningsStore& store) {
+    std::vector<std::vector<std::string>> all;
     for (const ExportKind kind : exportKinds) {
-        std::istringstream text(exactColumns(exportText(store, kind)));
-        for (std::string line; std::getline(text, line);) {
-            lines.push_back(line);
+        for (auto& record : testing::csvRecords(exportText(store, kind))) {
+            record.erase(record.end() - 3);
+            all.push_back(std::move(record));
         }
     }
     // The order of products goes by the converted amount.
-    std::ranges::sort(lines);
-    return lines;
+    std::ranges::sort(all);
+    return all;
 }
 
 TEST(Figures, HoldTogetherForAnyAccount) {
@@ -207,13 +226,14 @@ TEST(Figures, HoldTogetherForAnyAccount) {
         Draw draw(seed + account);
         drawAccount(fixture, draw);
         EarningsStore& store = fixture.reload();
+        expectSumsOfTheLines(store);
         expectEveryDayInOneBucket(store);
         expectEverySaleOnceInAllTime(store);
         expectAppsAndTheRestToMakeTheTotal(store);
         expectChartsToShowEveryLine(store);
-        const auto inDollars = sortedExports(store);
+        const auto inDollars = exactRecords(store);
         store.setDisplayCurrency("JPY");
-        EXPECT_EQ(sortedExports(store), inDollars);
+        EXPECT_EQ(exactRecords(store), inDollars);
         if (HasFailure()) {
             return;
         }

@@ -7,9 +7,7 @@
 #include <thread>
 
 #include <QBuffer>
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QEventLoop>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -27,17 +25,9 @@ std::string fileOf(const QSize& size, const char* format = "PNG") {
     return buffer.data().toStdString();
 }
 
-bool spinUntil(const std::function<bool()>& happened) {
-    const QDeadlineTimer deadline(std::chrono::seconds{10});
-    while (!happened() && !deadline.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    }
-    return happened();
-}
-
 /// The picture's size; (0, 0) for none and (-1, -1) if the wish never ends.
 QSize sizeOf(const QFuture<QImage>& picture) {
-    if (!spinUntil([&] { return picture.isFinished(); })) {
+    if (!QTest::qWaitFor([&] { return picture.isFinished(); }, 10'000)) {
         return {};
     }
     return picture.isResultReadyAt(0) ? picture.result().size() : QSize(0, 0);
@@ -145,7 +135,8 @@ TEST_F(ImageLoaderTest, AsksOnceForAnAddressAndForFewAtATime) {
     pictures[9].cancel();
     pictures[19].cancel();
     for (const std::size_t underWay : {4U, 8U, 9U}) {
-        EXPECT_TRUE(spinUntil([&] { return http.requests.size() == underWay; })) << http.requests.size();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return http.requests.size() == underWay; }, 10'000))
+            << http.requests.size();
         http.clock.advance(std::chrono::seconds(1));
     }
     for (std::size_t number = 0; number < pictures.size(); ++number) {
@@ -161,7 +152,7 @@ TEST_F(ImageLoaderTest, EndsEveryWishWhicheverSideGoesFirst) {
     auto loader = std::make_unique<ImageLoader>(http, settings());
     auto desk = std::make_unique<ImageDesk>(*loader);
     const auto underWay = desk->ask("https://a.test/1");
-    EXPECT_TRUE(spinUntil([&] { return http.requests.size() == 1; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return http.requests.size() == 1; }, 10'000));
     const auto notTaken = desk->ask("https://a.test/2");
     loader.reset();
     EXPECT_EQ(sizeOf(underWay), none);
@@ -172,7 +163,7 @@ TEST_F(ImageLoaderTest, EndsEveryWishWhicheverSideGoesFirst) {
     desk = std::make_unique<ImageDesk>(*loader);
     QFuture<QImage> fromElsewhere;
     std::thread([&] { fromElsewhere = desk->ask("https://a.test/4"); }).join();
-    EXPECT_TRUE(spinUntil([&] { return http.requests.size() == 2; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return http.requests.size() == 2; }, 10'000));
     desk.reset();
     http.clock.advance(std::chrono::seconds(1));
     EXPECT_EQ(sizeOf(fromElsewhere), QSize(100, 100));

@@ -3,8 +3,7 @@
 
 #include <deque>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
+#include <QTest>
 #include <QTimer>
 
 #include <gmock/gmock.h>
@@ -41,14 +40,6 @@ HttpResult fetch(const HttpRequest& request) {
 std::string failureOf(const HttpResult& result) {
     const auto* failure = std::get_if<HttpFailure>(&result);
     return failure ? failure->description : "no failure";
-}
-
-void spinUntil(const std::function<bool()>& happened) {
-    const QDeadlineTimer deadline(std::chrono::seconds{10});
-    while (!happened() && !deadline.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    }
-    ASSERT_TRUE(happened());
 }
 
 RawServer::Answer dripping(const std::string& head, milliseconds pause) {
@@ -223,18 +214,18 @@ TEST(HttpClient, EndsACancelledRequestAtOnce) {
     QtHttpClient client;
     CancelSource source;
     auto waiting = client.get(requestTo(server), source.token());
-    spinUntil([&server] { return !server.requests.empty(); });
+    ASSERT_TRUE(QTest::qWaitFor([&server] { return !server.requests.empty(); }, 10'000));
     source.cancel();
     ASSERT_TRUE(waiting.isReady());
     EXPECT_EQ(failureOf(QCoro::waitFor(std::move(waiting))), "The request was cancelled.");
-    spinUntil([&disconnected] { return disconnected; });
+    ASSERT_TRUE(QTest::qWaitFor([&disconnected] { return disconnected; }, 10'000));
 }
 
 TEST(HttpClient, EndsWhatIsUnderWayWhenItIsDestroyed) {
     RawServer server(sending("HTTP/1.1 200 OK\r\n\r\nhel"));
     auto client = std::make_unique<QtHttpClient>();
     auto waiting = client->get(requestTo(server), {});
-    spinUntil([&server] { return !server.requests.empty(); });
+    ASSERT_TRUE(QTest::qWaitFor([&server] { return !server.requests.empty(); }, 10'000));
     client.reset();
     ASSERT_TRUE(waiting.isReady());
     EXPECT_EQ(failureOf(QCoro::waitFor(std::move(waiting))), "The request was cancelled.");

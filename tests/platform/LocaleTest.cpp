@@ -28,8 +28,6 @@ TEST(Locale, MoneyHasTheDigitsOfItsCurrencyAndTheSignsOfTheLocale) {
         {"no digits", "en_US", "1234.5", "JPY", "¥1,235"},
         {"three digits", "en_US", "1.2345", "KWD", "KWD\u00A01.235"},
         {"never cash rounding", "en_US", "1.02", "CHF", "CHF\u00A01.02"},
-        {"India", "hi_IN", "1234567.5", "INR", "₹12,34,567.50"},
-        {"Egypt", "ar_EG.UTF-8", "12.5", "USD", "\u200F١٢٫٥٠\u00A0US$"},
         {"more digits than a double has", "en_US", "12345678901234567890123456789012345.678", "USD",
          "$12,345,678,901,234,567,890,123,456,789,012,345.68"},
         {"markup stays text", "en_US", "1", "<b>\n", "<b>\n\u00A01.00"},
@@ -106,81 +104,48 @@ TEST(Locale, CurrencyAndRegionComeFromTheMonetaryName) {
     }
 }
 
-TEST(Locale, DatesAreGregorianInTheOrderOfTheLocale) {
-    const Instant evening = std::chrono::sys_days(2026y / 11 / 22) + 21h + 2min;
-    const auto berlin = TimeZone::named("Europe/Berlin").value();
+TEST(Locale, DatesAreGregorianInTheMannerOfTheLocale) {
     const struct {
         std::string locale;
-        std::string dateAndTime;
-        std::string weekday;
-    } cases[] = {
-        {"en_US", "Nov 22, 2026, 10:02\u202FPM", "Tue, Mar 3"},
-        {"de_DE", "22. Nov. 2026, 22:02", "Di., 3. März"},
-        {"th_TH", "22 พ.ย. 2026 22:02", "อ. 3 มี.ค."},
-        {"fa_IR", "۲۲ نوامبر ۲۰۲۶، ۲۲:۰۲", "سه‌شنبه ۳ مارس"},
-    };
-    for (const auto& row : cases) {
-        const auto locale = localeNamed(row.locale);
-        EXPECT_EQ(locale.dateAndTime(evening, berlin), row.dateAndTime) << row.locale;
-        EXPECT_EQ(locale.weekdayMonthDay(2026y / 3 / 3), row.weekday) << row.locale;
-    }
-}
-
-TEST(Locale, WeeksAndMonthsAreWrittenInTheMannerOfTheLocale) {
-    const struct {
-        std::string locale;
-        std::string week;
-        std::string overTheYear;
-        std::string month;
         std::chrono::weekday firstWeekday;
-    } cases[] = {
-        {"C.UTF-8", "Mar 2\u2009–\u20098, 2026", "Dec 28, 2026\u2009–\u2009Jan 3, 2027", "March 2026",
-         std::chrono::Sunday},
-        {"en_US", "Mar 2\u2009–\u20098, 2026", "Dec 28, 2026\u2009–\u2009Jan 3, 2027", "March 2026",
-         std::chrono::Sunday},
-        {"en_GB", "2–8 Mar 2026", "28 Dec 2026\u2009–\u20093 Jan 2027", "March 2026", std::chrono::Monday},
-        {"de_DE", "2.–8. März 2026", "28. Dez. 2026\u2009–\u20093. Jan. 2027", "März 2026",
-         std::chrono::Monday},
-        {"ja_JP", "2026年3月2日～8日", "2026年12月28日～2027年1月3日", "2026年3月", std::chrono::Sunday},
-        {"ar_EG", "٢–٨ مارس، ٢٠٢٦", "٢٨ ديسمبر، ٢٠٢٦ – ٣ يناير، ٢٠٢٧", "مارس ٢٠٢٦", std::chrono::Saturday},
-    };
-    for (const auto& row : cases) {
-        const auto locale = localeNamed(row.locale);
-        EXPECT_EQ(locale.dayRange(2026y / 3 / 2, 2026y / 3 / 8), row.week) << row.locale;
-        EXPECT_EQ(locale.dayRange(2026y / 12 / 28, 2027y / 1 / 3), row.overTheYear) << row.locale;
-        EXPECT_EQ(locale.monthYear(2026y / 3 / 2), row.month) << row.locale;
-        EXPECT_EQ(locale.firstWeekday(), row.firstWeekday) << row.locale;
-    }
-}
-
-TEST(Locale, DaysAreWrittenWithAsMuchAsThereIsRoomFor) {
-    const struct {
-        std::string locale;
-        std::vector<std::string> expected;
+        std::vector<std::string> texts;
     } cases[] = {
         {"C",
-         {"Tuesday, Mar 3, 2026", "Tue, Mar 3, 2026", "Mar 3, 2026", "Mar 3", "Mar", "Mar 2026", "Tu",
-          "Mar 3, 10:02:05\u202FAM"}},
+         std::chrono::Sunday,
+         {"Tuesday, Mar 3, 2026", "Tue, Mar 3, 2026", "Tue, Mar 3", "Mar 3, 2026", "Mar 3", "March 2026",
+          "Mar 2026", "Mar", "Tu", "Mar 3\u2009–\u20098, 2026", "Dec 28, 2026\u2009–\u2009Jan 3, 2027",
+          "Mar 3, 2026, 10:02\u202FAM", "Mar 3, 10:02:05\u202FAM"}},
         {"de_DE",
-         {"Dienstag, 3. März 2026", "Di., 3. März 2026", "3. März 2026", "3. März", "Mär", "Mär 2026", "Di.",
-          "3. März, 10:02:05"}},
+         std::chrono::Monday,
+         {"Dienstag, 3. März 2026", "Di., 3. März 2026", "Di., 3. März", "3. März 2026", "3. März",
+          "März 2026", "Mär 2026", "Mär", "Di.", "3.–8. März 2026", "28. Dez. 2026\u2009–\u20093. Jan. 2027",
+          "3. März 2026, 10:02", "3. März, 10:02:05"}},
         {"fa_IR",
-         {"سه‌شنبه ۳ مارس ۲۰۲۶", "سه‌شنبه ۳ مارس ۲۰۲۶", "۳ مارس ۲۰۲۶",
-          "۳ مارس", "مارس", "مارس ۲۰۲۶", "۳ش", "۳ مارس، ۱۰:۰۲:۰۵"}},
+         std::chrono::Saturday,
+         {"سه‌شنبه ۳ مارس ۲۰۲۶", "سه‌شنبه ۳ مارس ۲۰۲۶",
+          "سه‌شنبه ۳ مارس", "۳ مارس ۲۰۲۶", "۳ مارس", "مارس ۲۰۲۶", "مارس ۲۰۲۶", "مارس", "۳ش",
+          "۳ تا ۸ مارس ۲۰۲۶", "۲۸ دسامبر ۲۰۲۶ تا ۳ ژانویه ۲۰۲۷", "۳ مارس ۲۰۲۶، ۱۰:۰۲", "۳ مارس، ۱۰:۰۲:۰۵"}},
     };
     const auto day = 2026y / 3 / 3;
     const Instant morning = std::chrono::sys_days(day) + 9h + 2min + 5s;
+    const auto berlin = TimeZone::named("Europe/Berlin").value();
     for (const auto& row : cases) {
         const auto locale = localeNamed(row.locale);
         const std::vector<std::string> texts = {locale.wideWeekdayDate(day),
                                                 locale.weekdayDate(day),
+                                                locale.weekdayMonthDay(day),
                                                 locale.date(day),
                                                 locale.monthDay(day),
-                                                locale.shortMonth(day),
+                                                locale.monthYear(day),
                                                 locale.shortMonthYear(day),
+                                                locale.shortMonth(day),
                                                 locale.shortWeekday(day),
-                                                locale.logTime(morning, *TimeZone::named("Europe/Berlin"))};
-        EXPECT_EQ(texts, row.expected) << row.locale;
+                                                locale.dayRange(day, 2026y / 3 / 8),
+                                                locale.dayRange(2026y / 12 / 28, 2027y / 1 / 3),
+                                                locale.dateAndTime(morning, berlin),
+                                                locale.logTime(morning, berlin)};
+        EXPECT_EQ(texts, row.texts) << row.locale;
+        EXPECT_EQ(locale.firstWeekday(), row.firstWeekday) << row.locale;
     }
 }
 

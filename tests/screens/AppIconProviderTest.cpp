@@ -3,15 +3,14 @@
 #include "testing/SlowHttp.h"
 #include "testing/TemporaryFolder.h"
 
-#include <functional>
 #include <memory>
 
 #include <QBuffer>
-#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickView>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -68,14 +67,6 @@ class IconWindow {
     QObject* item = nullptr;  // the view's
 };
 
-bool spinUntil(const std::function<bool()>& happened) {
-    const QDeadlineTimer deadline(std::chrono::seconds{10});
-    while (!happened() && !deadline.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    }
-    return happened();
-}
-
 TEST(AppIconProvider, ShowsThePictureAtTheSizeThatIsNeededAndNothingWhereThereIsNone) {
     const struct {
         const char* name;
@@ -93,7 +84,7 @@ TEST(AppIconProvider, ShowsThePictureAtTheSizeThatIsNeededAndNothingWhereThereIs
         http.answers = {c.response};
         IconWindow window(http, folder);
         window.show(oddAddress);
-        ASSERT_TRUE(spinUntil([&] { return window.isReady(); }));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return window.isReady(); }, 10'000));
         EXPECT_EQ(http.requests.at(0).url, oddAddress);
         EXPECT_EQ(window.item->property("implicitWidth"), c.width);
         EXPECT_EQ(window.view->grabWindow().pixelColor(50, 50), c.colour);
@@ -109,14 +100,14 @@ TEST(AppIconProvider, ClosesInAnyOrderWhileAPictureIsUnderWay) {
             // Qt Quick keeps what it showed for all windows, by address.
             window.show("https://a.test/" + std::to_string(moment) + (loaderFirst ? "a" : "b"));
             if (moment > 0) {
-                EXPECT_TRUE(spinUntil([&] { return http.requests.size() == 1; }));
+                EXPECT_TRUE(QTest::qWaitFor([&] { return http.requests.size() == 1; }, 10'000));
             }
             if (moment > 1) {
                 http.clock.advance(std::chrono::seconds(1));
             }
             if (loaderFirst) {
                 window.loader.reset();
-                EXPECT_TRUE(spinUntil([&] { return window.isReady(); }));
+                EXPECT_TRUE(QTest::qWaitFor([&] { return window.isReady(); }, 10'000));
             }
             window.view.reset();
             window.engine.reset();

@@ -8,7 +8,6 @@ namespace vantrell {
 namespace {
 
 using testing::Line;
-using testing::text;
 
 /// A paid app with a product, a free one, and one that was only updated.
 class AppsViewTest : public ::testing::Test {
@@ -36,28 +35,7 @@ class AppsViewTest : public ::testing::Test {
 };
 
 TEST_F(AppsViewTest, SetsTheAppsSideBySide) {
-    EXPECT_EQ(text(*apps.rows()), R"(
-Proceeds
-App | 30 days | 365 days | YTD | All time
-Pad | 2 app · 1 refunded | $5.00 | $5.00 | $5.00 | $1,005.00
-Purchases | $6.00 | $6.00 | $6.00 | $1,006.00
-Pens | -$1.00 | -$1.00 | -$1.00 | -$1.00
-Free | 1 app | — | — | — | —
-Old | 1 updates | — | — | — | —
-
-By year
-App | 2024 | 2026 (YTD)
-Pad | $1,000 | $5
-Free | — | —
-Old | — | —
-Converted at today's rates.
-
-Paid by Apple
-App | This fiscal year | All time
-Free | $0.00 | $0.00
-Pad | $5.00 | $45.00
-From finance reports — what actually settled, attributed by Apple Identifier.
-)");
+    testing::expectShown(*apps.rows(), "apps.txt");
     EXPECT_EQ(apps.yearCount(), 2);
 }
 
@@ -76,21 +54,7 @@ TEST_F(AppsViewTest, BandsEverySecondAppWithItsProducts) {
 TEST_F(AppsViewTest, NarrowsWhatWasLoadedToTheFilterWithoutWorkingItOutAnew) {
     fixture.clock.advance(std::chrono::hours(24 * 60));
     fixture.store().setAppFilter(std::set<std::int64_t>{2});
-    EXPECT_EQ(text(*apps.rows()), R"(
-Proceeds
-App | 30 days | 365 days | YTD | All time
-Free | 1 app | — | — | — | —
-
-By year
-App | 2024 | 2026
-Free | — | —
-Converted at today's rates.
-
-Paid by Apple
-App | This fiscal year | All time
-Free | $0.00 | $0.00
-From finance reports — what actually settled, attributed by Apple Identifier.
-)");
+    testing::expectShown(*apps.rows(), "apps-of-a-filter.txt");
     fixture.store().setAppFilter(std::nullopt);
     EXPECT_EQ(apps.rows()->at<WindowsRow>(2).last30.money.text, QStringLiteral("$5.00"));
     fixture.reload();

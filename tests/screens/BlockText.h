@@ -2,6 +2,7 @@
 
 #include "screens/BlockList.h"
 #include "screens/components/ColumnTitles.h"
+#include "testing/Golden.h"
 
 #include <string>
 
@@ -30,6 +31,11 @@ inline std::string text(const BlockList& rows) {
         all += (row.startsBlock ? "\n" : "") + text(row.value()) + "\n";
     }
     return all;
+}
+
+/// Fails unless the rows are shown as in that file of this folder.
+inline void expectShown(const BlockList& rows, const char* file) {
+    expectMatchesFile(text(rows), std::filesystem::path(VANTRELL_TEST_DATA) / file);
 }
 
 }  // namespace vantrell::testing
