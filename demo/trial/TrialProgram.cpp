@@ -5,6 +5,7 @@
 #include "platform/DesktopAppearance.h"
 #include "platform/InstanceGuard.h"
 #include "platform/Overloaded.h"
+#include "screens/StoreNotice.h"
 #include "trial/ExportFiles.h"
 #include "trial/RunProgress.h"
 #include "trial/RunSummary.h"
@@ -42,8 +43,15 @@ QCoro::Task<> started(SyncEngine& engine, const TrialOperation& operation, std::
         operation);
 }
 
+// The store is looked through before anything is fetched into it, as in the window.
+QCoro::Task<> checked(MyApp& app, const TrialOperation& operation, std::ostream& output) {
+    co_await app.engine().checkStore();
+    co_await started(app.engine(), operation, output);
+}
+
 void runToTheEnd(MyApp& app, const TrialOperation& operation, std::ostream& output) {
-    app.tasks().spawn(started(app.engine(), operation, output));
+    app.store().reload(app.context());
+    app.tasks().spawn(checked(app, operation, output));
     while (app.tasks().pending() != 0) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
@@ -75,6 +83,25 @@ bool pictured(MyApp& app, TrialSurroundings& surroundings, const fs::path& folde
     return true;
 }
 
+/// Ends all that is under way; what still isn't stored then comes before how else it went.
+TrialEnd closed(MyApp& app, TrialEnd end, std::ostream& errors) {
+    app.close();
+    if (const auto problem = storeProblem(app.context().health())) {
+        errors << onOneLine(*problem) << std::endl;
+        return TrialEnd::notStored;
+    }
+    return end;
+}
+
+TrialEnd told(MyApp& app, bool isWritten, std::ostream& errors) {
+    TrialEnd end = isWritten ? TrialEnd::done : TrialEnd::notWritten;
+    if (const auto error = app.engine().lastError()) {
+        errors << onOneLine(*error) << std::endl;
+        end = TrialEnd::runFailed;
+    }
+    return closed(app, end, errors);
+}
+
 }  // namespace
 
 TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostream& errors) {
@@ -92,13 +119,12 @@ TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostrea
         writeRunSummary(app, surroundings.locale(), output);
         output << "\nThe store is " << fs::absolute(surroundings.storeFile()).string() << std::endl;
     }
-    const bool isExported = !options.exports || exported(app.store(), *options.exports, output, errors);
+    // Figures with holes must not take the place of good ones.
+    const bool isWhole = !app.context().health().isDamaged();
+    const bool isExported =
+        !options.exports || (isWhole && exported(app.store(), *options.exports, output, errors));
     const bool isPictured = !options.screens || pictured(app, surroundings, *options.screens, output, errors);
-    if (const auto error = app.engine().lastError()) {
-        errors << onOneLine(*error) << std::endl;
-        return TrialEnd::runFailed;
-    }
-    return isExported && isPictured ? TrialEnd::done : TrialEnd::notWritten;
+    return told(app, isExported && isPictured, errors);
 }
 
 TrialEnd openTrialWindow(const TrialOptions& options, std::ostream& output, std::ostream& errors) {
@@ -119,7 +145,7 @@ TrialEnd openTrialWindow(const TrialOptions& options, std::ostream& output, std:
     QObject::connect(&guard, &InstanceGuard::wakened, &windows, &AppWindows::raise);
     windows.show();
     QGuiApplication::exec();
-    return TrialEnd::done;
+    return closed(app, TrialEnd::done, errors);
 }
 
 }  // namespace vantrell

@@ -1,6 +1,7 @@
 #include "core/MyApp.h"
 
 #include <chrono>
+#include <tuple>
 #include <utility>
 
 namespace vantrell {
@@ -39,9 +40,16 @@ MyApp::MyApp(const MyAppParts& parts, std::unique_ptr<ModelContainer> container,
       store_(parts.defaults, parts.locale, calendar_) {}
 
 MyApp::~MyApp() {
+    close();
+}
+
+void MyApp::close() {
     constexpr auto patience = std::chrono::seconds(10);
     engine_.close();
     tasks_.finish(patience);
+    context().holdSaves(false);
+    // Told by the store's health to whoever asks before the store is closed.
+    std::ignore = context().save();
 }
 
 }  // namespace vantrell

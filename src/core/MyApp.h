@@ -37,10 +37,14 @@ class MyApp {
     [[nodiscard]] static std::variant<std::unique_ptr<MyApp>, StartFailure> start(
         const MyAppParts& parts, const std::filesystem::path& storeFile, const SyncEngineSettings& settings);
 
-    /// Ends what is under way; reports not yet reached keep their status.
+    /// As `close`.
     ~MyApp();
     MyApp(const MyApp&) = delete;
     MyApp& operator=(const MyApp&) = delete;
+
+    /// Ends what is under way, and tries once more to save what could not be saved; reports not yet reached
+    /// keep their status.
+    void close();
 
     [[nodiscard]] ModelContext& context() { return container_->mainContext(); }
     /// The store mirrors through the platform's cloud.

@@ -9,6 +9,7 @@
 #include "platform/QtHttpClient.h"
 #include "platform/SystemClock.h"
 #include "platform/ThreadWorker.h"
+#include "screens/StoreNotice.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -22,6 +23,9 @@
 namespace {
 
 using namespace vantrell;
+
+/// The exit code where something is lost when the program ends, or couldn't be read.
+constexpr int notStored = 5;
 
 std::optional<std::string> environmentVariable(const char* name) {
     const char* value = std::getenv(name);
@@ -39,7 +43,7 @@ int run(const ProgramFolders& folders, InstanceGuard& guard) {
     JsonDefaults defaults(folders.config / "defaults.json");
     DesktopAppearance appearance;
     const MyAppParts parts{http, clock, worker, localTime, locale, secrets, defaults};
-    const auto begun =
+    auto begun =
         MyApp::start(parts, folders.data / "vantrell.sqlite", {origins.reportService, origins.rateService});
     if (const auto* failure = std::get_if<StartFailure>(&begun)) {
         std::cerr << failure->text << std::endl;
@@ -47,14 +51,21 @@ int run(const ProgramFolders& folders, InstanceGuard& guard) {
     }
     ImageLoaderSettings icons;
     icons.folder = folders.cache / "icons";
-    AppWindows windows(*std::get<std::unique_ptr<MyApp>>(begun), parts,
+    MyApp& app = *std::get<std::unique_ptr<MyApp>>(begun);
+    AppWindows windows(app, parts,
                        {.origins = origins,
                         .appearance = appearance,
                         .icons = std::move(icons),
                         .placementFile = folders.config / "window.json"});
     QObject::connect(&guard, &InstanceGuard::wakened, &windows, &AppWindows::raise);
     windows.show();
-    return QGuiApplication::exec();
+    const int code = QGuiApplication::exec();
+    app.close();
+    if (const auto problem = storeProblem(app.context().health())) {
+        std::cerr << *problem << std::endl;
+        return notStored;
+    }
+    return code;
 }
 
 }  // namespace

@@ -18,7 +18,9 @@ Instant instant(const SqliteStatement& row, int column) {
 }  // namespace
 
 const LineSQL LineMapping<SalesLine>::sql = {
-    .selectBatches = "SELECT id, frequencyRaw, reportDate, firstLine, lineCount FROM sales_batch",
+    .selectBatches =
+        "SELECT id, frequencyRaw, reportDate, firstLine, lineCount FROM sales_batch"
+        " ORDER BY firstLine, lineCount",
     .insertBatch =
         "INSERT INTO sales_batch (id, frequencyRaw, reportDate, firstLine, lineCount)"
         " VALUES (?, ?, ?, ?, ?)",
@@ -34,7 +36,9 @@ const LineSQL LineMapping<SalesLine>::sql = {
     .selectFigures =
         "SELECT beginDate, offer, units, country"
         " FROM sales_line WHERE id >= ? AND id < ? ORDER BY id",
-    .deleteLines = "DELETE FROM sales_line WHERE id >= ? AND id < ?"};
+    .deleteLines = "DELETE FROM sales_line WHERE id >= ? AND id < ?",
+    .lastLine = "SELECT max(id) FROM sales_line",
+    .deleteBatchesAfter = "DELETE FROM sales_batch WHERE id > ?"};
 
 void LineMapping<SalesLine>::write(LineWriter& writer, const SalesLine& line) {
     const SalesFigures& figures = line.figures;
@@ -70,7 +74,9 @@ int LineMapping<SalesLine>::groupRank(std::string_view frequencyRaw) {
 }
 
 const LineSQL LineMapping<FinanceLine>::sql = {
-    .selectBatches = "SELECT id, region, fiscalPeriod, firstLine, lineCount FROM finance_batch",
+    .selectBatches =
+        "SELECT id, region, fiscalPeriod, firstLine, lineCount FROM finance_batch"
+        " ORDER BY firstLine, lineCount",
     .insertBatch =
         "INSERT INTO finance_batch (id, region, fiscalPeriod, firstLine, lineCount)"
         " VALUES (?, ?, ?, ?, ?)",
@@ -90,7 +96,9 @@ const LineSQL LineMapping<FinanceLine>::sql = {
         " partnerShare, extendedPartnerShare, partnerShareCurrency, saleOrReturn, appleID,"
         " country, promoCode, customerPrice, customerCurrency"
         " FROM finance_line WHERE id >= ? AND id < ? ORDER BY id",
-    .deleteLines = "DELETE FROM finance_line WHERE id >= ? AND id < ?"};
+    .deleteLines = "DELETE FROM finance_line WHERE id >= ? AND id < ?",
+    .lastLine = "SELECT max(id) FROM finance_line",
+    .deleteBatchesAfter = "DELETE FROM finance_batch WHERE id > ?"};
 
 void LineMapping<FinanceLine>::write(LineWriter& writer, const FinanceLine& line) {
     writer << line.startDate << line.endDate << line.vendorIdentifier << line.title << line.productType

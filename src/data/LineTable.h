@@ -1,6 +1,8 @@
 #pragma once
 
+#include "data/LineRejected.h"
 #include "data/LineWriter.h"
+#include "data/StoreHealth.h"
 #include "platform/Sqlite.h"
 
 #include <algorithm>
@@ -30,13 +32,15 @@ struct LineBatch {
 
 /// The statements for one kind of line and its batches.
 struct LineSQL {
-    const char* selectBatches;  ///< id, group, label, first line, line count
+    const char* selectBatches;  ///< id, group, label, first line, line count, by first line
     const char* insertBatch;
     const char* deleteBatch;
     const char* insertLine;     ///< the line's number, then the columns in the order of `write`
     const char* selectLines;    ///< from a first number up to but not including a last one
     const char* selectFigures;  ///< likewise, with the columns that the figures need
     const char* deleteLines;    ///< likewise
+    const char* lastLine;       ///< the highest number of a line
+    const char* deleteBatchesAfter;
 };
 
 /// How one kind of line lies in its table: see the specialisations.
@@ -54,19 +58,24 @@ class LineTable {
     /// By group, label and age: the order in which rows are given.
     using Order = std::tuple<int, std::string, std::string, BatchID>;
 
-    /// Reads the list of batches; throws SqliteError.
-    explicit LineTable(SqliteDatabase& database) : database_(database) {
+    /// Reads the list of batches; throws SqliteError. What is found damaged, now or later, is told to
+    /// `health`.
+    LineTable(SqliteDatabase& database, StoreHealth& health) : database_(database), health_(health) {
         auto select = database_.prepare(Mapping::sql.selectBatches);
+        Entry* before = nullptr;
         while (select.step()) {
-            Entry entry{{select.integer(0), std::string(select.text(1)), std::string(select.text(2)),
-                         select.integer(4)},
-                        select.integer(3),
-                        {}};
-            lastID_ = std::max(lastID_, entry.batch.id);
-            nextLine_ = std::max(nextLine_, entry.firstLine + entry.batch.lineCount);
-            entries_.emplace(order(entry.batch), std::move(entry));
+            readBatch(before, {{select.integer(0), std::string(select.text(1)), std::string(select.text(2)),
+                                select.integer(4)},
+                               select.integer(3),
+                               {}});
+        }
+        // Lines that no batch has any more must not be in the way of new ones.
+        const std::int64_t lastLine = database_.integer(Mapping::sql.lastLine);
+        if (lastLine >= nextLine_ && lastLine < mostBelievableNumber) {
+            nextLine_ = lastLine + 1;
         }
         nextPlace_ = nextLine_;
+        savedID_ = lastID_;
     }
     LineTable(const LineTable&) = delete;
     LineTable& operator=(const LineTable&) = delete;
@@ -81,12 +90,21 @@ class LineTable {
         return result;
     }
 
+    /// How many lines there are under (group, label), by what the store says of them.
+    [[nodiscard]] std::int64_t lineCount(const std::string& group, const std::string& label) const {
+        std::int64_t count = 0;
+        for (auto entry = firstOf(group, label); entry != entries_.end() && isOf(entry->second, group, label);
+             ++entry) {
+            count += entry->second.batch.lineCount;
+        }
+        return count;
+    }
+
     /// Removes all lines under (group, label) and puts `lines` in their place, in this order.
     void replace(const std::string& group, const std::string& label, std::vector<Line> lines) {
-        const auto first = entries_.lower_bound({Mapping::groupRank(group), group, label, 0});
+        const auto first = firstOf(group, label);
         auto last = first;
-        while (last != entries_.end() && last->second.batch.group == group &&
-               last->second.batch.label == label) {
+        while (last != entries_.end() && isOf(last->second, group, label)) {
             if (last->second.firstLine != unsaved) {
                 removed_.push_back(std::move(last->second));
             }
@@ -102,7 +120,22 @@ class LineTable {
         entries_.emplace(key, Entry{std::move(batch), unsaved, std::move(lines)});
     }
 
-    /// Calls `visit` with each line of the batch, in the order of the report; throws SqliteError.
+    /// Undoes the last pending `replace` of these lines: those that were stored before are back.
+    void takeBack(const std::string& group, const std::string& label) {
+        std::erase_if(entries_, [&](const auto& entry) {
+            return entry.second.firstLine == unsaved && isOf(entry.second, group, label);
+        });
+        const auto back = std::stable_partition(
+            removed_.begin(), removed_.end(), [&](const Entry& entry) { return !isOf(entry, group, label); });
+        for (Entry& entry : std::ranges::subrange(back, removed_.end())) {
+            const Order key = order(entry.batch);
+            entries_.emplace(key, std::move(entry));
+        }
+        removed_.erase(back, removed_.end());
+    }
+
+    /// Calls `visit` with each line of the batch, in the order of the report. Lines that can't be read, or
+    /// are missing, are told to the store's health and left out.
     template <typename Visit>
     void readLines(const LineBatch& batch, Visit visit) {
         const Entry& entry = entries_.at(order(batch));
@@ -139,8 +172,17 @@ class LineTable {
             deleteSome(entry, most);
         }
         for (Entry* entry : unsavedEntries()) {
-            insertSome(*entry, most);
+            naming(*entry, [&] { insertSome(*entry, most); });
         }
+    }
+
+    /// Removes what a save has left whose commit failed, and may yet stand in the file; inside the caller's
+    /// transaction, before anything else is written. Throws SqliteError.
+    void removeUnsaved() {
+        deleteRange(nextLine_, std::numeric_limits<std::int64_t>::max());
+        auto batches = database_.prepare(Mapping::sql.deleteBatchesAfter);
+        batches.bind(0, savedID_);
+        batches.run();
     }
 
     /// Whether `writeLines` has more to do.
@@ -162,7 +204,7 @@ class LineTable {
             batch.run();
         }
         for (const Entry* entry : unsavedEntries()) {
-            insertBatch(*entry);
+            naming(*entry, [&] { insertBatch(*entry); });
         }
     }
 
@@ -176,6 +218,7 @@ class LineTable {
         }
         pending_.clear();
         nextLine_ = nextPlace_;
+        savedID_ = lastID_;
     }
 
     /// To be called when it came to nothing.
@@ -192,7 +235,9 @@ class LineTable {
 
   private:
     static constexpr std::int64_t unsaved = 0;
-    static constexpr std::int64_t mostBelievable = 10'000'000;
+    // More than any report has, and than any store will ever count.
+    static constexpr std::int64_t mostBelievableLines = 10'000'000;
+    static constexpr std::int64_t mostBelievableNumber = std::int64_t{1} << 53U;
 
     struct Entry {
         LineBatch batch;
@@ -207,6 +252,41 @@ class LineTable {
         return {Mapping::groupRank(batch.group), batch.group, batch.label, batch.id};
     }
 
+    static bool isOf(const Entry& entry, const std::string& group, const std::string& label) {
+        return entry.batch.group == group && entry.batch.label == label;
+    }
+
+    [[nodiscard]] auto firstOf(const std::string& group, const std::string& label) const {
+        return entries_.lower_bound({Mapping::groupRank(group), group, label, 0});
+    }
+
+    static bool isBelievable(const Entry& entry) {
+        const LineBatch& batch = entry.batch;
+        return batch.id > 0 && batch.id < mostBelievableNumber && entry.firstLine > 0 &&
+               entry.firstLine < mostBelievableNumber && batch.lineCount >= 0 &&
+               batch.lineCount <= mostBelievableLines;
+    }
+
+    // Batches come by their first line, each with the one `before` it. No two have lines in common, or a sale
+    // would be counted twice.
+    void readBatch(Entry*& before, Entry entry) {
+        if (!isBelievable(entry)) {
+            tellDamage(entry.batch);
+            return;
+        }
+        if (before != nullptr && entry.firstLine < nextLine_) {
+            tellDamage(before->batch);
+            tellDamage(entry.batch);
+            before->batch.lineCount = entry.firstLine - before->firstLine;
+        }
+        lastID_ = std::max(lastID_, entry.batch.id);
+        nextLine_ = entry.firstLine + entry.batch.lineCount;
+        const Order key = order(entry.batch);
+        before = &entries_.emplace(key, std::move(entry)).first->second;
+    }
+
+    void tellDamage(const LineBatch& batch) { health_.addDamagedReport({batch.group, batch.label}); }
+
     SqliteStatement& prepared(std::optional<SqliteStatement>& statement, const char* sql) {
         if (!statement) {
             statement = database_.prepare(sql);
@@ -216,13 +296,22 @@ class LineTable {
 
     template <typename Visit>
     void readRange(std::optional<SqliteStatement>& cached, const char* sql, const Entry& entry, Visit visit) {
-        SqliteStatement& select = prepared(cached, sql);
-        select.bind(0, entry.firstLine);
-        select.bind(1, entry.firstLine + entry.batch.lineCount);
-        while (select.step()) {
-            visit(select);
+        std::int64_t count = 0;
+        try {
+            SqliteStatement& select = prepared(cached, sql);
+            select.bind(0, entry.firstLine);
+            select.bind(1, entry.firstLine + entry.batch.lineCount);
+            while (select.step()) {
+                visit(select);
+                ++count;
+            }
+            select.reset();
+        } catch (const SqliteError& error) {
+            health_.addDamage(error.what());
         }
-        select.reset();
+        if (count != entry.batch.lineCount) {
+            tellDamage(entry.batch);
+        }
     }
 
     // Without those that were replaced again before they were ever saved.
@@ -236,19 +325,31 @@ class LineTable {
         return result;
     }
 
+    // A failure of what is inserted tells whose lines they were.
+    template <typename Insert>
+    static void naming(const Entry& entry, Insert insert) {
+        try {
+            insert();
+        } catch (const SqliteError& error) {
+            throw LineRejected(error, {entry.batch.group, entry.batch.label});
+        }
+    }
+
     void deleteSome(Entry& entry, std::int64_t& most) {
-        // The count of a damaged store can be any number: too many to go through step by step.
-        const std::int64_t left = entry.batch.lineCount - entry.written;
-        const std::int64_t count = left > mostBelievable ? left : std::min(most, left);
+        const std::int64_t count = std::min(most, entry.batch.lineCount - entry.written);
         if (count <= 0) {
             return;
         }
-        SqliteStatement& lines = prepared(deleteLines_, Mapping::sql.deleteLines);
-        lines.bind(0, entry.firstLine + entry.written);
-        lines.bind(1, entry.firstLine + entry.written + count);
-        lines.run();
+        deleteRange(entry.firstLine + entry.written, entry.firstLine + entry.written + count);
         entry.written += count;
         most -= count;
+    }
+
+    void deleteRange(std::int64_t first, std::int64_t last) {
+        SqliteStatement& lines = prepared(deleteLines_, Mapping::sql.deleteLines);
+        lines.bind(0, first);
+        lines.bind(1, last);
+        lines.run();
     }
 
     void insertSome(Entry& entry, std::int64_t& most) {
@@ -280,8 +381,10 @@ class LineTable {
     }
 
     SqliteDatabase& database_;
+    StoreHealth& health_;
     std::map<Order, Entry> entries_;
     BatchID lastID_ = 0;
+    BatchID savedID_ = 0;  // the highest that surely is in the file
     std::int64_t nextLine_ = 1;
     std::int64_t nextPlace_ = 1;  // the same in the transaction under way
     std::vector<Entry> removed_;

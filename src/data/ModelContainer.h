@@ -25,7 +25,8 @@ class ModelContainer {
   public:
     /// Opens the file, or creates it (0600) with its folder (0700). An error where the file is another
     /// application's, of a newer version, no database, or in use by another process; such a file is left as
-    /// it was, to the byte. This platform has no mirroring, so `CloudDatabase::automatic` is an error too.
+    /// it was, to the byte. What a crash has left is mended, and a start that was cut off begins again. This
+    /// platform has no mirroring, so `CloudDatabase::automatic` is an error too.
     [[nodiscard]] static std::variant<std::unique_ptr<ModelContainer>, StoreError> open(
         const ModelConfiguration& configuration);
 
@@ -37,6 +38,8 @@ class ModelContainer {
   private:
     explicit ModelContainer(std::unique_ptr<SqliteDatabase> database);
 
+    // Outlives the open store, whose locks would go with it.
+    std::shared_ptr<FileCheck> fileCheck_;
     std::unique_ptr<SqliteDatabase> database_;
     ModelContext context_;
 };

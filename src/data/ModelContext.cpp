@@ -1,5 +1,7 @@
 #include "data/ModelContext.h"
 
+#include "data/StoreFailures.h"
+
 #include <utility>
 
 namespace vantrell {
@@ -19,16 +21,37 @@ void appendEncoded(std::span<const Row> rows, std::vector<Line>& lines, TextDict
 
 }  // namespace
 
-ModelContext::ModelContext(SqliteDatabase& database)
+ModelContext::ModelContext(SqliteDatabase& database, std::shared_ptr<FileCheck> fileCheck)
     : database_(database),
+      fileCheck_(std::move(fileCheck)),
       texts_(database),
       offers_(database),
-      salesReports_(database),
-      financeReports_(database),
-      rateSets_(database),
-      syncLog_(database),
-      salesLines_(database),
-      financeLines_(database) {}
+      salesReports_(database, health_),
+      financeReports_(database, health_),
+      rateSets_(database, health_),
+      syncLog_(database, health_),
+      salesLines_(database, health_),
+      financeLines_(database, health_) {
+    checkCounts();
+}
+
+// Lines that are gone with what named them are told by the reports alone.
+void ModelContext::checkCounts() {
+    for (const auto& [id, report] : salesReports_.all()) {
+        const auto first = salesReports_.find(salesReportKey(report.frequencyRaw, report.reportDate));
+        if (first->id == id &&
+            report.rowCount != salesLines_.lineCount(report.frequencyRaw, report.reportDate)) {
+            health_.addDamagedReport({report.frequencyRaw, report.reportDate});
+        }
+    }
+    for (const auto& [id, report] : financeReports_.all()) {
+        const auto first = financeReports_.find(financeReportKey(report.region, report.fiscalPeriod));
+        if (first->id == id &&
+            report.rowCount != financeLines_.lineCount(report.region, report.fiscalPeriod)) {
+            health_.addDamagedReport({report.region, report.fiscalPeriod});
+        }
+    }
+}
 
 void ModelContext::encode(std::span<const SalesRowView> rows, std::vector<SalesLine>& lines) {
     appendEncoded(rows, lines, texts_, offers_);
@@ -96,24 +119,55 @@ bool ModelContext::hasChanges() const {
 }
 
 std::optional<StoreError> ModelContext::save() {
-    if (!hasChanges()) {
+    if (!hasChanges() || savesHeld_) {
         return std::nullopt;
     }
+    if (health_.isDamaged()) {
+        const StoreError refused{"the store is damaged", StoreFailure::damaged};
+        health_.setUnsaved(refused);
+        return refused;
+    }
+    bool isCommitting = false;
     try {
         begin();
         write();
+        isCommitting = true;
         transaction_->commit();
-    } catch (const SqliteError& error) {
+    } catch (const LineRejected& error) {
         rollBack();
-        return StoreError{error.what()};
+        StoreError told = storeError(error);
+        if (told.kind == StoreFailure::rejected && !isUnsure_) {
+            takeBack(error.report());
+            told.report = error.report();
+        }
+        return failed(std::move(told));
+    } catch (const SqliteError& error) {
+        isUnsure_ = isUnsure_ || isCommitting;
+        rollBack();
+        return failed(storeError(error));
     }
+    isUnsure_ = false;
     transaction_.reset();
     committed();
+    health_.setUnsaved(std::nullopt);
     return std::nullopt;
 }
 
+StoreError ModelContext::failed(StoreError error) {
+    if (error.kind == StoreFailure::damaged) {
+        health_.addDamage(error.description);
+    }
+    health_.setUnsaved(error);
+    return error;
+}
+
+void ModelContext::takeBack(const ReportName& report) {
+    salesLines_.takeBack(report.group, report.label);
+    financeLines_.takeBack(report.group, report.label);
+}
+
 bool ModelContext::writeAhead() {
-    if (!salesLines_.hasUnwrittenLines() && !financeLines_.hasUnwrittenLines()) {
+    if (!mayWrite() || (!salesLines_.hasUnwrittenLines() && !financeLines_.hasUnwrittenLines())) {
         return false;
     }
     try {
@@ -129,9 +183,24 @@ bool ModelContext::writeAhead() {
 }
 
 void ModelContext::begin() {
-    if (!transaction_) {
-        transaction_.emplace(database_);
+    if (transaction_) {
+        return;
     }
+    transaction_.emplace(database_);
+    if (isUnsure_) {
+        removeUnsaved();
+    }
+}
+
+void ModelContext::removeUnsaved() {
+    texts_.removeUnsaved();
+    offers_.removeUnsaved();
+    salesReports_.removeUnsaved();
+    financeReports_.removeUnsaved();
+    rateSets_.removeUnsaved();
+    syncLog_.removeUnsaved();
+    salesLines_.removeUnsaved();
+    financeLines_.removeUnsaved();
 }
 
 void ModelContext::rollBack() {

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "data/FileCheck.h"
 #include "data/LineMappings.h"
 #include "data/RecordMappings.h"
-#include "data/StoreError.h"
 #include "data/StoreHealth.h"
 
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -13,13 +14,16 @@
 namespace vantrell {
 
 /// The records of the store with their pending changes. Every reader sees a change at once; `save` makes all
-/// of them durable in one transaction or none. After a save that failed they wait for the next one.
+/// of them durable in one transaction or none. After a save that failed they wait for the next one, which
+/// begins by removing what may yet stand in the file of the one that failed.
 ///
-/// Main thread only. Reading lines from disk throws SqliteError; all else is in memory and can't fail.
+/// Main thread only. Lines that can't be read are left out and told by `health`; all else is in memory and
+/// can't fail.
 class ModelContext {
   public:
-    /// Reads everything but the lines; throws SqliteError.
-    explicit ModelContext(SqliteDatabase& database);
+    /// Reads everything but the lines, and holds the numbers of lines against what the reports say. Throws
+    /// SqliteError where the store can't be shown even in part.
+    ModelContext(SqliteDatabase& database, std::shared_ptr<FileCheck> fileCheck);
     ModelContext(const ModelContext&) = delete;
     ModelContext& operator=(const ModelContext&) = delete;
 
@@ -65,16 +69,29 @@ class ModelContext {
     /// quick. True while there are more: whoever saves a long report calls it until there are none. A failure
     /// undoes what was written ahead, and is left to the save to tell.
     [[nodiscard]] bool writeAhead();
-    /// Absent when everything pending is on disk.
+    /// Absent when everything pending is on disk, or waits for the end of a check of the file. A store that
+    /// is damaged is never written to. Where one report's lines are refused, they are dropped, the lines
+    /// stored before are back, and the error names the report: all else waits for the next save.
     [[nodiscard]] std::optional<StoreError> save();
 
+    /// Looks through the file for damage that the first load doesn't meet; may run on any thread. As long as
+    /// saves are held nothing is written, and what is saved waits, so that the check sees one state.
+    [[nodiscard]] const std::shared_ptr<FileCheck>& fileCheck() const { return fileCheck_; }
+    void holdSaves(bool hold) { savesHeld_ = hold; }
+
   private:
+    void checkCounts();
+    [[nodiscard]] bool mayWrite() const { return !savesHeld_ && !health_.isDamaged(); }
+    [[nodiscard]] StoreError failed(StoreError error);
+    void takeBack(const ReportName& report);
     void begin();
+    void removeUnsaved();
     void write();
     void committed();
     void rollBack();
 
     SqliteDatabase& database_;
+    std::shared_ptr<FileCheck> fileCheck_;
     StoreHealth health_;
     TextDictionary texts_;
     OfferDictionary offers_;
@@ -86,6 +103,9 @@ class ModelContext {
     LineTable<FinanceLine> financeLines_;
     // Open from the first line written ahead to the save.
     std::optional<SqliteTransaction> transaction_;
+    // A commit failed, and what it was to make durable may stand in the file or not.
+    bool isUnsure_ = false;
+    bool savesHeld_ = false;
 };
 
 }  // namespace vantrell

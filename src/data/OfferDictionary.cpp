@@ -94,4 +94,10 @@ void OfferDictionary::write() {
     }
 }
 
+void OfferDictionary::removeUnsaved() {
+    auto remove = database_.prepare("DELETE FROM sales_offer WHERE id >= ?");
+    remove.bind(0, static_cast<std::int64_t>(saved_));
+    remove.run();
+}
+
 }  // namespace vantrell

@@ -43,6 +43,8 @@ class OfferDictionary {
 
     /// Inserts the offers that aren't stored yet, inside the caller's transaction; throws SqliteError.
     void write();
+    /// Removes what a save has left whose commit failed; likewise.
+    void removeUnsaved();
     /// To be called when that transaction was committed.
     void committed() { saved_ = offers_.size(); }
 

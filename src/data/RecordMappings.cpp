@@ -59,6 +59,7 @@ const char* const RecordMapping<SalesReport>::update =
     "UPDATE sales_report SET accountID = ?, frequencyRaw = ?, reportDate = ?, statusRaw = ?, rowCount = ?,"
     " message = ?, fetchedAt = ? WHERE id = ?";
 const char* const RecordMapping<SalesReport>::remove = "DELETE FROM sales_report WHERE id = ?";
+const char* const RecordMapping<SalesReport>::removeAfter = "DELETE FROM sales_report WHERE id > ?";
 
 SalesReport RecordMapping<SalesReport>::read(const SqliteStatement& row) {
     return {text(row, 1),   text(row, 2), text(row, 3),   text(row, 4),
@@ -91,6 +92,7 @@ const char* const RecordMapping<FinanceReport>::update =
     "UPDATE finance_report SET accountID = ?, region = ?, fiscalPeriod = ?, statusRaw = ?, rowCount = ?,"
     " message = ?, fetchedAt = ?, startDate = ?, endDate = ? WHERE id = ?";
 const char* const RecordMapping<FinanceReport>::remove = "DELETE FROM finance_report WHERE id = ?";
+const char* const RecordMapping<FinanceReport>::removeAfter = "DELETE FROM finance_report WHERE id > ?";
 
 FinanceReport RecordMapping<FinanceReport>::read(const SqliteStatement& row) {
     return {text(row, 1),           text(row, 2), text(row, 3),    text(row, 4),
@@ -124,6 +126,7 @@ const char* const RecordMapping<RateSet>::insert =
 const char* const RecordMapping<RateSet>::update =
     "UPDATE rate_set SET base = ?, fetchedAt = ?, rates = ? WHERE id = ?";
 const char* const RecordMapping<RateSet>::remove = "DELETE FROM rate_set WHERE id = ?";
+const char* const RecordMapping<RateSet>::removeAfter = "DELETE FROM rate_set WHERE id > ?";
 
 RateSet RecordMapping<RateSet>::read(const SqliteStatement& row) {
     return {text(row, 1), instant(row, 2), ratesFromText(row.text(3))};
@@ -149,6 +152,7 @@ const char* const RecordMapping<SyncLogEntry>::insert =
 const char* const RecordMapping<SyncLogEntry>::update =
     "UPDATE sync_log SET date = ?, key = ?, outcome = ?, message = ? WHERE id = ?";
 const char* const RecordMapping<SyncLogEntry>::remove = "DELETE FROM sync_log WHERE id = ?";
+const char* const RecordMapping<SyncLogEntry>::removeAfter = "DELETE FROM sync_log WHERE id > ?";
 
 SyncLogEntry RecordMapping<SyncLogEntry>::read(const SqliteStatement& row) {
     return {instant(row, 1), text(row, 2), text(row, 3), text(row, 4)};

@@ -20,6 +20,7 @@ struct RecordMapping<SalesReport> {
     static const char* const insert;
     static const char* const update;
     static const char* const remove;
+    static const char* const removeAfter;
     static SalesReport read(const SqliteStatement& row);
     static void write(SqliteStatement& statement, RecordID id, const SalesReport& record);
     static std::string key(const SalesReport& record);
@@ -31,6 +32,7 @@ struct RecordMapping<FinanceReport> {
     static const char* const insert;
     static const char* const update;
     static const char* const remove;
+    static const char* const removeAfter;
     static FinanceReport read(const SqliteStatement& row);
     static void write(SqliteStatement& statement, RecordID id, const FinanceReport& record);
     static std::string key(const FinanceReport& record);
@@ -42,6 +44,7 @@ struct RecordMapping<RateSet> {
     static const char* const insert;
     static const char* const update;
     static const char* const remove;
+    static const char* const removeAfter;
     static RateSet read(const SqliteStatement& row);
     static void write(SqliteStatement& statement, RecordID id, const RateSet& record);
     static std::string key(const RateSet& record);
@@ -53,6 +56,7 @@ struct RecordMapping<SyncLogEntry> {
     static const char* const insert;
     static const char* const update;
     static const char* const remove;
+    static const char* const removeAfter;
     static SyncLogEntry read(const SqliteStatement& row);
     static void write(SqliteStatement& statement, RecordID id, const SyncLogEntry& record);
     static std::string key(const SyncLogEntry& record);

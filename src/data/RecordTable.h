@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/StoreHealth.h"
 #include "platform/Sqlite.h"
 
 #include <cstdint>
@@ -22,8 +23,8 @@ struct Stored {
 };
 
 /// How one kind of record lies in its table. A specialisation gives the SQL and moves values:
-/// `select` (id first), `insert`, `update` and `remove` with the id as last parameter, `bind`, `read` and
-/// `key`, the values by which a record is found.
+/// `select` (id first), `insert`, `update` and `remove` with the id as last parameter, `removeAfter` an id,
+/// `write`, `read` and `key`, the values by which a record is found.
 template <typename Record>
 struct RecordMapping;
 
@@ -34,12 +35,22 @@ struct RecordMapping;
 template <typename Record>
 class RecordTable {
   public:
-    /// Reads what is stored; throws SqliteError.
-    explicit RecordTable(SqliteDatabase& database) : database_(database) {
+    /// Reads what is stored; records that can't be read are told to `health` and left out. Throws SqliteError
+    /// where there is no such table.
+    RecordTable(SqliteDatabase& database, StoreHealth& health) : database_(database) {
         auto select = database_.prepare(RecordMapping<Record>::select);
-        while (select.step()) {
-            add(select.integer(0), RecordMapping<Record>::read(select));
+        try {
+            while (select.step()) {
+                if (const RecordID id = select.integer(0); id > 0 && id < mostBelievable) {
+                    add(id, RecordMapping<Record>::read(select));
+                } else {
+                    health.addDamage("a record has a number that was never given");
+                }
+            }
+        } catch (const SqliteError& error) {
+            health.addDamage(error.what());
         }
+        savedID_ = lastID_;
     }
     RecordTable(const RecordTable&) = delete;
     RecordTable& operator=(const RecordTable&) = delete;
@@ -109,14 +120,26 @@ class RecordTable {
         }
     }
 
+    /// Removes the records of a save whose commit failed, and which may yet stand in the file; inside the
+    /// caller's transaction, before anything else is written. Throws SqliteError.
+    void removeUnsaved() {
+        auto statement = database_.prepare(RecordMapping<Record>::removeAfter);
+        statement.bind(0, savedID_);
+        statement.run();
+    }
+
     /// To be called when that transaction was committed.
     void committed() {
+        savedID_ = lastID_;
         inserted_.clear();
         updated_.clear();
         removed_.clear();
     }
 
   private:
+    // More than any store will ever count.
+    static constexpr RecordID mostBelievable = RecordID{1} << 53U;
+
     void add(RecordID id, Record record) {
         lastID_ = std::max(lastID_, id);
         ids_[RecordMapping<Record>::key(record)].insert(id);
@@ -137,6 +160,7 @@ class RecordTable {
     std::map<RecordID, Record> records_;
     std::map<std::string, std::set<RecordID>> ids_;
     RecordID lastID_ = 0;
+    RecordID savedID_ = 0;  // the highest that surely is in the file
     std::set<RecordID> inserted_;
     std::set<RecordID> updated_;
     std::set<RecordID> removed_;

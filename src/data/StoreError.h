@@ -1,5 +1,8 @@
 #pragma once
 
+#include "data/ReportName.h"
+
+#include <optional>
 #include <string>
 
 namespace vantrell {
@@ -18,6 +21,7 @@ enum class StoreFailure {
 struct StoreError {
     std::string description;  ///< in words for the user
     StoreFailure kind = StoreFailure::other;
+    std::optional<ReportName> report;  ///< the one whose lines were rejected
     bool operator==(const StoreError&) const = default;
 };
 

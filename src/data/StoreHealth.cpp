@@ -26,7 +26,7 @@ void StoreHealth::addDamage(const std::string& words) {
     Q_EMIT changed();
 }
 
-void StoreHealth::addDamagedReport(DamagedReport report) {
+void StoreHealth::addDamagedReport(ReportName report) {
     if (std::ranges::find(damagedReports_, report) != damagedReports_.end()) {
         return;
     }

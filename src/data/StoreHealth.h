@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/ReportName.h"
 #include "data/StoreError.h"
 
 #include <optional>
@@ -9,13 +10,6 @@
 #include <QObject>
 
 namespace vantrell {
-
-/// A report whose stored lines can't all be read, or aren't as many as were stored.
-struct DamagedReport {
-    std::string group;  ///< frequency of a sales report, region of a finance report
-    std::string label;  ///< report date or fiscal period
-    bool operator==(const DamagedReport&) const = default;
-};
 
 /// What can't be written and what couldn't be read, for everybody to watch. A store is well when `unsaved` is
 /// absent and it isn't damaged.
@@ -30,12 +24,13 @@ class StoreHealth : public QObject {
     [[nodiscard]] bool isDamaged() const { return damage_.has_value(); }
     /// What was found to be damaged in the file as a whole, in SQLite's words; may be empty.
     [[nodiscard]] const std::string& damage() const;
-    /// In the order in which they were found, each once.
-    [[nodiscard]] const std::vector<DamagedReport>& damagedReports() const { return damagedReports_; }
+    /// Those whose stored lines can't all be read, or aren't as many as were stored: in the order in which
+    /// they were found, each once.
+    [[nodiscard]] const std::vector<ReportName>& damagedReports() const { return damagedReports_; }
 
     void setUnsaved(std::optional<StoreError> error);
     void addDamage(const std::string& words);
-    void addDamagedReport(DamagedReport report);
+    void addDamagedReport(ReportName report);
 
   Q_SIGNALS:
     void changed();
@@ -43,7 +38,7 @@ class StoreHealth : public QObject {
   private:
     std::optional<StoreError> unsaved_;
     std::optional<std::string> damage_;
-    std::vector<DamagedReport> damagedReports_;
+    std::vector<ReportName> damagedReports_;
 };
 
 }  // namespace vantrell

@@ -58,4 +58,10 @@ void TextDictionary::write() {
     }
 }
 
+void TextDictionary::removeUnsaved() {
+    auto remove = database_.prepare("DELETE FROM text WHERE id >= ?");
+    remove.bind(0, static_cast<std::int64_t>(saved_));
+    remove.run();
+}
+
 }  // namespace vantrell

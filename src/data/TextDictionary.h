@@ -33,6 +33,8 @@ class TextDictionary {
 
     /// Inserts the texts that aren't stored yet, inside the caller's transaction; throws SqliteError.
     void write();
+    /// Removes what a save has left whose commit failed; likewise.
+    void removeUnsaved();
     /// To be called when that transaction was committed.
     void committed() { saved_ = texts_.size(); }
 

@@ -31,19 +31,13 @@ void FinanceSnapshot::read(ModelContext& context, const std::vector<LineBatch>& 
     auto known = std::exchange(rowsByBatch_, {});
     rows_.clear();
     batches_.clear();
-    try {
-        for (const LineBatch& batch : batches) {
-            const auto unchanged = known.find(batch.id);
-            auto rows = unchanged != known.end() ? std::move(unchanged->second) : readBatch(context, batch);
-            rows_.insert(rows_.end(), rows.begin(), rows.end());
-            rowsByBatch_.emplace(batch.id, std::move(rows));
-        }
-        batches_ = batches;
-    } catch (const SqliteError&) {
-        // A store that can't be read shows as an empty one; the next reload tries again.
-        rows_.clear();
-        rowsByBatch_.clear();
+    for (const LineBatch& batch : batches) {
+        const auto unchanged = known.find(batch.id);
+        auto rows = unchanged != known.end() ? std::move(unchanged->second) : readBatch(context, batch);
+        rows_.insert(rows_.end(), rows.begin(), rows.end());
+        rowsByBatch_.emplace(batch.id, std::move(rows));
     }
+    batches_ = batches;
 }
 
 std::vector<FinanceRowLite> FinanceSnapshot::readBatch(ModelContext& context, const LineBatch& batch) {

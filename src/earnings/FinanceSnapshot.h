@@ -22,8 +22,8 @@ class FinanceSnapshot {
     /// little or nothing, and the load can follow. What is shown until then stays as it is.
     [[nodiscard]] bool readAhead(ModelContext& context);
 
-    /// Takes over what the context holds now; always of the same store. If that can't be read, the snapshot
-    /// is empty. `load` numbers the reload, for the identities of the rows.
+    /// Takes over what the context holds now; always of the same store. Lines that can't be read are missing,
+    /// and told by the store's health. `load` numbers the reload, for the identities of the rows.
     void load(ModelContext& context, std::int64_t load);
 
     [[nodiscard]] const std::vector<FinanceRowLite>& rows() const { return rows_; }

@@ -20,15 +20,10 @@ bool SalesSnapshot::load(ModelContext& context, std::int64_t load) {
     load_ = load;
     const auto before = std::exchange(chunks_, {});
     const auto known = std::exchange(read_, {});
-    try {
-        for (const LineBatch& batch : context.salesLines().batches()) {
-            const auto read = known.find(batch.id);
-            chunks_.push_back(read != known.end() ? read->second : loader_.chunk(context, batch));
-            read_.emplace(batch.id, chunks_.back());
-        }
-    } catch (const SqliteError&) {
-        // A store that can't be read shows as an empty one; the next reload tries again.
-        chunks_.clear();
+    for (const LineBatch& batch : context.salesLines().batches()) {
+        const auto read = known.find(batch.id);
+        chunks_.push_back(read != known.end() ? read->second : loader_.chunk(context, batch));
+        read_.emplace(batch.id, chunks_.back());
     }
     // Reports whose frequency is unknown count as daily ones, and belong among them by their date.
     std::ranges::stable_sort(chunks_, {}, [](const auto& chunk) {

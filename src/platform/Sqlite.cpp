@@ -1,17 +1,22 @@
 #include "platform/Sqlite.h"
 
+#include <array>
 #include <utility>
-
-#include <QUrl>
 
 #include <sqlite3.h>
 
 namespace vantrell {
 namespace {
 
+SqliteError error(int result, sqlite3* database) {
+    return database == nullptr
+               ? SqliteError(result, sqlite3_errstr(result))
+               : SqliteError(result, sqlite3_errmsg(database), sqlite3_system_errno(database));
+}
+
 void check(int result, sqlite3* database) {
     if (result != SQLITE_OK) {
-        throw SqliteError(result, database != nullptr ? sqlite3_errmsg(database) : sqlite3_errstr(result));
+        throw error(result, database);
     }
 }
 
@@ -26,19 +31,27 @@ void checkBound(int result, sqlite3_stmt* statement) {
     }
 }
 
-// A file URI is the only way to say "immutable", and a path may hold any character.
+// A file URI is the only way to say "immutable", and a path may hold any byte.
 std::string fileURI(const std::string& path, SqliteDatabase::Mode mode) {
-    QUrl url = QUrl::fromLocalFile(QString::fromStdString(path));
-    if (mode == SqliteDatabase::Mode::peek) {
-        url.setQuery(QStringLiteral("immutable=1"));
+    constexpr std::string_view plain = "/-._~0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    constexpr std::array digits{'0', '1', '2', '3', '4', '5', '6', '7',
+                                '8', '9', 'A', 'B', 'C', 'D', 'E', 'F'};
+    std::string uri = path.starts_with('/') ? "file://" : "file:";
+    for (const char letter : path) {
+        if (plain.find(letter) != std::string_view::npos) {
+            uri += letter;
+            continue;
+        }
+        const auto byte = static_cast<unsigned char>(letter);
+        uri += {'%', digits.at(byte / digits.size()), digits.at(byte % digits.size())};
     }
-    return url.toEncoded(QUrl::FullyEncoded).toStdString();
+    return mode == SqliteDatabase::Mode::peek ? uri + "?immutable=1" : uri;
 }
 
 }  // namespace
 
-SqliteError::SqliteError(int code, const std::string& description)
-    : std::runtime_error(description), code_(code) {}
+SqliteError::SqliteError(int code, const std::string& description, int systemError)
+    : std::runtime_error(description), code_(code), systemError_(systemError) {}
 
 void SqliteStatement::Finalizer::operator()(sqlite3_stmt* statement) const {
     // The result only repeats the error of the last step, which has been thrown already.
@@ -69,9 +82,9 @@ bool SqliteStatement::step() {
     if (result == SQLITE_DONE) {
         return false;
     }
-    SqliteError error(result, sqlite3_errmsg(connection(statement_.get())));
+    const SqliteError failure = error(result, connection(statement_.get()));
     reset();
-    throw error;
+    throw failure;
 }
 
 void SqliteStatement::run() {
@@ -143,6 +156,11 @@ bool SqliteDatabase::inTransaction() const {
 
 bool SqliteDatabase::isReadOnly() const {
     return sqlite3_db_readonly(database_.get(), "main") == 1;
+}
+
+std::string SqliteDatabase::path() const {
+    const char* const path = sqlite3_db_filename(database_.get(), "main");
+    return path == nullptr ? std::string() : std::string(path);
 }
 
 SqliteTransaction::SqliteTransaction(SqliteDatabase& database) : database_(database) {

@@ -11,14 +11,17 @@ struct sqlite3_stmt;
 
 namespace vantrell {
 
-/// What SQLite answered when something failed: its result code and its own words.
+/// What SQLite answered when something failed: its result code, its own words, and the `errno` of the
+/// system's call that failed, 0 where it was none.
 class SqliteError : public std::runtime_error {
   public:
-    SqliteError(int code, const std::string& description);
+    SqliteError(int code, const std::string& description, int systemError = 0);
     [[nodiscard]] int code() const { return code_; }
+    [[nodiscard]] int systemError() const { return systemError_; }
 
   private:
     int code_;
+    int systemError_;
 };
 
 /// One prepared statement. Parameters and columns count from 0.
@@ -56,7 +59,8 @@ class SqliteDatabase {
   public:
     enum class Mode {
         readWrite,  ///< creates the file if there is none
-        peek,       ///< reads what is there without locks and without recovery: never changes a byte
+        peek,       ///< reads what is there without locks and without recovery: never changes a byte. Closing
+                    ///< it lets go of every lock that this process has on the file
     };
 
     /// `vfs` names one of SQLite's file layers; empty means the default.
@@ -69,6 +73,7 @@ class SqliteDatabase {
     [[nodiscard]] bool inTransaction() const;
     /// True where the file can be read but not written.
     [[nodiscard]] bool isReadOnly() const;
+    [[nodiscard]] std::string path() const;
 
   private:
     struct Closer {

@@ -14,7 +14,7 @@ DriveLoop::DriveLoop(const Parts& parts) : parts_(parts) {
 }
 
 void DriveLoop::start() {
-    becameActive();
+    parts_.tasks.spawn(begin(parts_, life_.token()));
     parts_.tasks.spawn(repeat(parts_, life_.token()));
 }
 
@@ -42,9 +42,21 @@ QCoro::Task<> DriveLoop::reloadNext(Parts parts, CancelToken cancel) {
     }
 }
 
+// Figures first: what they are worth is known a moment later, and before anything is fetched.
+QCoro::Task<> DriveLoop::begin(Parts parts, CancelToken cancel) {
+    co_await reload(parts, cancel);
+    if (!cancel.isCancelled()) {
+        co_await parts.engine.checkStore();
+    }
+    if (!cancel.isCancelled()) {
+        co_await parts.engine.autoSyncIfDue();
+    }
+}
+
 QCoro::Task<> DriveLoop::goRound(Parts parts, CancelToken cancel) {
     co_await reload(parts, cancel);
     if (!cancel.isCancelled()) {
+        parts.engine.savePending();
         co_await parts.engine.autoSyncIfDue();
     }
 }

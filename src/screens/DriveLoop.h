@@ -11,9 +11,10 @@
 namespace vantrell {
 
 /// Keeps the data moving while the main window lives: on its first appearance, every 900 seconds and each
-/// time it becomes active the figures are read again and a run starts if one is due; each new `revision` of
-/// the engine is read as well. The engine's throttle decides what is due, so all of these may fire at will.
-/// Much to read is read in steps, between which the window can move.
+/// time it becomes active the figures are read again, what waits to be saved is tried again, and a run starts
+/// if one is due; the first time the store's file is looked through before that. Each new `revision` of the
+/// engine is read as well. The engine's throttle decides what is due, so all of these may fire at will. Much
+/// to read is read in steps, between which the window can move.
 ///
 /// All that is handed over must outlive the loop, and `tasks` the engine.
 class DriveLoop : public QObject {
@@ -38,6 +39,7 @@ class DriveLoop : public QObject {
   private:
     static QCoro::Task<> reload(Parts parts, CancelToken cancel);
     static QCoro::Task<> reloadNext(Parts parts, CancelToken cancel);
+    static QCoro::Task<> begin(Parts parts, CancelToken cancel);
     static QCoro::Task<> goRound(Parts parts, CancelToken cancel);
     static QCoro::Task<> repeat(Parts parts, CancelToken cancel);
 

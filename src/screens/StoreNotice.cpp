@@ -34,7 +34,7 @@ QString whyUnsaved(const StoreError& error) {
 }
 
 // A damaged store may hold anything in place of a date or a name.
-QString reportName(const DamagedReport& report) {
+QString reportName(const ReportName& report) {
     constexpr int enough = 20;
     const QString label = shownText(report.label, enough);
     const auto frequency = reportFrequency(report.group);

@@ -55,6 +55,10 @@ void SalesReportRequest::removeRows(ModelContext& context) const {
     context.replaceSalesLines(std::string(rawText(frequency)), reportDate, {});
 }
 
+std::int64_t SalesReportRequest::lineCount(ModelContext& context) const {
+    return context.salesLines().lineCount(std::string(rawText(frequency)), reportDate);
+}
+
 std::string FinanceReportRequest::logKey() const {
     return "finance ZZ " + fiscalPeriod;
 }
@@ -88,6 +92,10 @@ void FinanceReportRequest::storeRows(ModelContext& context, FinanceReport& repor
 
 void FinanceReportRequest::removeRows(ModelContext& context) const {
     context.replaceFinanceLines(std::string(consolidatedRegion), fiscalPeriod, {});
+}
+
+std::int64_t FinanceReportRequest::lineCount(ModelContext& context) const {
+    return context.financeLines().lineCount(std::string(consolidatedRegion), fiscalPeriod);
 }
 
 }  // namespace vantrell

@@ -39,6 +39,7 @@ struct SalesReportRequest {
     void storeRows(ModelContext& context, SalesReport& report, const Parsed& parsed,
                    std::vector<SalesLine> lines) const;
     void removeRows(ModelContext& context) const;
+    [[nodiscard]] std::int64_t lineCount(ModelContext& context) const;
 };
 
 /// One finance report to ask for, always of the consolidated region.
@@ -61,6 +62,7 @@ struct FinanceReportRequest {
     void storeRows(ModelContext& context, FinanceReport& report, const Parsed& parsed,
                    std::vector<FinanceLine> lines) const;
     void removeRows(ModelContext& context) const;
+    [[nodiscard]] std::int64_t lineCount(ModelContext& context) const;
 };
 
 }  // namespace vantrell

@@ -1,5 +1,7 @@
 #include "sync/SyncEngine.h"
 
+#include "data/StoreCheck.h"
+
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -37,6 +39,10 @@ bool SyncEngine::beginRun() {
     }
     if (!hasCredentials_) {
         lastError_ = "Add your App Store Connect key in Settings first.";
+        return false;
+    }
+    if (context_.health().isDamaged()) {
+        lastError_ = "The store is damaged, so nothing is fetched into it.";
         return false;
     }
     isSyncing_ = true;
@@ -91,9 +97,22 @@ bool SyncEngine::hasOkDailyReport() const {
     });
 }
 
+// What can't be saved waits in the context for the next time, and the store's health says why. One report
+// whose lines are refused keeps those it had, and is no reason to keep all others waiting.
 void SyncEngine::save() {
-    // A save that fails is dropped: its changes wait in the context and go with the next one.
-    std::ignore = context_.save();
+    for (auto error = context_.save(); error && error->report; error = context_.save()) {
+        noteRejected(*error->report, error->description);
+    }
+}
+
+void SyncEngine::savePending() {
+    if (!isSyncing_) {
+        save();
+    }
+}
+
+QCoro::Task<> SyncEngine::checkStore() {
+    return vantrell::checkStore(context_, worker_, life_.token());
 }
 
 QCoro::Task<> SyncEngine::pause() {

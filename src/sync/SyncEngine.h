@@ -122,6 +122,12 @@ class SyncEngine : public QObject {
 
     [[nodiscard]] bool hasOkDailyReport() const;
 
+    /// Looks through the store's file for damage, beside the window; to be awaited before the first run. The
+    /// store's health tells what was found.
+    [[nodiscard]] QCoro::Task<> checkStore();
+    /// Saves what an earlier save could not, unless a run does it soon.
+    void savePending();
+
     // The pieces of a run.
 
     [[nodiscard]] bool beginRun();
@@ -175,6 +181,9 @@ class SyncEngine : public QObject {
     void stopForRateLimit(const std::string& key, const std::string& message);
     void log(std::string key, std::string_view outcome, std::string_view message);
     void save();
+    void noteRejected(const ReportName& report, const std::string& reason);
+    template <typename Request>
+    void settleRejected(const Request& request, const std::string& reason);
     QCoro::Task<> pause();
     /// Lets the event loop do what waits there.
     QCoro::Task<> breathe();

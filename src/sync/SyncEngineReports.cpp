@@ -168,6 +168,24 @@ QCoro::Task<> SyncEngine::saveInSteps() {
     save();
 }
 
+void SyncEngine::noteRejected(const ReportName& report, const std::string& reason) {
+    if (const auto frequency = reportFrequency(report.group)) {
+        settleRejected(SalesReportRequest{*frequency, report.label}, reason);
+    } else {
+        settleRejected(FinanceReportRequest{report.label}, reason);
+    }
+}
+
+template <typename Request>
+void SyncEngine::settleRejected(const Request& request, const std::string& reason) {
+    auto [id, report] = findOrCreate(request);
+    report.setStatus(ReportStatus::error);
+    report.message = "The report could not be stored: " + reason;
+    report.rowCount = request.lineCount(context_);
+    log(request.logKey(), report.statusRaw, report.message);
+    Request::records(context_).update(id, std::move(report));
+}
+
 // The report keeps its status, and so it is due again on the next run.
 void SyncEngine::stopForRateLimit(const std::string& key, const std::string& message) {
     lastError_ = "Rate limited by Apple — the run stopped and will resume on the next sync.";

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -86,10 +87,45 @@ TEST(StoreFile, IsForTheUserAlone) {
     EXPECT_EQ(fs::status(file.parent_path()).permissions(), fs::perms::owner_all);
 }
 
-TEST(StoreFile, ThatIsEmptyIsANewStore) {
+TEST(StoreFile, WithoutTablesAndOwnerIsANewStore) {
+    for (const char* sql : {"", "BEGIN EXCLUSIVE; COMMIT", "CREATE TABLE t (a); DROP TABLE t; VACUUM"}) {
+        StoreFixture store;
+        write(store.file(), "");
+        withSQL(store.file(), sql);
+        EXPECT_NE(store.open(), nullptr) << store.error() << sql;
+    }
+}
+
+TEST(StoreFile, OfAProgramThatEndedWhileItWroteGoesBackToTheLastSave) {
+    constexpr std::int64_t more = 80'000;  // than SQLite keeps in memory until the commit
     StoreFixture store;
-    write(store.file(), "");
-    EXPECT_NE(store.open(), nullptr) << store.error();
+    ModelContext* context = store.open();
+    context->replaceSalesRows("DAILY", "2026-08-14", {testing::sale(1, "1")});
+    ASSERT_EQ(context->save(), std::nullopt);
+    const auto before = fs::file_size(store.file());
+    context->replaceSalesRows("DAILY", "2026-08-14", std::vector<SalesRowView>(more, testing::sale(2, "1")));
+    while (context->writeAhead()) {
+    }
+    ASSERT_GT(fs::file_size(store.file()), before) << "else nothing is half written";
+    StoreFixture left;
+    fs::copy_file(store.file(), left.file());
+    fs::copy_file(store.file().string() + "-journal", left.file().string() + "-journal");
+    context = left.open();
+    ASSERT_NE(context, nullptr) << left.error();
+    ASSERT_EQ(context->fetchSalesRows().size(), 1U);
+    EXPECT_EQ(context->fetchSalesRows().front().line.units, 1);
+}
+
+TEST(StoreFile, ThatIsNoFileStopsTheStartAtOnce) {
+    for (const char* ending : {"", "-journal"}) {
+        StoreFixture store;
+        if (*ending != '\0') {
+            write(store.file(), "");
+        }
+        ASSERT_EQ(::mkfifo((store.file().string() + ending).c_str(), 0600), 0);
+        EXPECT_EQ(store.open(), nullptr);
+        EXPECT_TRUE(store.error().ends_with("is no regular file")) << store.error();
+    }
 }
 
 TEST(StoreFile, IsNotMirroredOnThisPlatform) {

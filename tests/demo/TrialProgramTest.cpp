@@ -201,6 +201,12 @@ TEST(TrialProgram, SaysInItsExitCodeAndLastLineWhatWentWrong) {
         EXPECT_EQ(trial.errors(),
                   "Could not create the model container: the store is in use by another process\n");
     }
+    SqliteDatabase((trial.folder() / "vantrell.sqlite").string(), SqliteDatabase::Mode::readWrite)
+        .execute("UPDATE sales_report SET rowCount = 7 WHERE id = 1");
+    EXPECT_EQ(trial.run(DoRates(), trial.folder() / "csv"), TrialEnd::notStored);
+    EXPECT_NE(trial.errors().find("This store is damaged: the daily report of "), std::string::npos)
+        << trial.errors();
+    EXPECT_FALSE(std::filesystem::exists(trial.folder() / "csv")) << "figures with holes are not exported";
     std::ofstream(trial.folder() / "vantrell.sqlite") << "my diary";
     EXPECT_EQ(trial.run(), TrialEnd::noStore);
     EXPECT_EQ(trial.errors(), "Could not create the model container: file is not a database\n");

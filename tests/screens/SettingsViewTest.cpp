@@ -119,7 +119,7 @@ TEST_F(SettingsViewTest, TellsWhyAFileIsntExported) {
 }
 
 TEST(StoreNotice, NamesWhatIsntStoredAndWhatCantBeRead) {
-    const std::vector<DamagedReport> reports{
+    const std::vector<ReportName> reports{
         {"DAILY", "2026-11-20"}, {"MONTHLY", "2026-10"}, {"ZZ", "2026-02"}, {"YEARLY", "2025"}};
     const std::string waits = " What was fetched is kept in memory and is stored as soon as it can be.";
     const std::string lacks =

@@ -34,9 +34,19 @@ std::string shortForm(const HttpRequest& request) {
     return "rates";
 }
 
+ModelContext* opened(StoreFixture& store, const std::string& vfs, const std::string& sql) {
+    if (!sql.empty()) {
+        store.open();
+        store.close();
+        SqliteDatabase(store.file(), SqliteDatabase::Mode::readWrite).execute(sql);
+    }
+    return store.open(vfs);
+}
+
 }  // namespace
 
-EngineFixture::EngineFixture(const std::string& vfs) : context_(store_.open(vfs)) {
+EngineFixture::EngineFixture(const std::string& vfs, const std::string& sql)
+    : context_(opened(store_, vfs, sql)) {
     answers["rates"] = rates();
     http.respond = [this](const HttpRequest& request) {
         const auto answer = answers.find(shortForm(request));

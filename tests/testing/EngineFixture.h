@@ -23,7 +23,8 @@ namespace vantrell::testing {
 /// The clock begins on 22 November 2026 at noon UTC, in Berlin.
 class EngineFixture {
   public:
-    explicit EngineFixture(const std::string& vfs = {});
+    /// Over a file layer, and over a new store that a plain client has changed by `sql`.
+    explicit EngineFixture(const std::string& vfs = {}, const std::string& sql = {});
 
     SyncEngine& engine() { return *engine_; }
     ModelContext& context() { return *context_; }

@@ -32,6 +32,14 @@ int writeFile(sqlite3_file* file, const void* bytes, int size, sqlite3_int64 off
     return failure != SQLITE_OK ? failure : real->xWrite(file, bytes, size, offset);
 }
 
+int syncFile(sqlite3_file* file, int flags) {
+    const auto& [owner, real, faulty] = methodsOf(file);
+    // What was to be synced has got as far as the disk by then, as often as not.
+    const int result = real->xSync(file, flags);
+    const int failure = owner->countSync();
+    return failure != SQLITE_OK ? failure : result;
+}
+
 int openFile(sqlite3_vfs* vfs, const char* path, sqlite3_file* file, int flags, int* outFlags) {
     auto* owner = static_cast<FaultyVfs*>(vfs->pAppData);
     const int result = owner->real()->xOpen(owner->real(), path, file, flags, outFlags);
@@ -40,6 +48,7 @@ int openFile(sqlite3_vfs* vfs, const char* path, sqlite3_file* file, int flags, 
         methods->faulty.iVersion = 1;  // no mapped memory, which would pass reads and writes by
         methods->faulty.xRead = readFile;
         methods->faulty.xWrite = writeFile;
+        methods->faulty.xSync = syncFile;
         file->pMethods = &methods->faulty;
     }
     return result;
@@ -76,6 +85,16 @@ void FaultyVfs::failWritesFrom(int count, int result) {
 int FaultyVfs::countWrite() {
     ++writes_;
     return failFrom_ != 0 && writes_ >= failFrom_ ? result_ : SQLITE_OK;
+}
+
+void FaultyVfs::failSyncsFrom(int count) {
+    failSyncsFrom_ = count;
+    syncs_ = 0;
+}
+
+int FaultyVfs::countSync() {
+    ++syncs_;
+    return failSyncsFrom_ != 0 && syncs_ >= failSyncsFrom_ ? SQLITE_IOERR_FSYNC : SQLITE_OK;
 }
 
 }  // namespace vantrell::testing

@@ -7,8 +7,8 @@ struct sqlite3_vfs;
 
 namespace vantrell::testing {
 
-/// A file layer for SQLite that passes everything on to the real one until it is told to fail a write, as a
-/// full or broken disk does. Register it under a name and open the store through that name.
+/// A file layer for SQLite that passes everything on to the real one until it is told to fail a write or a
+/// sync, as a full or broken disk does. Register it under a name and open the store through that name.
 class FaultyVfs {
   public:
     explicit FaultyVfs(std::string name);
@@ -20,11 +20,14 @@ class FaultyVfs {
 
     /// Every write from the `count`-th on fails with the SQLite result `result`; 0 lets all succeed again.
     void failWritesFrom(int count, int result);
+    /// Likewise of syncs, with an I/O error.
+    void failSyncsFrom(int count);
     /// Every read fails with an I/O error.
     void failReads(bool fail) { failReads_ = fail; }
 
     // For the file layer's own functions.
     [[nodiscard]] int countWrite();
+    [[nodiscard]] int countSync();
     [[nodiscard]] bool readsFail() const { return failReads_; }
     [[nodiscard]] sqlite3_vfs* real() const { return real_; }
 
@@ -36,6 +39,8 @@ class FaultyVfs {
     int failFrom_ = 0;
     int result_ = 0;
     int writes_ = 0;
+    int failSyncsFrom_ = 0;
+    int syncs_ = 0;
     bool failReads_ = false;
 };
 

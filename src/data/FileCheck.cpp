@@ -1,0 +1,54 @@
+#include "data/FileCheck.h"
+
+#include <array>
+
+namespace vantrell {
+namespace {
+
+struct Question {
+    const char* damage;
+    /// Gives a row where there is damage.
+    const char* sql;
+};
+
+// A number that was never given reads as the empty text or offer, which would be a silent zero.
+constexpr std::array questions{
+    Question{"lines of sales reports refer to what is missing",
+             "SELECT 1 FROM sales_line, (SELECT max(id) AS last FROM text) AS text,"
+             " (SELECT max(id) AS last FROM sales_offer) AS offers"
+             " WHERE offer > offers.last OR country > text.last OR typeof(beginDate) <> 'integer'"
+             " OR typeof(offer) <> 'integer' OR typeof(units) <> 'integer' OR typeof(country) <> 'integer'"
+             " LIMIT 1"},
+    Question{"products of sales reports refer to what is missing",
+             "SELECT 1 FROM sales_offer, (SELECT max(id) AS last FROM text) AS text"
+             " WHERE max(sku, title, productType, parentSKU, proceedsCurrency, customerCurrency) > text.last"
+             " OR max(sku, title, productType, parentSKU, proceedsCurrency, customerCurrency) IS NULL"
+             " OR proceedsPerUnit IS NULL OR customerPrice IS NULL LIMIT 1"},
+    Question{"lines of finance reports refer to what is missing",
+             "SELECT 1 FROM finance_line, (SELECT max(id) AS last FROM text) AS text"
+             " WHERE max(title, partnerShareCurrency, saleOrReturn, country) > text.last"
+             " OR max(title, partnerShareCurrency, saleOrReturn, country) IS NULL"
+             " OR typeof(quantity) <> 'integer' OR extendedPartnerShare IS NULL LIMIT 1"},
+};
+
+}  // namespace
+
+std::optional<std::string> FileCheck::run() {
+    try {
+        database_ = std::make_unique<SqliteDatabase>(path_, SqliteDatabase::Mode::peek);
+        auto check = database_->prepare("PRAGMA quick_check(1)");
+        if (check.step() && check.text(0) != "ok") {
+            return std::string(check.text(0));
+        }
+        for (const Question& question : questions) {
+            if (database_->prepare(question.sql).step()) {
+                return question.damage;
+            }
+        }
+    } catch (const SqliteError& error) {
+        return error.what();
+    }
+    return std::nullopt;
+}
+
+}  // namespace vantrell
