@@ -1,3 +1,4 @@
+#include "AccountFile.h"
 #include "earnings/CSVLine.h"
 #include "earnings/Exports.h"
 #include "testing/EarningsFixture.h"
@@ -40,37 +41,13 @@ TEST(BreakdownText, IsExactAndInTheOrderOfTheCodes) {
               "EUR 1000; JPY 0; KWD 0.001; USD -1234567.89");
 }
 
-// What every kind of export is made of: sales in three currencies, one of them without a rate, and payments.
-void fill(EarningsFixture& fixture) {
-    fixture.rates({{"USD", 1}, {"EUR", 0.5}});
-    fixture.daily("2026-11-20",
-                  {{.units = 3, .proceeds = "0.7", .title = "Notes, \"Pro\""},
-                   {.units = -1, .proceeds = "0.70", .title = "Notes, \"Pro\""},
-                   {.productType = "7T", .units = 12, .title = "Notes, \"Pro\""},
-                   {.productType = "3", .units = 4, .title = "Notes, \"Pro\""},
-                   {.appleID = 11,
-                    .productType = "IAY",
-                    .units = 2,
-                    .proceeds = "1.25",
-                    .currency = "EUR",
-                    .title = "Yearly",
-                    .parentSKU = "app"},
-                   {.appleID = 12, .productType = "IA1", .proceeds = "100", .currency = "JPY"}});
-    fixture.report(ReportFrequency::daily, "2026-11-21", {}, ReportStatus::pending);
-    fixture.report(ReportFrequency::monthly, "2026-10", {{.units = 5, .title = "Notes, \"Pro\""}});
-    fixture.report(ReportFrequency::yearly, "2025", {{.units = 7, .title = "Notes, \"Pro\""}});
-    fixture.payments("2026-12", {{.quantity = 10, .share = "7.5", .start = "2026-08-30", .end = "2026-09-26"},
-                                 {.quantity = -3, .share = "-2.25", .saleOrReturn = "R"},
-                                 {.quantity = 1, .share = "9", .currency = "JPY"}});
-    fixture.payments("2027-01", {{.quantity = 2, .share = "4", .currency = "EUR"}});
-}
-
 TEST(Exports, OfEachKindAreTheFilesThatAreKept) {
+    const std::filesystem::path folder = std::filesystem::path(VANTRELL_TEST_DATA) / "exports";
     EarningsFixture fixture;
-    fill(fixture);
-    EarningsStore& store = fixture.reload();
-    const auto expectFile = [](const char* name, const std::string& text) {
-        testing::expectMatchesFile(text, std::filesystem::path(VANTRELL_TEST_DATA) / name);
+    const testing::AccountFile account(folder / "exports.account", fixture);
+    EarningsStore& store = fixture.store();
+    const auto expectFile = [&folder](const char* name, const std::string& text) {
+        testing::expectMatchesFile(text, folder / name);
     };
     expectFile("days.csv", exportDays(store, 3));
     expectFile("months.csv", exportText(store, ExportKind::months));

@@ -1,0 +1,162 @@
+#include "AccountFile.h"
+#include "testing/Golden.h"
+
+#include <iomanip>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+// Each account under data/accounts stands beside all that an EarningsStore says of it.
+
+namespace vantrell {
+namespace {
+
+using testing::AccountFile;
+using testing::EarningsFixture;
+using testing::money;
+
+std::string text(const AggregateStats& stats) {
+    const std::pair<std::int64_t, const char*> units[] = {{stats.appUnits, "app"},
+                                                          {stats.iapUnits, "in-app"},
+                                                          {stats.updateUnits, "updates"},
+                                                          {stats.redownloadUnits, "redownloads"},
+                                                          {stats.refundedUnits, "refunded"}};
+    std::string text = money(stats);
+    for (const auto& [count, name] : units) {
+        text += count == 0 ? "" : (text.empty() ? "" : ", ") + std::to_string(count) + " " + name;
+    }
+    return text;
+}
+
+std::string key(const std::optional<Instant>& date) {
+    return date ? dayKey(std::chrono::floor<std::chrono::days>(*date)) : "none";
+}
+
+std::string rounded(double amount) {
+    std::ostringstream text;
+    text << std::setprecision(9) << amount;
+    return text.str();
+}
+
+/// A line for each entry under a heading, and nothing for an empty list.
+template <typename List, typename Describe>
+std::string listed(const std::string& heading, const List& list, Describe describe) {
+    std::string text;
+    for (const auto& entry : list) {
+        text += "  " + describe(entry) + "\n";
+    }
+    return text.empty() ? "" : heading + "\n" + text;
+}
+
+template <typename Entry>
+std::string windows(const Entry& entry) {
+    return ": " + text(entry.last30) + " | " + text(entry.last365) + " | " + text(entry.ytd) + " | " +
+           text(entry.allTime);
+}
+
+std::string period(const PeriodStat& stat) {
+    return stat.label + " (" + stat.note + "): " + text(stat.stats);
+}
+
+std::string wholeAccount(const EarningsStore& store) {
+    const Catalog& catalog = store.catalog();
+    std::string all = listed("apps", catalog.apps(),
+                             [](const AppInfo& app) { return std::to_string(app.id) + " " + app.title; });
+    all += listed("products", catalog.products(), [](const ProductInfo& product) {
+        return std::to_string(product.id) + " " + product.title + " of " +
+               (product.appID ? std::to_string(*product.appID) : "none") +
+               (product.isSubscription ? ", subscription" : "");
+    });
+    all += listed("30 days | 365 days | year to date | all time", store.appTable(), [](const auto& entry) {
+        return std::to_string(entry.app.id) + windows(entry) + " = " + rounded(entry.sortValue);
+    });
+    for (const auto& [app, products] : store.productWindows()) {
+        all += listed("products of " + std::to_string(app), products, [](const ProductWindowStat& product) {
+            return std::to_string(product.productID) + " " + product.title +
+                   (product.isAppPurchases ? ", the app" : "") + windows(product);
+        });
+    }
+    const YearMatrix matrix = store.yearMatrix();
+    all += listed("years that are worth something", matrix.years, [](const auto& year) { return year; });
+    all += listed("app by year", matrix.byApp, [](const auto& app) {
+        std::string row = std::to_string(app.first) + ":";
+        for (const auto& [year, amount] : app.second) {
+            row += " " + year + " " + rounded(amount);
+        }
+        return row;
+    });
+    all += listed("ranked", store.rankedApps(), [](std::int64_t app) { return std::to_string(app); });
+    return all + listed("paid this fiscal year of all time", store.appPayouts(), [](const AppPayout& payout) {
+               return payout.app.title + ": " + money(payout.currentFiscalYear) + " of " +
+                      money(payout.allTime);
+           });
+}
+
+std::string trend(const Trend& trend) {
+    std::string all;
+    for (const TrendLegendItem& item : trend.legend) {
+        all += " " + item.title + (item.colorIndex ? " #" + std::to_string(*item.colorIndex) : "") + ",";
+    }
+    return listed("trend of" + all, trend.points, [](const TrendPoint& point) {
+        std::string row = dayKey(point.periodStart) + " " + std::string(rawText(point.status)) + ":";
+        for (const TrendSlice& slice : point.slices) {
+            row += " " + slice.title + " " + rounded(slice.proceeds) + " " + rounded(slice.refunds) + ";";
+        }
+        return row;
+    });
+}
+
+std::string ofApps(const EarningsStore& store, const AccountFile& account, const AppFilter& apps) {
+    constexpr std::size_t mostCountries = 6;
+    const std::string& from = account.firstDay;
+    const std::string& to = account.lastDay;
+    std::string all = "all time\n  " + text(store.allTimeRows(apps).aggregate()) + "\n";
+    auto months = store.monthStats(apps);
+    EXPECT_EQ(months.size(), 13U);
+    std::erase_if(months, [](const PeriodStat& month) { return month.stats.isEmpty(); });
+    all += listed("months", months, period);
+    all += listed("years", store.yearStats(apps), period);
+    all += listed("sold", store.productStats(apps), [](const ProductStat& product) {
+        return product.title + " / " + product.subtitle + ": " + text(product.stats);
+    });
+    all += listed("countries", store.countryStats(apps, mostCountries),
+                  [](const CountryStat& country) { return country.country + " " + country.amount.text(); });
+    all += listed("paid", store.financePeriods(apps), [](const FinancePeriodStat& paid) {
+        return paid.label + ", " + key(paid.start) + " to " + key(paid.end) + ", " +
+               std::to_string(paid.units) + " units, " + std::to_string(paid.returns) +
+               " returns: " + money(paid.byCurrency);
+    });
+    all += listed("days", store.dayTable(from, to, apps), [](const DayTableRow& day) {
+        return day.key + " " + std::string(rawText(day.status)) + ": " + text(day.stats);
+    });
+    all += listed("chart", store.dayPoints(from, to, apps), [](const DayPoint& day) {
+        return dayKey(day.day) + " " + std::string(rawText(day.status)) + ": " + rounded(day.proceeds) + " " +
+               rounded(day.refunds);
+    });
+    all += listed("lines of the last day", store.lineItems(to, apps), [](const SalesRowLite& line) {
+        return std::string(line.title) + " " + line.amount().text() + " " + std::string(line.currency);
+    });
+    for (const auto granularity : {TrendGranularity::day, TrendGranularity::week, TrendGranularity::month}) {
+        all += listed("buckets", store.bucketStats(from, to, granularity, apps), period);
+        all += trend(store.trend(from, to, granularity, apps));
+    }
+    return all;
+}
+
+TEST(Accounts, AreToldAsInTheFilesBesideThem) {
+    const auto files = testing::filesIn(std::filesystem::path(VANTRELL_TEST_DATA) / "accounts", ".account");
+    EXPECT_FALSE(files.empty());
+    for (std::filesystem::path file : files) {
+        SCOPED_TRACE(file);
+        EarningsFixture fixture;
+        const AccountFile account(file, fixture);
+        const EarningsStore& store = fixture.store();
+        testing::expectMatchesFile(wholeAccount(store) + "\nWITHOUT A FILTER\n" + ofApps(store, account, {}) +
+                                       "\nOF THE CHOSEN APPS\n" + ofApps(store, account, account.apps) +
+                                       "\nOF NO APP\n" + ofApps(store, account, std::set<std::int64_t>{}),
+                                   file.replace_extension(".figures"));
+    }
+}
+
+}  // namespace
+}  // namespace vantrell
