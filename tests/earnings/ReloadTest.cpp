@@ -92,7 +92,7 @@ TEST(Reload, OfWhatChangedGivesTheSameAsReadingEverything) {
     }
 }
 
-TEST(Reload, OfAStoreThatCanNotBeReadShowsNoRowsAndRecovers) {
+TEST(Reload, OfAStoreThatCanNotBeReadShowsTheRestAndSaysSo) {
     testing::FaultyVfs vfs("faulty-earnings");
     EarningsFixture fixture(vfs.name());
     // More than SQLite's page cache holds, so that a reload has to go to the disk.
@@ -104,10 +104,13 @@ TEST(Reload, OfAStoreThatCanNotBeReadShowsNoRowsAndRecovers) {
     ASSERT_EQ(fixture.context().save(), std::nullopt);
     vfs.failReads(true);
     fixture.store().reload(fixture.context());
-    EXPECT_TRUE(fixture.store().salesRows().empty());
+    EXPECT_LT(fixture.store().salesRows().size(), 28 * linesADay);
     EXPECT_TRUE(fixture.store().isLoaded());
+    EXPECT_TRUE(fixture.context().health().isDamaged());
     vfs.failReads(false);
-    EXPECT_EQ(fixture.reload().salesRows().size(), 28 * linesADay);
+    const auto nextStart = fixture.another();
+    nextStart->reload(fixture.context());
+    EXPECT_EQ(nextStart->salesRows().size(), 28 * linesADay);
 }
 
 TEST(DisplayCurrency, IsTheChosenOneElseThatOfTheLocale) {
