@@ -1,6 +1,7 @@
 #include "data/FileCheck.h"
 
 #include <array>
+#include <string_view>
 
 namespace vantrell {
 namespace {
@@ -38,7 +39,9 @@ std::optional<std::string> FileCheck::run() {
         database_ = std::make_unique<SqliteDatabase>(path_, SqliteDatabase::Mode::peek);
         auto check = database_->prepare("PRAGMA quick_check(1)");
         if (check.step() && check.text(0) != "ok") {
-            return std::string(check.text(0));
+            // The lines above the last only say which database it is.
+            const std::string_view found = check.text(0);
+            return std::string(found.substr(found.rfind('\n') + 1));
         }
         for (const Question& question : questions) {
             if (database_->prepare(question.sql).step()) {
