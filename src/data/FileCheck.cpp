@@ -15,21 +15,22 @@ struct Question {
 // A number that was never given reads as the empty text or offer, which would be a silent zero.
 constexpr std::array questions{
     Question{"lines of sales reports refer to what is missing",
-             "SELECT 1 FROM sales_line, (SELECT max(id) AS last FROM text) AS text,"
-             " (SELECT max(id) AS last FROM sales_offer) AS offers"
-             " WHERE offer > offers.last OR country > text.last OR typeof(beginDate) <> 'integer'"
-             " OR typeof(offer) <> 'integer' OR typeof(units) <> 'integer' OR typeof(country) <> 'integer'"
-             " LIMIT 1"},
+             "SELECT 1 FROM sales_line, (SELECT coalesce(max(id), 0) AS last FROM text) AS text,"
+             " (SELECT coalesce(max(id), 0) AS last FROM sales_offer) AS offers"
+             " WHERE offer > offers.last OR typeof(beginDate) <> 'integer' OR typeof(offer) <> 'integer'"
+             " OR typeof(units) <> 'integer' OR typeof(endDate) <> 'integer'"
+             " OR coalesce(max(country, version, promoCode, subscription, period, device, platforms,"
+             " proceedsReason, client, orderType) > text.last, TRUE) LIMIT 1"},
     Question{"products of sales reports refer to what is missing",
-             "SELECT 1 FROM sales_offer, (SELECT max(id) AS last FROM text) AS text"
-             " WHERE max(sku, title, productType, parentSKU, proceedsCurrency, customerCurrency) > text.last"
-             " OR max(sku, title, productType, parentSKU, proceedsCurrency, customerCurrency) IS NULL"
-             " OR proceedsPerUnit IS NULL OR customerPrice IS NULL LIMIT 1"},
+             "SELECT 1 FROM sales_offer, (SELECT coalesce(max(id), 0) AS last FROM text) AS text"
+             " WHERE proceedsPerUnit IS NULL OR customerPrice IS NULL"
+             " OR coalesce(max(sku, title, productType, parentSKU, proceedsCurrency, customerCurrency)"
+             " > text.last, TRUE) LIMIT 1"},
     Question{"lines of finance reports refer to what is missing",
-             "SELECT 1 FROM finance_line, (SELECT max(id) AS last FROM text) AS text"
-             " WHERE max(title, partnerShareCurrency, saleOrReturn, country) > text.last"
-             " OR max(title, partnerShareCurrency, saleOrReturn, country) IS NULL"
-             " OR typeof(quantity) <> 'integer' OR extendedPartnerShare IS NULL LIMIT 1"},
+             "SELECT 1 FROM finance_line, (SELECT coalesce(max(id), 0) AS last FROM text) AS text"
+             " WHERE typeof(quantity) <> 'integer' OR extendedPartnerShare IS NULL"
+             " OR coalesce(max(vendorIdentifier, title, productType, partnerShareCurrency, saleOrReturn,"
+             " country, promoCode, customerCurrency) > text.last, TRUE) LIMIT 1"},
 };
 
 }  // namespace

@@ -88,6 +88,7 @@ TEST(StoreDamage, ThatTheFirstLoadDoesNotMeetIsFoundByTheCheckOfTheFile) {
          true},
         {"an offer that isn't there", "UPDATE sales_line SET offer = 77 WHERE id = 1", true},
         {"a text that isn't there", "UPDATE sales_offer SET proceedsCurrency = 77 WHERE id = 1", true},
+        {"all texts are missing", "DELETE FROM text; UPDATE sales_line SET country = 1 WHERE id = 3", true},
         {"units that are no number", "UPDATE sales_line SET units = 'two' WHERE id = 1", true},
     };
     for (const Case& row : cases) {
