@@ -1,8 +1,8 @@
 #include "currency/CurrencyConverter.h"
+#include "testing/Cases.h"
 
+#include <cstdlib>
 #include <limits>
-
-#include <gtest/gtest.h>
 
 namespace vantrell {
 namespace {
@@ -14,27 +14,14 @@ Decimal decimal(const char* text) {
 }
 
 TEST(CurrencyConverter, DividesByOneRateAndMultipliesByTheOther) {
-    struct Case {
-        const char* name;
-        double from;
-        double to;
-        const char* amount;
-        const char* result;
-    };
-    const std::vector<Case> cases = {
-        {"whole rates", 2, 5, "100", "250"},
-        {"a rate is the number of its shortest text", 1, 1.3641, "1000", "1364.1"},
-        {"division comes first and is rounded at 38 digits", 3, 3, "1",
-         "0.99999999999999999999999999999999999999"},
-        {"a refund", 4, 2, "-7.02", "-3.51"},
-        {"very small rates", 5e-324, 5e-324, "12.34", "12.34"},
-    };
-    for (const Case& row : cases) {
-        const CurrencyConverter converter{"AAA", {{"AAA", row.to}, {"BBB", row.from}}, std::nullopt};
-        const auto result = converter.convert(decimal(row.amount), "BBB");
-        ASSERT_TRUE(result) << row.name;
-        EXPECT_EQ(result->text(), row.result) << row.name;
-    }
+    using Text = const std::string&;
+    testing::expectCases<3>(VANTRELL_TEST_DATA "/conversions.tsv", [](Text amount, Text from, Text to) {
+        const Rates rates{{"AAA", std::strtod(to.c_str(), nullptr)},
+                          {"BBB", std::strtod(from.c_str(), nullptr)}};
+        const auto result =
+            CurrencyConverter("AAA", rates, std::nullopt).convert(*Decimal::parse(amount), "BBB");
+        return result ? result->text() : "none";
+    });
 }
 
 TEST(CurrencyConverter, NeedsNoRateForTheDisplayCurrencyAndNamesWhatItCanNotConvert) {

@@ -1,7 +1,6 @@
 #include "currency/RatesFetcher.h"
+#include "testing/Cases.h"
 #include "testing/ScriptedHttp.h"
-
-#include <gtest/gtest.h>
 
 namespace vantrell {
 namespace {
@@ -19,30 +18,14 @@ TEST(RatesFetcher, AsksOnePlaceWithoutCredentialsAndReadsTheBodyWhateverTheStatu
 }
 
 TEST(RatesFetcher, GivesAReasonForEveryAnswerWithoutRates) {
-    struct Case {
-        const char* name;
-        std::string body;
-    };
-    const std::vector<Case> cases = {
-        {"empty", ""},
-        {"HTML", "<html></html>"},
-        {"no object", "[1]"},
-        {"no rates", R"({"result":"success"})"},
-        {"no result", R"({"rates":{"USD":1}})"},
-        {"rates are a list", R"({"result":"success","rates":[1]})"},
-        {"a rate is a text", R"({"result":"success","rates":{"USD":1,"EUR":"0.9"}})"},
-        {"a rate is nothing", R"({"result":"success","rates":{"USD":null}})"},
-        {"no success", R"({"result":"Success","rates":{"USD":1}})"},
-        {"none at all", R"({"result":"success","rates":{}})"},
-        {"invalid UTF-8", "{\"result\":\"success\",\"rates\":{\"\xff\":1}}"},
-        {"nested for ever", std::string(100000, '[')},
-        {"cut short", R"({"result":"success","rates":{"USD":1)"},
-    };
-    for (const Case& row : cases) {
-        const auto answer = RatesFetcher::parse(row.body);
+    auto bodies = testing::linesOfCases(VANTRELL_TEST_DATA "/no-rates.txt", 1);
+    bodies.push_back({""});
+    bodies.push_back({std::string(100'000, '[')});
+    for (const auto& body : bodies) {
+        const auto answer = RatesFetcher::parse(body.front());
         const auto* error = std::get_if<RatesError>(&answer);
-        ASSERT_NE(error, nullptr) << row.name;
-        EXPECT_FALSE(error->description.empty()) << row.name;
+        ASSERT_NE(error, nullptr) << body.front().substr(0, 100);
+        EXPECT_FALSE(error->description.empty());
     }
 }
 

@@ -1,33 +1,14 @@
 #include "platform/Characters.h"
-
-#include <string>
-
-#include <gtest/gtest.h>
+#include "testing/Cases.h"
 
 namespace vantrell {
 namespace {
 
-const std::string family = "\U0001F468\u200D\U0001F469\u200D\U0001F467";
-const std::string flag = "\U0001F1EF\U0001F1F5";
-
 TEST(Characters, AreCountedAsAReaderSeesThem) {
-    const struct {
-        const char* name;
-        std::string text;
-        std::size_t count;
-        std::string first;
-    } cases[] = {
-        {"fewer than asked", "abc", 5, "abc"},
-        {"a letter and its accent", "abe\u0301z", 3, "abe\u0301"},
-        {"an accent right behind the cut", "abc\u0301z", 2, "ab"},
-        {"emoji of several parts", family + family + "z", 1, family},
-        {"flags in a row", flag + flag + flag, 2, flag + flag},
-        {"Windows line ends", "a\r\nb\r\nc", 4, "a\r\nb\r\n"},
-        {"an accent on a line end stands alone", "a\n\u0301z", 2, "a\n"},
-    };
-    for (const auto& [name, text, count, first] : cases) {
-        EXPECT_EQ(firstCharacters(text, count), first) << name;
-    }
+    testing::expectCases<2>(VANTRELL_TEST_DATA "/first-characters.tsv",
+                            [](const std::string& count, const std::string& text) {
+                                return firstCharacters(text, std::stoul(count));
+                            });
 }
 
 TEST(Characters, AGiantClusterIsBounded) {

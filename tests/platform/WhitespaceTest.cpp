@@ -1,7 +1,7 @@
 #include "platform/LowerCase.h"
 #include "platform/Whitespace.h"
+#include "testing/Cases.h"
 
-#include <gtest/gtest.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
@@ -20,20 +20,9 @@ TEST(Whitespace, IsTheTabAndEverySpaceSeparatorOfUnicode) {
 }
 
 TEST(Whitespace, TrimmingStopsAtTheFirstOtherCharacter) {
-    const struct {
-        const char* name;
-        std::string_view text;
-        std::string_view trimmed;
-        std::string_view withoutNewlines;
-    } cases[] = {
-        {"inner spaces stay", "\u00A0 a \u3000 b\t", "a \u3000 b", "a \u3000 b"},
-        {"line ends", " \r\n a \n", "\r\n a \n", "a"},
-        {"a currency sign that begins like a space", "\u20AC", "\u20AC", "\u20AC"},
-    };
-    for (const auto& [name, text, trimmed, withoutNewlines] : cases) {
-        EXPECT_EQ(trimWhitespace(text), trimmed) << name;
-        EXPECT_EQ(trimWhitespaceAndNewlines(text), withoutNewlines) << name;
-    }
+    testing::expectCases<1>(VANTRELL_TEST_DATA "/trimmed.tsv", [](const std::string& text) {
+        return std::string(trimWhitespace(text)).append(" | ").append(trimWhitespaceAndNewlines(text));
+    });
 }
 
 TEST(Whitespace, EveryLineEndSplits) {
