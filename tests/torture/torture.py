@@ -17,6 +17,7 @@ STORAGE = ["storage.py", "--program", "{program}", "--shim", SHIM]
 HARNESSES = {
     "storage": [*STORAGE, "kills", "faults", "power", "random", "disks", "races", "shown"],
     "bad-stores": [*STORAGE, "bad"],
+    "monkey": ["monkey.py", "--tests", "{tests}"],
 }
 
 

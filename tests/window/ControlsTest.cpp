@@ -18,7 +18,6 @@ using testing::WindowHouse;
 class Controls : public ::testing::Test {
   protected:
     Controls() {
-        house.appearance().setReducesMotion(true);
         house.daily("2026-11-21", "Notebook", "USD", 3);
         house.show();
     }
@@ -56,6 +55,9 @@ TEST_F(Controls, TheMenusAnswerToTheArrowKeys) {
     driver.key(Qt::Key_Up);
     driver.key(Qt::Key_Escape);
     EXPECT_EQ(house.windows().root().filter()->title().toStdString(), "No Apps");
+    driver.key(Qt::Key_Return);
+    driver.key(Qt::Key_Space);
+    EXPECT_EQ(house.windows().root().filter()->title().toStdString(), "All Apps") << "a key was lost";
 }
 
 TEST_F(Controls, CtrlQEndsTheProgram) {

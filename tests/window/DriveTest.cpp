@@ -1,17 +1,10 @@
+#include "TrialHouse.h"
 #include "WindowDriver.h"
-#include "core/AppWindows.h"
-#include "platform/Appearance.h"
-#include "platform/KeyPair.h"
 #include "screens/components/DayText.h"
-#include "testing/TemporaryFolder.h"
-#include "trial/TrialSurroundings.h"
 
 #include <filesystem>
 #include <fstream>
-#include <memory>
 #include <tuple>
-
-#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -19,62 +12,25 @@ namespace vantrell {
 namespace {
 
 using testing::Complaints;
+using testing::TrialHouse;
 using testing::WindowDriver;
-
-/// The program as a newcomer finds it: no key yet, and the sample service to fetch from.
-class Newcomer {
-  public:
-    Newcomer() {
-        options_.key = generateKeyPair().privatePEM;
-        options_.data = folder_.path();
-        options_.pause = std::chrono::milliseconds(4);
-        surroundings_.emplace(options_);
-        app_ = std::move(std::get<std::unique_ptr<MyApp>>(surroundings_->start()));
-        app_->engine().removeCredentials();
-        windows_ = std::make_unique<AppWindows>(*app_, surroundings_->parts(),
-                                                surroundings_->windowParts(appearance_));
-        // Tall enough for every screen, since a pointer reaches only what is in the window.
-        windows_->mainWindow().resize(1150, 2400);
-        windows_->show();
-    }
-
-    [[nodiscard]] MyApp& app() { return *app_; }
-    [[nodiscard]] RootView& root() { return windows_->root(); }
-    [[nodiscard]] QQuickWindow& window() { return windows_->mainWindow(); }
-
-    /// What the sheet of the day this many days ago is called.
-    [[nodiscard]] QString titleOfDay(int daysAgo) {
-        return dayTitle(surroundings_->locale(), app_->store().calendar().dayKey(daysAgo));
-    }
-
-    /// The key file as the web site hands it out.
-    [[nodiscard]] std::filesystem::path keyFile() const {
-        const auto file = folder_.path() / "AuthKey_7QK2MZ8T5W.p8";
-        std::ofstream(file) << *options_.key;
-        return file;
-    }
-    [[nodiscard]] std::filesystem::path folder() const { return folder_.path(); }
-
-  private:
-    testing::TemporaryFolder folder_;
-    TrialOptions options_;
-    FixedAppearance appearance_;
-    std::optional<TrialSurroundings> surroundings_;
-    std::unique_ptr<MyApp> app_;
-    std::unique_ptr<AppWindows> windows_;
-};
 
 TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     Complaints complaints;
-    Newcomer newcomer;
+    TrialHouse newcomer;
+    newcomer.start(false);
+    // Tall enough for every screen, since a pointer reaches only what is in the window.
+    newcomer.window().resize(1150, 2400);
     WindowDriver driver(newcomer.window());
     SyncEngine& engine = newcomer.app().engine();
     const auto isIdle = [&] { return !engine.isSyncing(); };
 
     // The key is entered, and the first backfill begins to fill the screens until it is stopped.
     driver.expectToSee(QAccessible::Button, QStringLiteral("Save"));
+    const auto keyFile = newcomer.folder() / "AuthKey_7QK2MZ8T5W.p8";
+    std::ofstream(keyFile) << newcomer.key();
     newcomer.root().welcome()->credentials()->importKey(
-        QUrl::fromLocalFile(QString::fromStdString(newcomer.keyFile().string())));
+        QUrl::fromLocalFile(QString::fromStdString(keyFile.string())));
     driver.click(QAccessible::EditableText, QStringLiteral("Issuer ID"));
     driver.type(QStringLiteral("3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15"));
     driver.click(QAccessible::EditableText, QStringLiteral("Vendor Number"));
@@ -87,10 +43,14 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     driver.waitUntil(isIdle, "for the run to stop");
 
     // The next run is started by key, and its figures come by themselves.
+    const auto days = [&] { return newcomer.app().store().dailyStatuses().size(); };
     driver.key(Qt::Key_F5);
-    driver.waitUntil(isIdle, "for the end of the run");
-    EXPECT_LT(newcomer.app().store().dailyStatuses().size(), 300U) << "the backfill was not stopped";
+    EXPECT_TRUE(engine.isSyncing());
+    driver.waitUntil([&, before = days()] { return days() > before; }, "for another day");
     driver.expectToSee(QAccessible::Button, QStringLiteral("Most recent day with data, "));
+    newcomer.root().dashboard()->banner()->stop();
+    driver.waitUntil(isIdle, "for the run to stop");
+    EXPECT_LT(days(), 300U) << "the backfill was not stopped";
 
     // All apps are left out, and one is taken in again.
     const AppInfo app = newcomer.app().store().catalog().apps().front();
@@ -100,7 +60,8 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     driver.click(QAccessible::CheckBox, QString::fromStdString(app.title));
     driver.key(Qt::Key_Escape);
     EXPECT_EQ(newcomer.app().store().appFilter(), AppFilter({app.id}));
-    EXPECT_FALSE(driver.sees(QAccessible::Button, QStringLiteral("All time, 0.00")));
+    driver.waitUntil([&] { return !driver.sees(QAccessible::Button, QStringLiteral("All time, 0.00")); },
+                     "for the figures of one app");
 
     // A day is opened from the chart and closed, by keyboard and by pointer.
     const DaySheet& sheet = *newcomer.root().dashboard()->selectedDay();
@@ -109,7 +70,8 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     driver.key(Qt::Key_End);
     driver.key(Qt::Key_Left);
     driver.key(Qt::Key_Return);
-    driver.expectToSee(QAccessible::Dialog, newcomer.titleOfDay(2));
+    driver.expectToSee(QAccessible::Dialog,
+                       dayTitle(newcomer.locale(), newcomer.app().store().calendar().dayKey(2)));
     driver.key(Qt::Key_Escape);
     driver.waitUntil(isClosed, "to close");
     driver.click(QAccessible::Chart, QStringLiteral("Last 30 days"));

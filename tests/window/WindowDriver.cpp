@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <stdexcept>
+#include <vector>
 
 #include <QTest>
 
@@ -10,21 +11,29 @@ namespace {
 
 constexpr std::chrono::milliseconds patience = std::chrono::seconds(40);
 
-QAccessibleInterface* findBelow(QAccessibleInterface& item, QAccessible::Role role, const QString& name) {
+using Visit = std::function<bool(QAccessibleInterface&)>;
+
+// The first visible item for which `isIt`.
+QAccessibleInterface* findBelow(QAccessibleInterface& item, const Visit& isIt) {
     if (item.state().invisible) {
         return nullptr;
     }
-    if (item.role() == role && item.text(QAccessible::Name).startsWith(name)) {
+    if (isIt(item)) {
         return &item;
     }
     for (int number = 0; number < item.childCount(); ++number) {
         QAccessibleInterface* child = item.child(number);
-        QAccessibleInterface* found = child == nullptr ? nullptr : findBelow(*child, role, name);
+        QAccessibleInterface* found = child == nullptr ? nullptr : findBelow(*child, isIt);
         if (found != nullptr) {
             return found;
         }
     }
     return nullptr;
+}
+
+bool canBePressed(QAccessibleInterface& item) {
+    return !item.state().disabled && item.actionInterface() != nullptr &&
+           item.actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction());
 }
 
 // A message handler is a plain function, so what it hears has to lie here.
@@ -34,7 +43,9 @@ QStringList& heard() {
 }
 
 void listen(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
-    if (type != QtDebugMsg && type != QtInfoMsg) {
+    // Off-screen there is no browser to open, and no window to bring to the front.
+    const bool isOffScreen = message.startsWith(QStringLiteral("This plugin does not support"));
+    if (type != QtDebugMsg && type != QtInfoMsg && !isOffScreen) {
         heard() += message;
     }
 }
@@ -47,7 +58,10 @@ WindowDriver::WindowDriver(QQuickWindow& window) : window_(window) {
 
 QAccessibleInterface* WindowDriver::find(QAccessible::Role role, const QString& name) const {
     QAccessibleInterface* root = QAccessible::queryAccessibleInterface(&window_);
-    return root == nullptr ? nullptr : findBelow(*root, role, name);
+    const Visit isIt = [&](QAccessibleInterface& item) {
+        return item.role() == role && item.text(QAccessible::Name).startsWith(name);
+    };
+    return root == nullptr ? nullptr : findBelow(*root, isIt);
 }
 
 bool WindowDriver::sees(QAccessible::Role role, const QString& name) const {
@@ -67,6 +81,24 @@ void WindowDriver::click(QAccessible::Role role, const QString& name) {
         QTest::mouseClick(&window_, Qt::LeftButton, {}, middle);
         settle();
     }
+}
+
+void WindowDriver::pressAny(int number) {
+    std::vector<QAccessibleInterface*> items;
+    findBelow(*QAccessible::queryAccessibleInterface(&window_), [&](QAccessibleInterface& item) {
+        if (canBePressed(item)) {
+            items.push_back(&item);
+        }
+        return false;
+    });
+    QAccessibleInterface& item = *items.at(static_cast<std::size_t>(number) % items.size());
+    const QPoint middle = window_.mapFromGlobal(item.rect().center());
+    if (QRect({}, window_.size()).contains(middle)) {
+        QTest::mouseClick(&window_, Qt::LeftButton, {}, middle);
+    } else {
+        item.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+    settle();
 }
 
 void WindowDriver::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
