@@ -15,6 +15,8 @@ DashboardView::DashboardView(const ScreenParts& parts, QObject* parent)
     connect(&engine(), &SyncEngine::lastErrorChanged, this, &DashboardView::errorChanged);
     connect(&engine(), &SyncEngine::hasCredentialsChanged, this, &DashboardView::canFetchChanged);
     connect(&engine(), &SyncEngine::isSyncingChanged, this, &DashboardView::refreshEmptiness);
+    connect(&parts.context.health(), &StoreHealth::changed, this, &DashboardView::isEmptyChanged);
+    connect(&parts.context.health(), &StoreHealth::changed, this, &DashboardView::canFetchChanged);
 }
 
 QString DashboardView::error() const {
@@ -22,6 +24,11 @@ QString DashboardView::error() const {
 }
 
 EmptyState DashboardView::emptyState() const {
+    if (parts().context.health().isDamaged()) {
+        return {.title = tr("Nothing can be read"),
+                .symbol = QStringLiteral("exclamationmark.triangle.fill"),
+                .description = tr("What this store holds is damaged.")};
+    }
     return {.title = tr("No reports yet"),
             .symbol = QStringLiteral("chart.bar.xaxis"),
             .description = tr("Fetch a year of daily reports, plus yearly, monthly and finance reports, from "

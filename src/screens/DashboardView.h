@@ -19,7 +19,7 @@ class DashboardView : public vantrell::Screen {
     Q_PROPERTY(vantrell::SyncBanner* banner READ banner CONSTANT)
     Q_PROPERTY(QString error READ error NOTIFY errorChanged)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY isEmptyChanged)
-    Q_PROPERTY(vantrell::EmptyState emptyState READ emptyState CONSTANT)
+    Q_PROPERTY(vantrell::EmptyState emptyState READ emptyState NOTIFY isEmptyChanged)
     Q_PROPERTY(QString fetchText READ fetchText CONSTANT)
     Q_PROPERTY(bool canFetch READ canFetch NOTIFY canFetchChanged)
     Q_PROPERTY(vantrell::RowList* tiles READ tiles CONSTANT)
@@ -38,7 +38,9 @@ class DashboardView : public vantrell::Screen {
     [[nodiscard]] bool isEmpty() const { return isEmpty_; }
     [[nodiscard]] EmptyState emptyState() const;
     [[nodiscard]] QString fetchText() const { return tr("Fetch Reports"); }
-    [[nodiscard]] bool canFetch() const { return engine().hasCredentials(); }
+    [[nodiscard]] bool canFetch() const {
+        return engine().hasCredentials() && !parts().context.health().isDamaged();
+    }
     [[nodiscard]] RowList* tiles() { return &tiles_; }
     /// The last 30 days.
     [[nodiscard]] DailyProceedsChart* chart() { return &chart_; }

@@ -4,12 +4,15 @@ namespace vantrell {
 
 PayoutsView::PayoutsView(const ScreenParts& parts, QObject* parent) : Screen(parts, parent) {
     connect(&engine(), &SyncEngine::isSyncingChanged, this, &PayoutsView::canRefetchChanged);
+    connect(&parts.context.health(), &StoreHealth::changed, this, &PayoutsView::changed);
 }
 
 EmptyState PayoutsView::emptyState() const {
-    return {.title = tr("No payouts yet"),
+    const bool isDamaged = parts().context.health().isDamaged();
+    return {.title = isDamaged ? tr("No payouts can be read") : tr("No payouts yet"),
             .symbol = QStringLiteral("banknote"),
-            .description = store().appFilter()
+            .description = isDamaged ? tr("This store is damaged.")
+                           : store().appFilter()
                                ? tr("The selected apps haven't appeared in a finance report yet.")
                                : tr("Finance reports appear here once a sync has fetched them.")};
 }
