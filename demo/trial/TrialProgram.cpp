@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include <QCoreApplication>
@@ -141,10 +142,13 @@ TrialEnd openTrialWindow(const TrialOptions& options, std::ostream& output, std:
     MyApp& app = *std::get<std::unique_ptr<MyApp>>(begun);
     output << "The store is " << fs::absolute(surroundings.storeFile()).string() << std::endl;
     DesktopAppearance appearance;
-    AppWindows windows(app, surroundings.parts(), surroundings.windowParts(appearance));
-    QObject::connect(&guard, &InstanceGuard::wakened, &windows, &AppWindows::raise);
-    windows.show();
+    std::optional<AppWindows> windows(std::in_place, app, surroundings.parts(),
+                                      surroundings.windowParts(appearance));
+    QObject::connect(&guard, &InstanceGuard::wakened, &*windows, &AppWindows::raise);
+    windows->show();
     QGuiApplication::exec();
+    // What they keep moving ends with them, and would be waited for.
+    windows.reset();
     return closed(app, TrialEnd::done, errors);
 }
 

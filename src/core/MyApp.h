@@ -42,8 +42,8 @@ class MyApp {
     MyApp(const MyApp&) = delete;
     MyApp& operator=(const MyApp&) = delete;
 
-    /// Ends what is under way, and tries once more to save what could not be saved; reports not yet reached
-    /// keep their status.
+    /// To be called once the windows are gone. Ends what is under way, and tries once more to save what could
+    /// not be saved; reports not yet reached keep their status.
     void close();
 
     [[nodiscard]] ModelContext& context() { return container_->mainContext(); }

@@ -52,14 +52,16 @@ int run(const ProgramFolders& folders, InstanceGuard& guard) {
     ImageLoaderSettings icons;
     icons.folder = folders.cache / "icons";
     MyApp& app = *std::get<std::unique_ptr<MyApp>>(begun);
-    AppWindows windows(app, parts,
-                       {.origins = origins,
-                        .appearance = appearance,
-                        .icons = std::move(icons),
-                        .placementFile = folders.config / "window.json"});
-    QObject::connect(&guard, &InstanceGuard::wakened, &windows, &AppWindows::raise);
-    windows.show();
+    std::optional<AppWindows> windows(std::in_place, app, parts,
+                                      AppWindowsParts{.origins = origins,
+                                                      .appearance = appearance,
+                                                      .icons = std::move(icons),
+                                                      .placementFile = folders.config / "window.json"});
+    QObject::connect(&guard, &InstanceGuard::wakened, &*windows, &AppWindows::raise);
+    windows->show();
     const int code = QGuiApplication::exec();
+    // What they keep moving ends with them, and would be waited for.
+    windows.reset();
     app.close();
     if (const auto problem = storeProblem(app.context().health())) {
         std::cerr << *problem << std::endl;

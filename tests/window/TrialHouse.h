@@ -30,14 +30,16 @@ class TrialHouse {
     void start(bool hasKey) {
         CredentialsKeychain keychain(surroundings_->parts().secrets);
         hasKey ? keychain.store(credentials_) : keychain.remove();
+        app_.reset();
         app_ = std::move(std::get<std::unique_ptr<MyApp>>(surroundings_->start()));
         windows_ = std::make_unique<AppWindows>(*app_, surroundings_->parts(),
                                                 surroundings_->windowParts(appearance_));
         windows_->show();
     }
+    /// The program can be asked what it has stored until the next start.
     void end() {
         windows_.reset();
-        app_.reset();
+        app_->close();
     }
 
     [[nodiscard]] MyApp& app() { return *app_; }

@@ -91,6 +91,9 @@ void WindowDriver::pressAny(int number) {
         }
         return false;
     });
+    if (items.empty()) {
+        return;
+    }
     QAccessibleInterface& item = *items.at(static_cast<std::size_t>(number) % items.size());
     const QPoint middle = window_.mapFromGlobal(item.rect().center());
     if (QRect({}, window_.size()).contains(middle)) {

@@ -18,7 +18,7 @@ class WindowDriver {
     explicit WindowDriver(QQuickWindow& window);
 
     void click(QAccessible::Role role, const QString& name);
-    /// One of all the things that can be pressed; any number will do.
+    /// One of all the things that can be pressed, if there are any; any number will do.
     void pressAny(int number);
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
     void type(const QString& text);
