@@ -1,14 +1,15 @@
 #include "platform/FileCache.h"
 
 #include "platform/AtomicFile.h"
+#include "platform/RegularFile.h"
 
 #include <algorithm>
 #include <tuple>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include <QCryptographicHash>
-#include <QFile>
 
 namespace vantrell {
 namespace {
@@ -57,15 +58,14 @@ FileCache::FileCache(fs::path folder, std::uintmax_t maxBytes)
 
 std::optional<std::string> FileCache::read(std::string_view key) const {
     const fs::path path = fileOf(key);
-    QFile file(QFile::decodeName(path.c_str()));
-    std::error_code failed;
-    // Whatever lies there in place of a file of ours must neither block nor fill the memory.
-    if (!fs::is_regular_file(path, failed) || fs::file_size(path, failed) > maxBytes_ ||
-        !file.open(QIODevice::ReadOnly)) {
+    auto read = readRegularFile(path, maxBytes_);
+    auto* const bytes = std::get_if<std::string>(&read);
+    if (bytes == nullptr) {
         return std::nullopt;
     }
+    std::error_code failed;
     fs::last_write_time(path, fs::file_time_type::clock::now(), failed);
-    return file.readAll().toStdString();
+    return std::move(*bytes);
 }
 
 void FileCache::write(std::string_view key, std::string_view bytes) {

@@ -1,44 +1,33 @@
 #include "platform/JsonDefaults.h"
 
+#include "platform/AtomicFile.h"
+#include "platform/RegularFile.h"
+
 #include <algorithm>
 #include <utility>
+#include <variant>
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 namespace vantrell {
 
 namespace {
 
 constexpr QLatin1StringView dateTag("date");
-constexpr QFile::Permissions ownerOnlyFile = QFile::ReadOwner | QFile::WriteOwner;
-constexpr QFile::Permissions ownerOnlyFolder = ownerOnlyFile | QFile::ExeOwner;
+constexpr std::uintmax_t mostBytes = std::uintmax_t{16} << 20U;
 
 QString toQt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-QString toQt(const std::filesystem::path& path) {
-    return QFile::decodeName(path.c_str());
-}
-
-bool makeFolder(const QString& path) {
-    const QDir folder(path);
-    if (folder.exists()) {
-        return true;
-    }
-    // The folders above may be shared with other programs and get the usual permissions.
-    return QDir().mkpath(QFileInfo(path).path()) && QDir().mkdir(path, ownerOnlyFolder);
-}
-
 /// A name next to `file` that nothing has yet, so that an earlier damaged file is kept as well.
-QString freeNameBeside(const QString& file) {
-    auto name = file + QLatin1StringView(".damaged");
-    for (int number = 2; QFileInfo::exists(name); ++number) {
-        name = file + QLatin1StringView(".damaged-") + QString::number(number);
+std::filesystem::path freeNameBeside(const std::filesystem::path& file) {
+    std::error_code failed;
+    auto name = file;
+    name += ".damaged";
+    for (int number = 2; std::filesystem::exists(std::filesystem::symlink_status(name, failed)); ++number) {
+        name = file;
+        name += ".damaged-" + std::to_string(number);
     }
     return name;
 }
@@ -49,13 +38,19 @@ JsonDefaults::JsonDefaults(std::filesystem::path file) : file_(std::move(file)) 
     read();
 }
 
+// What came last may have found a full disk, and room since.
+JsonDefaults::~JsonDefaults() {
+    saveIfChanged();
+}
+
 void JsonDefaults::read() {
-    QFile file(toQt(file_));
-    if (!file.exists()) {
+    const auto read = readRegularFile(file_, mostBytes);
+    const auto* bytes = std::get_if<std::string>(&read);
+    if (bytes == nullptr && std::get<FileReadError>(read).isMissing) {
         return;
     }
     const auto document =
-        file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()) : QJsonDocument();
+        bytes == nullptr ? QJsonDocument() : QJsonDocument::fromJson(QByteArray::fromStdString(*bytes));
     damaged_ = !document.isObject();
     values_ = document.object();
     saved_ = values_;
@@ -127,32 +122,26 @@ void JsonDefaults::set(std::string_view key, const QJsonValue& value) {
 }
 
 void JsonDefaults::saveIfChanged() {
+    unsaved_.reset();
     if (values_ == saved_) {
         return;
     }
-    if (setDamagedFileAside() && save()) {
+    unsaved_ = setDamagedFileAside();
+    if (!unsaved_) {
+        unsaved_ = writeAtomically(file_, QJsonDocument(values_).toJson().toStdString(), Readers::ownerOnly);
+    }
+    if (!unsaved_) {
         saved_ = values_;
     }
 }
 
-bool JsonDefaults::setDamagedFileAside() {
+std::optional<std::string> JsonDefaults::setDamagedFileAside() {
+    std::error_code failed;
     if (damaged_) {
-        const auto name = toQt(file_);
-        damaged_ = !QFile::rename(name, freeNameBeside(name));
+        std::filesystem::rename(file_, freeNameBeside(file_), failed);
+        damaged_ = static_cast<bool>(failed);
     }
-    return !damaged_;
-}
-
-bool JsonDefaults::save() const {
-    const auto name = toQt(file_);
-    if (!makeFolder(QFileInfo(name).path())) {
-        return false;
-    }
-    QSaveFile file(name);
-    const auto bytes = QJsonDocument(values_).toJson();
-    // The permissions come first: nothing is written while others could read it.
-    return file.open(QIODevice::WriteOnly) && file.setPermissions(ownerOnlyFile) &&
-           file.write(bytes) == bytes.size() && file.commit();
+    return failed ? std::optional(file_.string() + ": " + failed.message()) : std::nullopt;
 }
 
 }  // namespace vantrell

@@ -15,14 +15,18 @@ namespace vantrell {
 /// A date is an object of one member, the microseconds since 1970 in UTC, so that no text can be taken for
 /// one; texts by text are an object of texts. What the program doesn't know stays in the file. A file that
 /// can't be read or understood counts as empty, and is renamed to "<name>.damaged" before the first save. A
-/// save that fails keeps the values in memory and is tried again with the next write.
+/// save that fails keeps the values in memory and is tried again with the next write, and at the end.
 class JsonDefaults final : public Defaults {
   public:
     /// Reads `file` once. File and folder need not exist; they are made, for the user alone, by the first
     /// save.
     explicit JsonDefaults(std::filesystem::path file);
+    ~JsonDefaults() override;
     JsonDefaults(const JsonDefaults&) = delete;
     JsonDefaults& operator=(const JsonDefaults&) = delete;
+
+    /// Why the last change isn't in the file, for the user; absent when all of them are.
+    [[nodiscard]] const std::optional<std::string>& unsaved() const { return unsaved_; }
 
     [[nodiscard]] std::optional<std::string> text(std::string_view key) const override;
     [[nodiscard]] std::optional<Instant> date(std::string_view key) const override;
@@ -39,13 +43,13 @@ class JsonDefaults final : public Defaults {
     void read();
     void set(std::string_view key, const QJsonValue& value);
     void saveIfChanged();
-    [[nodiscard]] bool setDamagedFileAside();
-    [[nodiscard]] bool save() const;
+    [[nodiscard]] std::optional<std::string> setDamagedFileAside();
 
     std::filesystem::path file_;
     QJsonObject values_;
     QJsonObject saved_;
     bool damaged_ = false;
+    std::optional<std::string> unsaved_;
 };
 
 }  // namespace vantrell

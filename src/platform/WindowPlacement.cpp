@@ -1,11 +1,12 @@
 #include "platform/WindowPlacement.h"
 
 #include "platform/AtomicFile.h"
+#include "platform/RegularFile.h"
 
 #include <algorithm>
 #include <array>
+#include <variant>
 
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -21,7 +22,7 @@ constexpr QLatin1StringView maximizedKey("maximized");
 constexpr int leastWidth = 640;
 constexpr int leastHeight = 480;
 constexpr int most = 16384;
-constexpr qint64 mostBytes = 4096;
+constexpr std::uintmax_t mostBytes = 4096;
 
 int within(int low, const QJsonValue& value, int high) {
     return static_cast<int>(std::clamp<double>(value.toDouble(), low, high));
@@ -30,11 +31,12 @@ int within(int low, const QJsonValue& value, int high) {
 }  // namespace
 
 std::optional<WindowPlacement> loadPlacement(const std::filesystem::path& file) {
-    QFile source(QFile::decodeName(file.c_str()));
-    if (!source.open(QIODevice::ReadOnly)) {
+    const auto read = readRegularFile(file, mostBytes);
+    const auto* bytes = std::get_if<std::string>(&read);
+    if (bytes == nullptr) {
         return std::nullopt;
     }
-    const auto values = QJsonDocument::fromJson(source.read(mostBytes)).object();
+    const auto values = QJsonDocument::fromJson(QByteArray::fromStdString(*bytes)).object();
     const auto isNumber = [&values](QLatin1StringView key) { return values.value(key).isDouble(); };
     if (!std::ranges::all_of(std::array{xKey, yKey, widthKey, heightKey}, isNumber)) {
         return std::nullopt;
@@ -52,7 +54,7 @@ std::optional<std::string> savePlacement(const std::filesystem::path& file,
                              {widthKey, placement.width},
                              {heightKey, placement.height},
                              {maximizedKey, placement.isMaximized}};
-    return writeAtomically(file, QJsonDocument(values).toJson().toStdString());
+    return writeAtomically(file, QJsonDocument(values).toJson().toStdString(), Readers::ownerOnly);
 }
 
 }  // namespace vantrell

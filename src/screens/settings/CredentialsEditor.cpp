@@ -17,9 +17,9 @@ namespace {
 
 constexpr std::uintmax_t maxKeyFileBytes = std::uintmax_t{64} << 10U;
 
-std::variant<std::string, TextFileError> keyFileText(const QUrl& file) {
+std::variant<std::string, FileReadError> keyFileText(const QUrl& file) {
     if (!file.isLocalFile()) {
-        return TextFileError{
+        return FileReadError{
             CredentialsEditor::tr("Only a file on this computer can be read.").toStdString()};
     }
     return readTextFile(QFile::encodeName(file.toLocalFile()).toStdString(), maxKeyFileBytes);
@@ -81,7 +81,7 @@ QString CredentialsEditor::importText() const {
 
 void CredentialsEditor::importKey(const QUrl& file) {
     auto read = keyFileText(file);
-    if (const auto* error = std::get_if<TextFileError>(&read)) {
+    if (const auto* error = std::get_if<FileReadError>(&read)) {
         say(tr("Could not read the key file: ") + shownText(error->description), true);
         return;
     }
