@@ -3,15 +3,38 @@
 #include "platform/HttpFailureText.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
-#include <QNetworkAccessManager>
+#include <QIODevice>
+#include <QNetworkProxyFactory>
 
 namespace vantrell {
 
 namespace {
 
 constexpr int maxHops = 20;
+
+/// No bytes, and those only once. When a connection breaks before an answer, Qt would by itself send the
+/// request again, up to three times; before that it has the body begin anew, and gives up if that can't be.
+class SentOnce final : public QIODevice {
+  public:
+    SentOnce() { open(QIODevice::ReadOnly); }
+    [[nodiscard]] qint64 size() const override { return 0; }
+    bool reset() override { return false; }
+
+  protected:
+    qint64 readData(char* /*data*/, qint64 /*maxSize*/) override { return -1; }
+    qint64 writeData(const char* /*data*/, qint64 /*maxSize*/) override { return -1; }
+};
+
+/// The variables of the environment and what the desktop is set to.
+class SystemProxies final : public QNetworkProxyFactory {
+  public:
+    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override {
+        return systemProxyForQuery(query);
+    }
+};
 
 QByteArray toQt(std::string_view text) {
     return {text.data(), static_cast<qsizetype>(text.size())};
@@ -57,15 +80,15 @@ bool isTransportError(QNetworkReply::NetworkError error) {
 
 }  // namespace
 
-HttpExchange::HttpExchange(QNetworkAccessManager& network, const QNetworkRequest& blank, HttpRequest request)
-    : network_(network),
-      blank_(blank),
+HttpExchange::HttpExchange(const QNetworkRequest& blank, HttpRequest request)
+    : blank_(blank),
       request_(std::move(request)),
       url_(QUrl::fromEncoded(toQt(request_.url), QUrl::StrictMode)) {
     if (!isWebAddress(url_) || !std::ranges::all_of(request_.headers, isSendable)) {
         result_ = HttpFailure{"The request could not be built."};
         return;
     }
+    network_.setProxyFactory(new SystemProxies);  // the manager owns it
     for (auto* timer : {&idle_, &total_, &delivery_}) {
         timer->setSingleShot(true);
     }
@@ -92,7 +115,9 @@ void HttpExchange::send() {
     }
     // Named by us, Qt leaves the encoding of the body alone.
     message.setRawHeader("Accept-Encoding", "identity");
-    reply_ = network_.get(message);
+    auto body = std::make_unique<SentOnce>();
+    reply_ = network_.sendCustomRequest(message, "GET", body.get());
+    body.release()->setParent(reply_);
     QObject::connect(reply_, &QNetworkReply::encrypted, &context_, [this] { heard(); });
     QObject::connect(reply_, &QNetworkReply::metaDataChanged, &context_, [this] { takeHeaders(); });
     QObject::connect(reply_, &QNetworkReply::readyRead, &context_, [this] { takeBytes(); });

@@ -4,6 +4,7 @@
 
 #include <coroutine>
 
+#include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QObject>
@@ -11,17 +12,14 @@
 #include <QTimer>
 #include <QUrl>
 
-class QNetworkAccessManager;
-
 namespace vantrell {
 
 /// One request from its first byte to its result, over as many hops as its redirects take. Lives in the
 /// frame of the coroutine that waits for it.
 class HttpExchange {
   public:
-    /// `blank` is what every hop is made from. `network` must outlive the wait: whoever owns it calls `end`
-    /// first.
-    HttpExchange(QNetworkAccessManager& network, const QNetworkRequest& blank, HttpRequest request);
+    /// `blank` is what every hop is made from.
+    HttpExchange(const QNetworkRequest& blank, HttpRequest request);
     ~HttpExchange();
     HttpExchange(const HttpExchange&) = delete;
     HttpExchange& operator=(const HttpExchange&) = delete;
@@ -50,7 +48,9 @@ class HttpExchange {
     QNetworkReply* takeReply();
     void resume();
 
-    QNetworkAccessManager& network_;
+    // Of its own, since one that is kept holds on to connections and with them to the headers that went over
+    // them.
+    QNetworkAccessManager network_;
     const QNetworkRequest blank_;
     const HttpRequest request_;
     QUrl url_;

@@ -38,6 +38,8 @@ std::string httpFailureText(QNetworkReply::NetworkError error, const QList<QSslE
         case QNetworkReply::ConnectionRefusedError:
             return "The server refused the connection.";
         case QNetworkReply::RemoteHostClosedError:
+        // What the end of a connection becomes when the request may not be sent again.
+        case QNetworkReply::ContentReSendError:
             return "The server ended the connection before its answer was complete.";
         case QNetworkReply::HostNotFoundError:
             return "The server could not be found. Check the connection to the internet.";

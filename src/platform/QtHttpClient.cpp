@@ -22,6 +22,8 @@ QNetworkRequest blankRequest(std::string_view extraAuthoritiesPEM) {
     // One small request at a time gains nothing from the newer protocol.
     message.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
     message.setRawHeader("User-Agent", "Vantrell");
+    // On a connection that was kept, a request may meet its end, and nothing is sent twice.
+    message.setRawHeader("Connection", "close");
     // Or Qt would send the desktop's, and the wording of answers would depend on it.
     message.setRawHeader("Accept-Language", "en");
     auto security = QSslConfiguration::defaultConfiguration();
@@ -46,7 +48,7 @@ QCoro::Task<HttpResult> QtHttpClient::get(HttpRequest request, CancelToken cance
         co_return HttpFailure{"The request was cancelled."};
     }
     // From the first wait on, the client may be gone: all that follows lives in this frame.
-    HttpExchange exchange(network_, blank_, std::move(request));
+    HttpExchange exchange(blank_, std::move(request));
     const auto endEarly = [&exchange] { exchange.end(HttpFailure{"The request was cancelled."}); };
     const auto whenCancelled = cancel.onCancel(endEarly);
     const auto whenClosed = closing.onCancel(endEarly);

@@ -4,13 +4,13 @@
 
 #include <string_view>
 
-#include <QNetworkAccessManager>
 #include <QNetworkRequest>
 
 namespace vantrell {
 
 /// Fetches with Qt Network: http and https only, without cookies, cache or stored logins, through the proxy
-/// that the system is set to.
+/// that the environment (http_proxy, https_proxy, no_proxy) or the desktop is set to. A request goes out
+/// once, on a connection of its own.
 ///
 /// What does not speak HTTP shows as a connection that ended too early. A body in chunks that breaks off may
 /// come back as if it were whole, since Qt hides the last chunk: whoever decodes it must find its end.
@@ -27,7 +27,6 @@ class QtHttpClient final : public HttpClient {
     [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest request, CancelToken cancel) override;
 
   private:
-    QNetworkAccessManager network_;
     const QNetworkRequest blank_;
     CancelSource closing_;
 };

@@ -102,6 +102,7 @@ TEST(HttpClient, SaysWhyThereIsNoAnswerWithoutTheAddress) {
         request.maxBodyBytes = 5;
         request.maxErrorBodyBytes = 3;
         EXPECT_EQ(failureOf(fetch(request)), words) << name;
+        EXPECT_THAT(server.requests, SizeIs(1)) << name;
     }
     const auto nobodyThere = requestTo(RawServer(sending("")));
     EXPECT_EQ(failureOf(fetch(nobodyThere)), "The server refused the connection.");
@@ -143,6 +144,25 @@ TEST(HttpClient, SendsWhatItIsGivenAndNothingThatItWasToldBefore) {
                            HasSubstr("\r\nAuthorization: Bearer token\r\n"),
                            HasSubstr("\r\nAccept-Encoding: identity\r\n"), Not(HasSubstr("Cookie")),
                            Not(HasSubstr("If-None-Match")), Not(HasSubstr("gzip, deflate")))));
+}
+
+TEST(HttpClient, AsksThroughTheProxyOfTheEnvironmentButNotWhereItIsRuledOut) {
+    RawServer proxy(sendingAndClosing("HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nvia"));
+    qputenv("http_proxy", QByteArray::fromStdString(proxy.url("")));
+    qputenv("https_proxy", QByteArray::fromStdString(proxy.url("")));
+    qputenv("no_proxy", "direct.test,127.0.0.1");
+    HttpRequest request;
+    request.url = "http://reports.test/v1";
+    EXPECT_EQ(fetch(request), HttpResult(HttpResponse{200, "via"}));
+    request.url = "https://reports.test/v1";
+    EXPECT_NE(failureOf(fetch(request)), "no failure") << "the proxy answers, but not in TLS";
+    RawServer server(sendingAndClosing("HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\ndirect"));
+    EXPECT_EQ(fetch(requestTo(server)), HttpResult(HttpResponse{200, "direct"}));
+    for (const char* name : {"http_proxy", "https_proxy", "no_proxy"}) {
+        qunsetenv(name);
+    }
+    EXPECT_THAT(proxy.requests, ElementsAre(HasSubstr("GET http://reports.test/v1 HTTP"),
+                                            HasSubstr("CONNECT reports.test:443 HTTP")));
 }
 
 std::string redirect(int status, const std::string& location) {
