@@ -1,3 +1,4 @@
+#include "platform/ProcessGuards.h"
 #include "trial/TrialOptions.h"
 #include "trial/TrialProgram.h"
 
@@ -38,6 +39,7 @@ TrialEnd run(const TrialOptions& options, int& argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    setProcessGuards();
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     if (std::ranges::find(arguments, "--help") != arguments.end()) {
         std::cout << trialUsage();

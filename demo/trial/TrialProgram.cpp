@@ -1,6 +1,7 @@
 #include "trial/TrialProgram.h"
 
 #include "core/AppWindows.h"
+#include "core/EndSignals.h"
 #include "core/MyApp.h"
 #include "platform/DesktopAppearance.h"
 #include "platform/InstanceGuard.h"
@@ -129,6 +130,7 @@ TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostrea
 }
 
 TrialEnd openTrialWindow(const TrialOptions& options, std::ostream& output, std::ostream& errors) {
+    const EndSignals endSignals;
     TrialSurroundings surroundings(options);
     InstanceGuard guard(surroundings.folder());
     if (!guard.isFirst() && guard.wakeFirst()) {
@@ -146,7 +148,7 @@ TrialEnd openTrialWindow(const TrialOptions& options, std::ostream& output, std:
                                       surroundings.windowParts(appearance));
     QObject::connect(&guard, &InstanceGuard::wakened, &*windows, &AppWindows::raise);
     windows->show();
-    QGuiApplication::exec();
+    static_cast<void>(endSignals.exec());
     // What they keep moving ends with them, and would be waited for.
     windows.reset();
     return closed(app, TrialEnd::done, errors);

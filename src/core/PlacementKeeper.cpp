@@ -29,6 +29,9 @@ PlacementKeeper::PlacementKeeper(QWindow& window, std::filesystem::path file)
     saving_.setSingleShot(true);
     saving_.setInterval(quietTime);
     connect(&saving_, &QTimer::timeout, this, &PlacementKeeper::save);
+    // A session that ends may take the program with it before anything goes in good order.
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &PlacementKeeper::saveNow,
+            Qt::DirectConnection);
     restore();
     connect(&window_, &QWindow::widthChanged, this, &PlacementKeeper::noteChange);
     connect(&window_, &QWindow::heightChanged, this, &PlacementKeeper::noteChange);
@@ -38,9 +41,7 @@ PlacementKeeper::PlacementKeeper(QWindow& window, std::filesystem::path file)
 }
 
 PlacementKeeper::~PlacementKeeper() {
-    if (saving_.isActive()) {
-        save();
-    }
+    saveNow();
 }
 
 void PlacementKeeper::restore() {
@@ -71,6 +72,13 @@ void PlacementKeeper::noteChange() {
         return;
     }
     saving_.start();
+}
+
+void PlacementKeeper::saveNow() {
+    if (saving_.isActive()) {
+        saving_.stop();
+        save();
+    }
 }
 
 // A window that comes up somewhere else the next time is all that a failure costs.

@@ -23,6 +23,7 @@ class PlacementKeeper : public QObject {
     void restore();
     void noteChange();
     void save();
+    void saveNow();
 
     QWindow& window_;
     const std::filesystem::path file_;

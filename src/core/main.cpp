@@ -1,4 +1,5 @@
 #include "core/AppWindows.h"
+#include "core/EndSignals.h"
 #include "core/MyApp.h"
 #include "core/ProgramFolders.h"
 #include "core/PublicServices.h"
@@ -6,6 +7,7 @@
 #include "platform/InstanceGuard.h"
 #include "platform/JsonDefaults.h"
 #include "platform/KeychainSecretStore.h"
+#include "platform/ProcessGuards.h"
 #include "platform/QtHttpClient.h"
 #include "platform/SystemClock.h"
 #include "platform/ThreadWorker.h"
@@ -32,7 +34,7 @@ std::optional<std::string> environmentVariable(const char* name) {
     return value == nullptr ? std::nullopt : std::optional<std::string>(value);
 }
 
-int run(const ProgramFolders& folders, InstanceGuard& guard) {
+int run(const ProgramFolders& folders, InstanceGuard& guard, const EndSignals& endSignals) {
     const ServiceOrigins origins = publicServices();
     SystemClock clock;
     ThreadWorker worker;
@@ -59,7 +61,7 @@ int run(const ProgramFolders& folders, InstanceGuard& guard) {
                                                       .placementFile = folders.config / "window.json"});
     QObject::connect(&guard, &InstanceGuard::wakened, &*windows, &AppWindows::raise);
     windows->show();
-    const int code = QGuiApplication::exec();
+    const int code = endSignals.exec();
     // What they keep moving ends with them, and would be waited for.
     windows.reset();
     app.close();
@@ -73,14 +75,20 @@ int run(const ProgramFolders& folders, InstanceGuard& guard) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    setProcessGuards();
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("vantrell"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Vantrell"));
     QGuiApplication::setDesktopFileName(QStringLiteral("vantrell"));
-    const ProgramFolders folders = ProgramFolders::ofUser();
-    InstanceGuard guard(folders.data);
+    const EndSignals endSignals;
+    const auto folders = ProgramFolders::ofUser();
+    if (!folders) {
+        std::cerr << "There is no home folder to keep anything in: HOME is not set." << std::endl;
+        return EXIT_FAILURE;
+    }
+    InstanceGuard guard(folders->data);
     if (!guard.isFirst() && guard.wakeFirst()) {
         return EXIT_SUCCESS;
     }
-    return run(folders, guard);
+    return run(*folders, guard, endSignals);
 }

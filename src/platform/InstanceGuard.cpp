@@ -1,6 +1,8 @@
 #include "platform/InstanceGuard.h"
 
+#include <sys/socket.h>
 #include <thread>
+#include <unistd.h>
 
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
@@ -12,6 +14,7 @@ namespace vantrell {
 namespace {
 
 constexpr std::chrono::milliseconds pauseBetweenTries{20};
+constexpr const char* raisedAnswer = "vantrell is raised\n";
 
 QString toQt(const std::filesystem::path& path) {
     return QFile::decodeName(path.c_str());
@@ -32,6 +35,25 @@ std::filesystem::path withEnding(std::filesystem::path name, const char* ending)
 
 int wait(const QDeadlineTimer& deadline) {
     return static_cast<int>(deadline.remainingTime());
+}
+
+/// In a folder for everybody, whoever listens may be somebody else.
+bool isOfThisUser(const QLocalSocket& peer) {
+    ucred about{};
+    socklen_t size = sizeof(about);
+    return ::getsockopt(static_cast<int>(peer.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &about, &size) ==
+               0 &&
+           about.uid == ::geteuid();
+}
+
+bool answersProperly(QLocalSocket& peer, const QDeadlineTimer& deadline) {
+    const auto length = static_cast<qint64>(qstrlen(raisedAnswer));
+    while (peer.bytesAvailable() < length) {
+        if (!peer.waitForReadyRead(wait(deadline))) {
+            return false;
+        }
+    }
+    return peer.read(length) == raisedAnswer;
 }
 
 }  // namespace
@@ -57,7 +79,7 @@ void InstanceGuard::listen() {
 void InstanceGuard::answer() {
     while (auto* const caller = server_.nextPendingConnection()) {
         connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
-        caller->write("\n");
+        caller->write(raisedAnswer);
         caller->disconnectFromServer();
         Q_EMIT wakened();
     }
@@ -69,7 +91,7 @@ bool InstanceGuard::wakeFirst(std::chrono::milliseconds patience) const {
     do {
         first.connectToServer(toQt(withEnding(name_, ".socket")), QIODevice::ReadOnly);
         if (first.waitForConnected(wait(deadline))) {
-            return first.bytesAvailable() > 0 || first.waitForReadyRead(wait(deadline));
+            return isOfThisUser(first) && answersProperly(first, deadline);
         }
         std::this_thread::sleep_for(pauseBetweenTries);
     } while (!deadline.hasExpired());

@@ -22,8 +22,8 @@ class InstanceGuard final : public QObject {
 
     [[nodiscard]] bool isFirst() const { return lock_.state() != FileLock::State::heldElsewhere; }
     /// Whether the first answered within `patience`, for which this blocks. It may hang, or still be
-    /// starting.
-    [[nodiscard]] bool wakeFirst(std::chrono::milliseconds patience = std::chrono::seconds(3)) const;
+    /// starting; and who answers in other words, or belongs to another user, isn't the first.
+    [[nodiscard]] bool wakeFirst(std::chrono::milliseconds patience = std::chrono::seconds(10)) const;
 
     /// The user's folder for what lives as long as the session, else the one for temporary files.
     [[nodiscard]] static std::filesystem::path hostMeetingPlace();

@@ -1,18 +1,19 @@
 #include "../platform/Keyring.h"
+#include "core/ProgramFolders.h"
 #include "core/PublicServices.h"
 #include "data/CredentialsKeychain.h"
 #include "platform/KeychainSecretStore.h"
+#include "testing/Golden.h"
 #include "testing/TemporaryFolder.h"
 
 #include <chrono>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
+#include <map>
 #include <thread>
 
 #include <QProcess>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace vantrell {
 namespace {
@@ -26,6 +27,31 @@ TEST(PublicServices, AreTheRealOnesAndEncrypted) {
     EXPECT_EQ(services.rateService, "https://open.er-api.com");
     EXPECT_EQ(services.lookupService, "https://itunes.apple.com");
     EXPECT_EQ(services.keyWebSite, "https://appstoreconnect.apple.com");
+}
+
+TEST(ProgramFolders, AreThoseOfTheDesktopAndOtherwiseOfTheAccount) {
+    const std::string bytes = "/caf\xE9";
+    const struct {
+        std::map<std::string, std::string> environment;
+        std::optional<std::string> account;
+        const char* data;
+    } cases[] = {
+        {{{"HOME", "/home/me"}}, "/account", "/home/me/.local/share/vantrell"},
+        {{{"HOME", "/home/me"}, {"XDG_DATA_HOME", "/data"}}, "/account", "/data/vantrell"},
+        {{{"HOME", "/home/me"}, {"XDG_DATA_HOME", "data"}}, "/account", "/home/me/.local/share/vantrell"},
+        {{{"HOME", ""}}, "/account", "/account/.local/share/vantrell"},
+        {{{"HOME", "here"}}, "/account", "/account/.local/share/vantrell"},
+        {{{"HOME", bytes}}, {}, "/caf\xE9/.local/share/vantrell"},
+        {{{"XDG_DATA_HOME", "/data"}}, {}, nullptr},
+    };
+    for (const auto& [environment, account, data] : cases) {
+        const auto lookUp = [&](const char* name) {
+            const auto found = environment.find(name);
+            return found == environment.end() ? std::nullopt : std::optional(found->second);
+        };
+        const auto folders = ProgramFolders::of(lookUp, account);
+        EXPECT_EQ(folders ? folders->data.string() : "none", data == nullptr ? "none" : data);
+    }
 }
 
 /// The product's own program off-screen, in the home of somebody who never used it.
@@ -65,11 +91,15 @@ TEST(Product, StartsInAnEmptyHomeAndOnlyOnce) {
     EXPECT_TRUE(home.comesToHave("vantrell/vantrell.sqlite"));
     QProcess second;
     home.start(second);
-    EXPECT_TRUE(second.waitForFinished(10'000));
+    EXPECT_TRUE(second.waitForFinished(20'000));
     EXPECT_EQ(second.exitCode(), 0);
     EXPECT_EQ(first.state(), QProcess::Running);
+    const auto limits = testing::fileText("/proc/" + std::to_string(first.processId()) + "/limits");
+    EXPECT_THAT(limits, ::testing::ContainsRegex("Max core file size +1 +1 "));
     first.terminate();
     EXPECT_TRUE(first.waitForFinished(10'000));
+    EXPECT_EQ(first.exitStatus(), QProcess::NormalExit) << "it closes as if it were told to quit";
+    EXPECT_TRUE(home.comesToHave("vantrell/window.json"));
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <future>
 
 #include <QLocalServer>
+#include <QLocalSocket>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -67,6 +68,22 @@ TEST(InstanceGuard, WhatADeadProgramLeftBehindIsTakenOver) {
     const InstanceGuard second("/data", meetingPlace.path());
     EXPECT_TRUE(next.isFirst());
     EXPECT_TRUE(wakes(second));
+}
+
+TEST(InstanceGuard, WhoAnswersInOtherWordsIsNotTheFirst) {
+    const testing::TemporaryFolder meetingPlace;
+    const InstanceGuard hidden("/data", meetingPlace.path());
+    const auto socket = socketIn(meetingPlace.path());
+    std::filesystem::remove(socket);
+    QLocalServer squatter;
+    ASSERT_TRUE(squatter.listen(QString::fromStdString(socket.string())));
+    QObject::connect(&squatter, &QLocalServer::newConnection, &squatter, [&] {
+        auto* caller = squatter.nextPendingConnection();
+        caller->write("come in, come in, come in\n");
+        caller->flush();
+    });
+    EXPECT_FALSE(wakes(InstanceGuard("/data", meetingPlace.path())));
+    EXPECT_TRUE(squatter.isListening());
 }
 
 TEST(InstanceGuard, AFirstThatHangsIsGivenUpOn) {
