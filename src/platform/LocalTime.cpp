@@ -1,32 +1,36 @@
 #include "platform/LocalTime.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <ctime>
+#include <filesystem>
 #include <sys/stat.h>
 #include <utility>
 
-#include <unicode/basictz.h>
-#include <unicode/simpletz.h>
-#include <unicode/tztrans.h>
-#include <unicode/unistr.h>
+#include <QDateTime>
+#include <QTimeZone>
 
 namespace vantrell {
 namespace {
 
-using std::chrono::days;
 using std::chrono::milliseconds;
 using std::chrono::sys_days;
 
 constexpr const char* zoneFile = "/etc/localtime";
 
-std::unique_ptr<const icu::BasicTimeZone> withHistory(std::unique_ptr<icu::TimeZone> zone) {
-    icu::UnicodeString id;
-    if (!zone || zone->getID(id) == icu::UnicodeString(UCAL_UNKNOWN_ZONE_ID)) {
-        return nullptr;
+constexpr const char* database = "/usr/share/zoneinfo";
+
+/// The files of the system are newer than what any library brings along: rules change every year.
+std::optional<QTimeZone> withHistory(std::string_view name) {
+    const std::filesystem::path file = std::filesystem::path(database) / name;
+    std::error_code failed;
+    // A text that spells out rules would be taken as well.
+    if (name.find("..") != std::string_view::npos || !std::filesystem::is_regular_file(file, failed)) {
+        return std::nullopt;
     }
-    // Every kind of zone that the library makes is of this class.
-    return std::unique_ptr<const icu::BasicTimeZone>(dynamic_cast<icu::BasicTimeZone*>(zone.release()));
+    QTimeZone zone(QByteArray(name.data(), static_cast<qsizetype>(name.size())));
+    return zone.isValid() ? std::optional(std::move(zone)) : std::nullopt;
 }
 
 std::optional<std::string> variable(const char* name) {
@@ -43,81 +47,44 @@ std::string_view nameIn(std::string_view setting) {
     return setting;
 }
 
-milliseconds toMilliseconds(UDate date) {
-    return milliseconds(static_cast<milliseconds::rep>(date));
-}
-
-UDate toDate(milliseconds time) {
-    return static_cast<UDate>(time.count());
+QDateTime toDate(milliseconds time) {
+    return QDateTime::fromMSecsSinceEpoch(time.count(), Qt::UTC);
 }
 
 }  // namespace
 
 struct TimeZone::Zone {
-    std::unique_ptr<const icu::BasicTimeZone> rules;
+    QTimeZone rules;
 
     [[nodiscard]] milliseconds offsetAt(milliseconds instant) const {
-        std::int32_t standard = 0;
-        std::int32_t saving = 0;
-        UErrorCode error = U_ZERO_ERROR;
-        rules->getOffset(toDate(instant), 0, standard, saving, error);
-        return milliseconds(standard + saving);
-    }
-
-    /// Where a change of the clocks skips or repeats `local`, `side` tells which offset is taken.
-    [[nodiscard]] milliseconds offsetOfLocal(milliseconds local, UTimeZoneLocalOption side) const {
-        std::int32_t standard = 0;
-        std::int32_t saving = 0;
-        UErrorCode error = U_ZERO_ERROR;
-        rules->getOffsetFromLocal(toDate(local), side, side, standard, saving, error);
-        return milliseconds(standard + saving);
-    }
-
-    [[nodiscard]] milliseconds lastChangeUpTo(milliseconds instant) const {
-        icu::TimeZoneTransition change;
-        const bool found = rules->getPreviousTransition(toDate(instant), 1, change) != 0;
-        return found ? toMilliseconds(change.getTime()) : instant;
+        return std::chrono::seconds(rules.offsetFromUtc(toDate(instant)));
     }
 };
 
 TimeZone::TimeZone(std::shared_ptr<const Zone> zone) : zone_(std::move(zone)) {}
 
 std::optional<TimeZone> TimeZone::named(std::string_view id) {
-    const auto name = icu::UnicodeString::fromUTF8({id.data(), static_cast<std::int32_t>(id.size())});
-    icu::UnicodeString canonical;
-    UBool isOfDatabase = 0;
-    UErrorCode error = U_ZERO_ERROR;
-    icu::TimeZone::getCanonicalID(name, canonical, isOfDatabase, error);
-    // The library would also take "GMT+5", with the opposite sign of what it means in a TZ setting.
-    auto rules = withHistory(std::unique_ptr<icu::TimeZone>(icu::TimeZone::createTimeZone(name)));
-    if (isOfDatabase == 0 || !rules) {
-        return std::nullopt;
-    }
-    return TimeZone(std::make_shared<const Zone>(Zone{std::move(rules)}));
+    auto rules = withHistory(id);
+    return rules ? std::optional(TimeZone(std::make_shared<const Zone>(Zone{*std::move(rules)})))
+                 : std::nullopt;
 }
 
 TimeZone TimeZone::ofHost() {
-    std::unique_ptr<const icu::BasicTimeZone> rules;
+    QTimeZone rules = QTimeZone::utc();
     if (const auto setting = variable("TZ")) {
         if (auto zone = named(nameIn(*setting))) {
             return *zone;
         }
         tzset();
-        rules = std::make_unique<icu::SimpleTimeZone>(static_cast<std::int32_t>(-timezone * 1000),
-                                                      icu::UnicodeString::fromUTF8(*setting));
-    } else {
-        rules = withHistory(std::unique_ptr<icu::TimeZone>(icu::TimeZone::detectHostTimeZone()));
-    }
-    if (!rules) {
-        rules = std::make_unique<icu::SimpleTimeZone>(0, "UTC");
+        rules = QTimeZone(static_cast<int>(-timezone));
+    } else if (const auto own = QTimeZone::systemTimeZone(); own.isValid()) {
+        rules = own;
     }
     return TimeZone(std::make_shared<const Zone>(Zone{std::move(rules)}));
 }
 
 std::string TimeZone::id() const {
-    icu::UnicodeString name;
-    std::string text;
-    return zone_->rules->getID(name).toUTF8String(text);
+    return zone_->rules.id().toStdString();
 }
 
 milliseconds TimeZone::offsetAt(Instant instant) const {
@@ -126,7 +93,7 @@ milliseconds TimeZone::offsetAt(Instant instant) const {
 
 CivilDate TimeZone::dateAt(Instant instant) const {
     const auto time = std::chrono::floor<milliseconds>(instant.time_since_epoch());
-    const auto day = std::chrono::floor<days>(time + zone_->offsetAt(time));
+    const auto day = std::chrono::floor<std::chrono::days>(time + zone_->offsetAt(time));
     constexpr auto first = sys_days(std::chrono::year::min() / std::chrono::January / 1);
     constexpr auto last = sys_days(std::chrono::year::max() / std::chrono::December / 31);
     return std::clamp(sys_days(day), first, last);
@@ -134,10 +101,16 @@ CivilDate TimeZone::dateAt(Instant instant) const {
 
 Instant TimeZone::noonOf(CivilDate day) const {
     const milliseconds local = sys_days(day).time_since_epoch() + std::chrono::hours(12);
-    const auto before = zone_->offsetOfLocal(local, UCAL_TZ_LOCAL_FORMER);
-    const auto after = zone_->offsetOfLocal(local, UCAL_TZ_LOCAL_LATTER);
-    const bool skipped = before < after;
-    return Instant(skipped ? zone_->lastChangeUpTo(local - before) : local - before);
+    // No change of the clocks is as long, so that one of the two holds wherever it isn't skipped.
+    constexpr auto longestShift = std::chrono::hours(26);
+    const auto before = zone_->offsetAt(local - longestShift);
+    for (const auto offset : {before, zone_->offsetAt(local + longestShift)}) {
+        if (zone_->offsetAt(local - offset) == offset) {
+            return Instant(local - offset);
+        }
+    }
+    const auto gap = zone_->rules.previousTransition(toDate(local - before + milliseconds(1))).atUtc;
+    return Instant(milliseconds(gap.toMSecsSinceEpoch()));
 }
 
 /// What the machine's setting was when the zone was found.

@@ -1,0 +1,105 @@
+#include "calendar/ReportCalendar.h"
+#include "testing/FixedLocalTime.h"
+#include "testing/ManualClock.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+#include <map>
+
+#include <gtest/gtest.h>
+
+namespace vantrell {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+
+/// The C library's own reading of the zone that TZ names.
+std::tm wallOf(std::time_t instant) {
+    std::tm wall{};
+    ::localtime_r(&instant, &wall);
+    return wall;
+}
+
+std::string text(int year, int month, int day = 0) {
+    char room[64];
+    const int size = day == 0 ? std::snprintf(room, sizeof(room), "%04d-%02d", year, month)
+                              : std::snprintf(room, sizeof(room), "%04d-%02d-%02d", year, month, day);
+    return {room, static_cast<std::size_t>(size)};
+}
+
+std::string dayText(std::tm wall, int daysAgo) {
+    wall.tm_mday -= daysAgo;
+    wall.tm_hour = 12;
+    const std::time_t noon = ::timegm(&wall);
+    ::gmtime_r(&noon, &wall);
+    return text(wall.tm_year + 1900, wall.tm_mon + 1, wall.tm_mday);
+}
+
+std::string lastMonth(const std::tm& wall) {
+    return wall.tm_mon == 0 ? text(wall.tm_year + 1899, 12) : text(wall.tm_year + 1900, wall.tm_mon);
+}
+
+/// The fiscal year begins in October, in California.
+std::string fiscalOf(const std::tm& pacific) {
+    return pacific.tm_mon >= 9 ? text(pacific.tm_year + 1901, pacific.tm_mon - 8)
+                               : text(pacific.tm_year + 1900, pacific.tm_mon + 4);
+}
+
+std::vector<std::string> zonesOfTheSystem() {
+    const fs::path database = "/usr/share/zoneinfo";
+    std::vector<std::string> names;
+    for (auto entry = fs::recursive_directory_iterator(database); entry != fs::end(entry); ++entry) {
+        const std::string name = entry->path().lexically_relative(database);
+        if (name == "posix" || name == "right") {
+            entry.disable_recursion_pending();
+        } else if (entry->is_regular_file() && TimeZone::named(name)) {
+            names.push_back(name);
+        }
+    }
+    return names;
+}
+
+// Every so many seconds from 2008 to 2030 in every zone; a longer run takes closer steps.
+TEST(ReportCalendar, LabelsInAllZonesAreThoseOfTheCLibrary) {
+    const char* const asked = std::getenv("VANTRELL_LABEL_STEP");
+    const std::time_t step = asked == nullptr ? 7'000'003 : std::atol(asked);
+    const std::string before = std::getenv("TZ");
+    std::map<std::time_t, std::string> fiscal;
+    ::setenv("TZ", "America/Los_Angeles", 1);
+    for (std::time_t instant = 1'199'145'600; instant < 1'924'992'000; instant += step) {
+        fiscal[instant] = fiscalOf(wallOf(instant));
+    }
+    std::size_t labels = 0;
+    std::size_t wrong = 0;
+    const auto zones = zonesOfTheSystem();
+    for (const std::string& name : zones) {
+        ::setenv("TZ", (":" + name).c_str(), 1);
+        ::tzset();
+        const testing::FixedLocalTime zone(name);
+        testing::ManualClock clock;
+        const ReportCalendar calendar(clock, zone);
+        for (const auto& [instant, period] : fiscal) {
+            clock.setNow(Instant(std::chrono::seconds(instant)));
+            const std::tm wall = wallOf(instant);
+            const bool isRight = calendar.dayKey(0) == dayText(wall, 0) &&
+                                 calendar.dayKey(1) == dayText(wall, 1) &&
+                                 calendar.monthKey(1) == lastMonth(wall) &&
+                                 calendar.currentYearLabel() == std::to_string(wall.tm_year + 1900) &&
+                                 calendar.currentFiscalPeriod() == period;
+            labels += 5;
+            wrong += isRight ? 0 : 1;
+            EXPECT_TRUE(isRight || wrong > 10) << name << " at " << instant << ": " << calendar.dayKey(0);
+        }
+    }
+    ::setenv("TZ", before.c_str(), 1);
+    ::tzset();
+    EXPECT_GT(zones.size(), 500U);
+    EXPECT_EQ(wrong, 0U);
+    std::printf("labels: %zu in %zu zones, wrong %zu\n", labels, zones.size(), wrong);
+}
+
+}  // namespace
+}  // namespace vantrell
