@@ -18,8 +18,12 @@ QCoro::Task<> SyncEngine::refreshRates(bool force) {
         co_return;
     }
     const auto& sets = context_.rateSets().all();
-    if (!sets.empty() && !force && clock_.now() - sets.begin()->second.fetchedAt < ratesLifetime) {
-        co_return;
+    if (!sets.empty() && !force) {
+        // What lies ahead was noted before the clock was set back.
+        const auto age = clock_.now() - sets.begin()->second.fetchedAt;
+        if (age >= age.zero() && age < ratesLifetime) {
+            co_return;
+        }
     }
     auto fetched = co_await RatesFetcher::fetch(http_, settings_.rateService, life_.token());
     if (isClosing()) {

@@ -97,7 +97,8 @@ QCoro::Task<> SyncEngine::autoSyncIfDue() {
         co_return;
     }
     const auto last = defaults_.date(lastAutoSyncKey);
-    if (last && clock_.now() - *last <= autoSyncInterval) {
+    // A time that lies ahead was noted before the clock was set back.
+    if (last && *last <= clock_.now() && clock_.now() - *last <= autoSyncInterval) {
         co_return;
     }
     co_await autoSync();

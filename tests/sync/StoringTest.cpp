@@ -81,6 +81,7 @@ TEST(StoringAReport, LooksAgainForAFresherCopyWhenItsTextWasRead) {
         fixture.worker.release();
         auto found = *fixture.context().salesReports().find(salesReportKey("DAILY", day));
         found.record.fetchedAt = fixture.clock.now() + std::chrono::seconds(isFresher ? 1 : -1);
+        fixture.clock.advance(std::chrono::seconds(1));
         fixture.context().salesReports().update(found.id, found.record);
         fixture.engine().requestStop();
         fixture.worker.release();
@@ -95,12 +96,15 @@ TEST(StoringAReport, KeepsAFresherCopyThatCameWhileTheRequestWasOut) {
         const char* name;
         ReportStatus status;
         std::chrono::seconds after;
+        std::chrono::seconds passed;
         const char* outcome;
     };
     const std::vector<Fresher> cases = {
-        {"ok and later", ReportStatus::ok, std::chrono::seconds(1), "skipped"},
-        {"later but not ok", ReportStatus::error, std::chrono::seconds(1), "ok"},
-        {"ok but not later", ReportStatus::ok, std::chrono::seconds(0), "ok"},
+        {"ok and later", ReportStatus::ok, std::chrono::seconds(1), std::chrono::seconds(1), "skipped"},
+        {"later but not ok", ReportStatus::error, std::chrono::seconds(1), std::chrono::seconds(1), "ok"},
+        {"ok but not later", ReportStatus::ok, std::chrono::seconds(0), std::chrono::seconds(0), "ok"},
+        {"from a clock that ran ahead", ReportStatus::ok, std::chrono::hours(1), std::chrono::seconds(1),
+         "ok"},
     };
     for (const Fresher& row : cases) {
         EngineFixture fixture;
@@ -110,6 +114,7 @@ TEST(StoringAReport, KeepsAFresherCopyThatCameWhileTheRequestWasOut) {
             auto found = *fixture.context().salesReports().find(salesReportKey("DAILY", day));
             found.record.setStatus(row.status);
             found.record.fetchedAt = fixture.clock.now() + row.after;
+            fixture.clock.advance(row.passed);
             fixture.context().salesReports().update(found.id, found.record);
         };
         fixture.run(fixture.engine().refetchDay(*dateFromDayKey(day)));
