@@ -9,6 +9,7 @@
 #include <utility>
 
 #include <QAccessible>
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QImage>
@@ -82,7 +83,10 @@ void ScreenCamera::settle() {
 void ScreenCamera::takePicture(QQuickWindow& window, const std::string& fileName) {
     settle();
     const std::filesystem::path file = folder_ / fileName;
-    note(window.grabWindow().save(QString::fromStdString(file.string())), "could not write " + file.string());
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    const bool isMade = buffer.open(QIODevice::WriteOnly) && window.grabWindow().save(&buffer, "PNG");
+    note(isMade && !writeAtomically(file, bytes.toStdString()), "could not write " + file.string());
 }
 
 void ScreenCamera::takeText(QQuickWindow& window, const std::string& fileName) {

@@ -65,8 +65,10 @@ int run(const ProgramFolders& folders, InstanceGuard& guard, const EndSignals& e
     // What they keep moving ends with them, and would be waited for.
     windows.reset();
     app.close();
-    if (const auto problem = storeProblem(app.context().health())) {
-        std::cerr << *problem << std::endl;
+    const auto unsaved = defaults.saveAll();
+    const auto problem = storeProblem(app.context().health());
+    if (problem || unsaved) {
+        std::cerr << (problem ? *problem : *unsaved) << std::endl;
         return notStored;
     }
     return code;

@@ -4,6 +4,7 @@
 #include "platform/RegularFile.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 #include <variant>
 
@@ -40,7 +41,7 @@ JsonDefaults::JsonDefaults(std::filesystem::path file) : file_(std::move(file)) 
 
 // What came last may have found a full disk, and room since.
 JsonDefaults::~JsonDefaults() {
-    saveIfChanged();
+    std::ignore = saveAll();
 }
 
 void JsonDefaults::read() {
@@ -113,26 +114,26 @@ void JsonDefaults::setTextMap(std::string_view key, const TextMap& value) {
 
 void JsonDefaults::remove(std::string_view key) {
     values_.remove(toQt(key));
-    saveIfChanged();
+    std::ignore = saveAll();
 }
 
 void JsonDefaults::set(std::string_view key, const QJsonValue& value) {
     values_.insert(toQt(key), value);
-    saveIfChanged();
+    std::ignore = saveAll();
 }
 
-void JsonDefaults::saveIfChanged() {
-    unsaved_.reset();
+std::optional<std::string> JsonDefaults::saveAll() {
     if (values_ == saved_) {
-        return;
+        return std::nullopt;
     }
-    unsaved_ = setDamagedFileAside();
-    if (!unsaved_) {
-        unsaved_ = writeAtomically(file_, QJsonDocument(values_).toJson().toStdString(), Readers::ownerOnly);
+    auto problem = setDamagedFileAside();
+    if (!problem) {
+        problem = writeAtomically(file_, QJsonDocument(values_).toJson().toStdString(), Readers::ownerOnly);
     }
-    if (!unsaved_) {
+    if (!problem) {
         saved_ = values_;
     }
+    return problem;
 }
 
 std::optional<std::string> JsonDefaults::setDamagedFileAside() {

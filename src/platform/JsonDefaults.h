@@ -25,8 +25,9 @@ class JsonDefaults final : public Defaults {
     JsonDefaults(const JsonDefaults&) = delete;
     JsonDefaults& operator=(const JsonDefaults&) = delete;
 
-    /// Why the last change isn't in the file, for the user; absent when all of them are.
-    [[nodiscard]] const std::optional<std::string>& unsaved() const { return unsaved_; }
+    /// Saves what could not be saved so far. Absent if that is done, else what still stands in the way, for
+    /// the user.
+    [[nodiscard]] std::optional<std::string> saveAll();
 
     [[nodiscard]] std::optional<std::string> text(std::string_view key) const override;
     [[nodiscard]] std::optional<Instant> date(std::string_view key) const override;
@@ -42,14 +43,12 @@ class JsonDefaults final : public Defaults {
   private:
     void read();
     void set(std::string_view key, const QJsonValue& value);
-    void saveIfChanged();
     [[nodiscard]] std::optional<std::string> setDamagedFileAside();
 
     std::filesystem::path file_;
     QJsonObject values_;
     QJsonObject saved_;
     bool damaged_ = false;
-    std::optional<std::string> unsaved_;
 };
 
 }  // namespace vantrell

@@ -75,7 +75,7 @@ TEST(AtomicFile, AFullDiskLeavesWhatWasThereAndIsTold) {
         EXPECT_EQ(writeAtomically(folder / "figures.csv", std::string(21, 'x')), told("figures.csv"));
         EXPECT_EQ(savePlacement(folder / "window.json", {.x = 2}), told("window.json"));
         defaults.setText("currency", "CHF");
-        EXPECT_EQ(defaults.unsaved(), told("defaults.json"));
+        EXPECT_EQ(defaults.saveAll(), told("defaults.json"));
         EXPECT_EQ(JsonDefaults(folder / "defaults.json").text("currency"), "EUR");
     }
     EXPECT_EQ(JsonDefaults(folder / "defaults.json").text("currency"), "CHF") << "tried again at the end";
