@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <QCoreApplication>
@@ -16,24 +17,24 @@ namespace {
 using namespace vantrell;
 
 // Pictures are drawn by the processor alone, so that they look alike on every machine.
-TrialEnd runWithPictures(const TrialOptions& options) {
+TrialEnd runWithPictures(TrialOptions options) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     int count = 0;
     const QGuiApplication application(count, nullptr);
-    return runTrial(options, std::cout, std::cerr);
+    return runTrial(std::move(options), std::cout, std::cerr);
 }
 
-TrialEnd run(const TrialOptions& options, int& argc, char** argv) {
+TrialEnd run(TrialOptions options, int& argc, char** argv) {
     if (options.screens) {
-        return runWithPictures(options);
+        return runWithPictures(std::move(options));
     }
     if (options.once) {
         const QCoreApplication application(argc, argv);
-        return runTrial(options, std::cout, std::cerr);
+        return runTrial(std::move(options), std::cout, std::cerr);
     }
     const QGuiApplication application(argc, argv);
-    return openTrialWindow(options, std::cout, std::cerr);
+    return openTrialWindow(std::move(options), std::cout, std::cerr);
 }
 
 }  // namespace
@@ -45,10 +46,10 @@ int main(int argc, char** argv) {
         std::cout << trialUsage();
         return static_cast<int>(TrialEnd::done);
     }
-    const auto options = parseTrialOptions(arguments);
+    auto options = parseTrialOptions(arguments);
     if (const auto* error = std::get_if<UsageError>(&options)) {
         std::cerr << trialUsage() << error->text << std::endl;
         return static_cast<int>(TrialEnd::usage);
     }
-    return static_cast<int>(run(std::get<TrialOptions>(options), argc, argv));
+    return static_cast<int>(run(std::get<TrialOptions>(std::move(options)), argc, argv));
 }

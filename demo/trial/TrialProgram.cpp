@@ -86,28 +86,30 @@ bool pictured(MyApp& app, TrialSurroundings& surroundings, const fs::path& folde
 }
 
 /// Ends all that is under way; what still isn't stored then comes before how else it went.
-TrialEnd closed(MyApp& app, TrialEnd end, std::ostream& errors) {
+TrialEnd closed(MyApp& app, TrialSurroundings& surroundings, TrialEnd end, std::ostream& errors) {
     app.close();
-    if (const auto problem = storeProblem(app.context().health())) {
-        errors << onOneLine(*problem) << std::endl;
+    const auto unsaved = surroundings.settings().saveAll();
+    const auto problem = storeProblem(app.context().health());
+    if (problem || unsaved) {
+        errors << onOneLine(problem ? *problem : *unsaved) << std::endl;
         return TrialEnd::notStored;
     }
     return end;
 }
 
-TrialEnd told(MyApp& app, bool isWritten, std::ostream& errors) {
+TrialEnd told(MyApp& app, TrialSurroundings& surroundings, bool isWritten, std::ostream& errors) {
     TrialEnd end = isWritten ? TrialEnd::done : TrialEnd::notWritten;
     if (const auto error = app.engine().lastError()) {
         errors << onOneLine(*error) << std::endl;
         end = TrialEnd::runFailed;
     }
-    return closed(app, end, errors);
+    return closed(app, surroundings, end, errors);
 }
 
 }  // namespace
 
-TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostream& errors) {
-    TrialSurroundings surroundings(options);
+TrialEnd runTrial(TrialOptions options, std::ostream& output, std::ostream& errors) {
+    TrialSurroundings surroundings(options, std::exchange(options.key, std::nullopt));
     auto begun = surroundings.start();
     if (const auto* failure = std::get_if<StartFailure>(&begun)) {
         errors << onOneLine(failure->text) << std::endl;
@@ -126,12 +128,12 @@ TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostrea
     const bool isExported =
         !options.exports || (isWhole && exported(app.store(), *options.exports, output, errors));
     const bool isPictured = !options.screens || pictured(app, surroundings, *options.screens, output, errors);
-    return told(app, isExported && isPictured, errors);
+    return told(app, surroundings, isExported && isPictured, errors);
 }
 
-TrialEnd openTrialWindow(const TrialOptions& options, std::ostream& output, std::ostream& errors) {
+TrialEnd openTrialWindow(TrialOptions options, std::ostream& output, std::ostream& errors) {
     const EndSignals endSignals;
-    TrialSurroundings surroundings(options);
+    TrialSurroundings surroundings(options, std::exchange(options.key, std::nullopt));
     InstanceGuard guard(surroundings.folder());
     if (!guard.isFirst() && guard.wakeFirst()) {
         return TrialEnd::done;
@@ -151,7 +153,7 @@ TrialEnd openTrialWindow(const TrialOptions& options, std::ostream& output, std:
     static_cast<void>(endSignals.exec());
     // What they keep moving ends with them, and would be waited for.
     windows.reset();
-    return closed(app, TrialEnd::done, errors);
+    return closed(app, surroundings, TrialEnd::done, errors);
 }
 
 }  // namespace vantrell

@@ -20,10 +20,9 @@ enum class TrialEnd {
 /// by status and the headline figures on `output`. Exports are written after a run that failed as well, but
 /// not of a damaged store. Where several things failed the store's failure is what the end and the last line
 /// tell, else the run's, else that of the exports; the others stand before it.
-[[nodiscard]] TrialEnd runTrial(const TrialOptions& options, std::ostream& output, std::ostream& errors);
+[[nodiscard]] TrialEnd runTrial(TrialOptions options, std::ostream& output, std::ostream& errors);
 
 /// Opens the main window and runs until it is closed. Needs a QGuiApplication.
-[[nodiscard]] TrialEnd openTrialWindow(const TrialOptions& options, std::ostream& output,
-                                       std::ostream& errors);
+[[nodiscard]] TrialEnd openTrialWindow(TrialOptions options, std::ostream& output, std::ostream& errors);
 
 }  // namespace vantrell

@@ -46,12 +46,16 @@ std::string publicHalf(const std::string& privateKey) {
 
 }  // namespace
 
-TrialSurroundings::TrialSurroundings(const TrialOptions& options)
+TrialSurroundings::TrialSurroundings(const TrialOptions& options, std::optional<std::string> key)
     : options_(options),
       folder_(dataFolder(options)),
       locale_(LocaleNames::fromEnvironment(environmentVariable)),
       defaults_(folder_ / "defaults.json") {
-    KeyPair keys = options.key ? KeyPair{*options.key, publicHalf(*options.key)} : generateKeyPair();
+    KeyPair keys = generateKeyPair();
+    if (key) {
+        keys.publicPEM = publicHalf(*key);
+        keys.privatePEM = *std::move(key);
+    }
     CredentialsKeychain(secrets_).store({issuerID, keyID, std::move(keys.privatePEM), vendorNumber});
     if (!options.service) {
         // The built-in service has another port each time, where the icons of the last time are no more.

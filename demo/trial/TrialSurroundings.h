@@ -12,6 +12,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -21,7 +22,8 @@ namespace vantrell {
 /// forgets, and the sample service unless another one is named.
 class TrialSurroundings {
   public:
-    explicit TrialSurroundings(const TrialOptions& options);
+    /// `key` is the one of the options, handed over so that it isn't kept.
+    TrialSurroundings(const TrialOptions& options, std::optional<std::string> key);
 
     /// Opens the store and chooses the display currency of the options.
     [[nodiscard]] std::variant<std::unique_ptr<MyApp>, StartFailure> start();
@@ -30,6 +32,7 @@ class TrialSurroundings {
         return {http_, clock_, worker_, localTime_, locale_, secrets_, defaults_};
     }
     [[nodiscard]] AppWindowsParts windowParts(Appearance& appearance) const;
+    [[nodiscard]] JsonDefaults& settings() { return defaults_; }
     [[nodiscard]] const std::filesystem::path& folder() const { return folder_; }
     [[nodiscard]] const Locale& locale() const { return locale_; }
     [[nodiscard]] std::filesystem::path storeFile() const { return folder_ / "vantrell.sqlite"; }

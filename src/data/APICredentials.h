@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 namespace vantrell {
 
@@ -18,5 +19,11 @@ struct APICredentials {
 
     bool operator==(const APICredentials&) const = default;
 };
+
+/// Puts `next` in the place of `held`, whose memory is given back: an assignment might keep it, and the key
+/// in it.
+inline void replace(APICredentials& held, APICredentials next) {
+    std::swap(held, next);
+}
 
 }  // namespace vantrell

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 #include <QJsonDocument>
@@ -43,13 +44,7 @@ std::optional<APICredentials> parsed(const std::string& text) {
     return credentials;
 }
 
-}  // namespace
-
-std::string keychainErrorText(const SecretError& error) {
-    return error.description.empty() ? "Keychain error " + std::to_string(error.code) : error.description;
-}
-
-LoadedCredentials CredentialsKeychain::load() {
+LoadedCredentials loadedFrom(const SecretRead& read) {
     return std::visit(Overloaded{[](const std::string& secret) {
                                      return LoadedCredentials{parsed(secret), std::nullopt};
                                  },
@@ -57,20 +52,36 @@ LoadedCredentials CredentialsKeychain::load() {
                                  [](const SecretUnreadable& unreadable) {
                                      return LoadedCredentials{std::nullopt, unreadable.reason};
                                  }},
-                      secrets_.read(service, account));
+                      read);
+}
+
+}  // namespace
+
+std::string keychainErrorText(const SecretError& error) {
+    return error.description.empty() ? "Keychain error " + std::to_string(error.code) : error.description;
+}
+
+LoadedCredentials CredentialsKeychain::load() {
+    return loadedFrom(secrets_.read(service, account));
+}
+
+void CredentialsKeychain::whenLoadedLate(std::function<void(LoadedCredentials)> tell) {
+    secrets_.whenAnsweredLate([tell = std::move(tell)](const SecretRead& read) { tell(loadedFrom(read)); });
 }
 
 void CredentialsKeychain::store(const APICredentials& credentials) {
     const std::string item = json(credentials);
     // A failed removal is no failure: there may have been nothing to remove.
-    secrets_.remove(service, account);
+    std::ignore = secrets_.remove(service, account);
     if (const auto error = secrets_.add(service, account, item)) {
         throw CredentialsError(error->code, keychainErrorText(*error));
     }
 }
 
 void CredentialsKeychain::remove() {
-    secrets_.remove(service, account);
+    if (const auto error = secrets_.remove(service, account)) {
+        throw CredentialsError(error->code, keychainErrorText(*error));
+    }
 }
 
 }  // namespace vantrell

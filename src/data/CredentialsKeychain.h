@@ -3,6 +3,7 @@
 #include "data/APICredentials.h"
 #include "platform/SecretStore.h"
 
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -36,8 +37,10 @@ class CredentialsKeychain {
     [[nodiscard]] LoadedCredentials load();
     /// Replaces what is there; throws CredentialsError. If that happens the old item may be gone.
     void store(const APICredentials& credentials);
-    /// A failure is silent: what can't be removed can't be told from what isn't there.
+    /// Throws CredentialsError; the item is still there then.
     void remove();
+    /// `tell` is called with what `load` would have given, had the service answered in time.
+    void whenLoadedLate(std::function<void(LoadedCredentials)> tell);
 
   private:
     SecretStore& secrets_;

@@ -23,6 +23,9 @@ std::optional<SecretError> MemorySecretStore::add(std::string_view service, std:
 }
 
 std::optional<SecretError> MemorySecretStore::remove(std::string_view service, std::string_view account) {
+    if (unreadable_) {
+        return SecretError{.description = *unreadable_};
+    }
     secrets_.erase({std::string(service), std::string(account)});
     return std::nullopt;
 }

@@ -14,11 +14,12 @@ class MemorySecretStore final : public SecretStore {
     [[nodiscard]] SecretRead read(std::string_view service, std::string_view account) override;
     [[nodiscard]] std::optional<SecretError> add(std::string_view service, std::string_view account,
                                                  std::string_view secret) override;
-    std::optional<SecretError> remove(std::string_view service, std::string_view account) override;
+    [[nodiscard]] std::optional<SecretError> remove(std::string_view service,
+                                                    std::string_view account) override;
 
     /// The next add ends with `error` and changes nothing.
     void failNextAdd(SecretError error) { nextAddError_ = std::move(error); }
-    /// Every read ends with `reason` until it is set to absent.
+    /// Every read and removal ends with `reason` until it is set to absent.
     void setUnreadable(std::optional<std::string> reason) { unreadable_ = std::move(reason); }
 
   private:

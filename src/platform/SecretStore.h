@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -36,8 +37,11 @@ class SecretStore {
     /// Absent on success. What is there already is replaced.
     [[nodiscard]] virtual std::optional<SecretError> add(std::string_view service, std::string_view account,
                                                          std::string_view secret) = 0;
-    /// The removal of what isn't there is a success. Absent on success.
-    virtual std::optional<SecretError> remove(std::string_view service, std::string_view account) = 0;
+    /// The removal of what isn't there is a success. Absent on success; else what was there still is.
+    [[nodiscard]] virtual std::optional<SecretError> remove(std::string_view service,
+                                                            std::string_view account) = 0;
+    /// `tell` is called, once for each, with the answer to a read that was given up because it took too long.
+    virtual void whenAnsweredLate(std::function<void(const SecretRead&)> /*tell*/) {}
 };
 
 }  // namespace vantrell

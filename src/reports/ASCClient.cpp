@@ -4,6 +4,7 @@
 #include "reports/APIToken.h"
 #include "reports/ClassifyResponse.h"
 #include "reports/Gunzip.h"
+#include "reports/Redaction.h"
 
 #include <exception>
 #include <utility>
@@ -31,6 +32,20 @@ HttpRequest reportRequest(std::string url, const std::string& token) {
     return request;
 }
 
+/// Once more, since the words of an answer may have been escaped in it.
+ReportResponse withoutSecrets(ReportResponse answer, const Redaction& secrets) {
+    std::visit(
+        [&secrets](auto& outcome) {
+            if constexpr (requires { outcome.message; }) {
+                outcome.message = secrets.of(std::move(outcome.message));
+            } else if constexpr (requires { outcome.detail; }) {
+                outcome.detail = secrets.of(std::move(outcome.detail));
+            }
+        },
+        answer);
+    return answer;
+}
+
 ReportResponse unpacked(std::string body) {
     try {
         return response::Success{repairedUtf8(gunzipIfNeeded(std::move(body)))};
@@ -45,7 +60,7 @@ ASCClient::ASCClient(HttpClient& http, const Clock& clock, Worker& worker, std::
     : http_(http), clock_(clock), worker_(worker), origin_(std::move(origin)) {}
 
 void ASCClient::setCredentials(APICredentials credentials) {
-    credentials_ = std::move(credentials);
+    replace(credentials_, std::move(credentials));
     cachedToken_.reset();
 }
 
@@ -86,8 +101,11 @@ QCoro::Task<ReportResponse> ASCClient::send(std::string path, std::vector<QueryI
         co_return response::Failure{"could not build request URL"};
     }
     HttpRequest request;
+    Redaction secrets;
     try {
-        request = reportRequest(*std::move(url), currentToken());
+        const std::string token = currentToken();
+        secrets = Redaction(credentials_, token);
+        request = reportRequest(*std::move(url), token);
     } catch (const std::exception& error) {
         co_return response::AuthFailure{error.what()};
     }
@@ -100,13 +118,18 @@ QCoro::Task<ReportResponse> ASCClient::send(std::string path, std::vector<QueryI
         co_return response::Failure{"no HTTP response"};
     }
     if (*answer->status != 200) {
-        co_return classifyResponse(*answer->status, answer->body);
+        co_return withoutSecrets(classifyResponse(*answer->status, secrets.of(std::move(answer->body))),
+                                 secrets);
     }
     std::function<ReportResponse()> unpack = [body = std::move(answer->body)]() mutable {
         return unpacked(std::move(body));
     };
     auto report = co_await worker_.run(std::move(unpack), std::move(cancel));
     co_return report ? *std::move(report) : response::Failure{"The request was cancelled."};
+}
+
+std::string ASCClient::redacted(std::string text) const {
+    return Redaction(credentials_, cachedToken_ ? cachedToken_->value : "").of(std::move(text));
 }
 
 std::string ASCClient::currentToken() {

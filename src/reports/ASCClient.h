@@ -45,6 +45,9 @@ class ASCClient {
     /// The consolidated report of all regions for a fiscal period such as "2026-11". Never throws.
     [[nodiscard]] QCoro::Task<ReportResponse> fetchFinance(std::string fiscalPeriod, CancelToken cancel);
 
+    /// `text` without what the credentials and the cached token give away.
+    [[nodiscard]] std::string redacted(std::string text) const;
+
     /// The cached token while it has more than a minute to live, else a new one. Throws what makeAPIToken
     /// does, and keeps the cache then. A token is used for at most 19 minutes by the wall clock and by the
     /// monotonic clock, so that setting the wall clock back doesn't prolong it.

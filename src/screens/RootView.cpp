@@ -30,6 +30,8 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
     connect(&parts.store, &EarningsStore::isLoadedChanged, this, &RootView::hasFiguresChanged,
             Qt::QueuedConnection);
     connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &RootView::hasCredentialsChanged);
+    // A key that was told late is due what one that was there from the start gets at once.
+    connect(&parts.engine, &SyncEngine::credentialsProblemChanged, this, &RootView::becomeActive);
     connect(this, &RootView::hasCredentialsChanged, this, &RootView::shownScreenChanged);
     connect(this, &RootView::selectionChanged, this, &RootView::shownScreenChanged);
     connect(this, &RootView::shownScreenChanged, this, &RootView::screenTitleChanged);

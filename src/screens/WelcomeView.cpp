@@ -28,6 +28,7 @@ WelcomeView::WelcomeView(const ScreenParts& parts, QObject* parent)
          tr("Copy the **Key ID** and **Issuer ID**, and your **vendor number** from Payments and Financial "
             "Reports.")}));
     connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &WelcomeView::appear);
+    connect(&parts.engine, &SyncEngine::credentialsProblemChanged, this, &WelcomeView::problemChanged);
     appear();
 }
 

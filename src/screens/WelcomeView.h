@@ -28,7 +28,7 @@ class WelcomeView : public QObject {
     Q_PROPERTY(QString symbol READ symbol CONSTANT)
     Q_PROPERTY(QString name READ name CONSTANT)
     Q_PROPERTY(QString introduction READ introduction CONSTANT)
-    Q_PROPERTY(QString problem READ problem CONSTANT)
+    Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
     Q_PROPERTY(vantrell::RowList* steps READ steps CONSTANT)
     Q_PROPERTY(QString linkText READ linkText CONSTANT)
     Q_PROPERTY(QString linkAddress READ linkAddress CONSTANT)
@@ -50,6 +50,9 @@ class WelcomeView : public QObject {
     [[nodiscard]] QString connectTitle() const { return tr("Connect"); }
     [[nodiscard]] CredentialsEditor* credentials() { return &credentials_; }
     [[nodiscard]] QString footnote() const;
+
+  Q_SIGNALS:
+    void problemChanged();
 
   private:
     void appear();

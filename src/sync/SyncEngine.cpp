@@ -26,10 +26,18 @@ SyncEngine::SyncEngine(const SyncEngineParts& parts, SyncEngineSettings settings
       calendar_(parts.clock, parts.localTime),
       keychain_(parts.secrets),
       client_(parts.http, parts.clock, parts.worker, settings_.reportService) {
-    loadCredentials();
+    take(keychain_.load());
+    keychain_.whenLoadedLate([this](LoadedCredentials loaded) {
+        // What was entered meanwhile is newer.
+        if (!hasCredentials_) {
+            take(std::move(loaded));
+            Q_EMIT credentialsProblemChanged();
+        }
+    });
 }
 
 SyncEngine::~SyncEngine() {
+    keychain_.whenLoadedLate({});
     life_.cancel();
 }
 
@@ -65,8 +73,8 @@ void SyncEngine::finishRun(std::string_view label) {
 }
 
 void SyncEngine::bumpRevision(bool force) {
-    const Instant now = clock_.now();
-    if (!force && now - lastRevisionBump_ <= longestRevisionWait) {
+    const auto now = clock_.monotonic();
+    if (!force && lastRevisionBump_ && now - *lastRevisionBump_ <= longestRevisionWait) {
         return;
     }
     lastRevisionBump_ = now;

@@ -68,7 +68,8 @@ class SyncEngine : public QObject {
 
     /// The stored credentials are complete.
     [[nodiscard]] bool hasCredentials() const { return hasCredentials_; }
-    /// Why the secret service could not be read at the start; absent when it could, also without a key.
+    /// Why the secret service could not be read at the start; absent when it could, also without a key. It
+    /// may answer later.
     [[nodiscard]] const std::optional<std::string>& credentialsProblem() const { return credentialsProblem_; }
     /// What requests are signed with; four empty texts without a key.
     [[nodiscard]] const APICredentials& credentials() const { return client_.credentials(); }
@@ -117,7 +118,8 @@ class SyncEngine : public QObject {
 
     /// Throws CredentialsError, and then changes nothing here, if the secret service refuses.
     void saveCredentials(const APICredentials& credentials);
-    /// Forgets the key; stored reports stay.
+    /// Forgets the key; stored reports stay. Throws CredentialsError, and then forgets nothing, if the secret
+    /// service refuses.
     void removeCredentials();
 
     [[nodiscard]] bool hasOkDailyReport() const;
@@ -143,6 +145,7 @@ class SyncEngine : public QObject {
 
   Q_SIGNALS:
     void hasCredentialsChanged();
+    void credentialsProblemChanged();
     void isSyncingChanged();
     void progressTextChanged();
     void progressFractionChanged();
@@ -200,7 +203,7 @@ class SyncEngine : public QObject {
     [[nodiscard]] std::string newestOkFiscalPeriod() const;
     void storeRates(Rates rates);
 
-    void loadCredentials();
+    void take(LoadedCredentials loaded);
     void setProgress(std::string text, std::optional<double> fraction);
     /// The engine is being destroyed: whoever was waiting leaves without touching anything.
     [[nodiscard]] bool isClosing() const { return life_.token().isCancelled(); }
@@ -217,7 +220,7 @@ class SyncEngine : public QObject {
     CredentialsKeychain keychain_;
     ASCClient client_;
     std::optional<std::string> credentialsProblem_;
-    Instant lastRevisionBump_ = distantPast;
+    std::optional<std::chrono::microseconds> lastRevisionBump_;  ///< by the monotonic clock
 
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(SyncEngine, bool, hasCredentials_, false,
                                          &SyncEngine::hasCredentialsChanged)

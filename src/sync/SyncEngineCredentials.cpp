@@ -8,12 +8,12 @@
 
 namespace vantrell {
 
-void SyncEngine::loadCredentials() {
-    auto loaded = keychain_.load();
+void SyncEngine::take(LoadedCredentials loaded) {
     credentialsProblem_ = std::move(loaded.problem);
     if (loaded.credentials) {
-        hasCredentials_ = loaded.credentials->isComplete();
+        const bool isComplete = loaded.credentials->isComplete();
         client_.setCredentials(*std::move(loaded.credentials));
+        hasCredentials_ = isComplete;
     }
 }
 

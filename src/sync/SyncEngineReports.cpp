@@ -113,11 +113,12 @@ SyncEngine::Applied SyncEngine::apply(const Request& request, const ReportRespon
         return Applied::rateLimited;
     }
     if (std::holds_alternative<response::Success>(answer) && report.status() == ReportStatus::ok &&
-        report.fetchedAt > started) {
+        report.fetchedAt > started && report.fetchedAt <= clock_.now()) {
         log(request.logKey(), "skipped", "A fresher copy synced in from another device.");
         return Applied::skipped;
     }
     settle(request, answer, std::move(content), report);
+    report.message = client_.redacted(std::move(report.message));
     report.fetchedAt = clock_.now();
     log(request.logKey(), report.statusRaw, report.message);
     Request::records(context_).update(id, std::move(report));

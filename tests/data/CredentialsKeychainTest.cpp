@@ -48,7 +48,9 @@ TEST(CredentialsKeychain, ReadsADamagedItemAsAbsentWithoutAProblem) {
 TEST(CredentialsKeychain, TellsALockedServiceFromNoItem) {
     MemorySecretStore secrets;
     secrets.setUnreadable("The keyring is locked");
-    EXPECT_EQ(CredentialsKeychain(secrets).load().problem, "The keyring is locked");
+    CredentialsKeychain keychain(secrets);
+    EXPECT_EQ(keychain.load().problem, "The keyring is locked");
+    EXPECT_THROW(keychain.remove(), CredentialsError);
 }
 
 TEST(CredentialsKeychain, ThrowsTheServicesWordingOrTheCode) {

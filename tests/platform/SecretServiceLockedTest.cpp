@@ -19,6 +19,10 @@ TEST(LockedSecretService, IsToldApartFromOneWithoutTheSecret) {
     EXPECT_EQ(keychain.read(service, "kept"), locked);
     EXPECT_EQ(keychain.read(service, "never written"), locked);
 
+    const auto kept = keychain.remove(service, "kept");
+    ASSERT_TRUE(kept);
+    EXPECT_EQ(kept->description, "The keyring is locked.");
+
     const auto error = keychain.add(service, "new", "secret");
     ASSERT_TRUE(error);
     EXPECT_NE(error->code, 0);

@@ -2,6 +2,9 @@
 #include "platform/KeychainSecretStore.h"
 #include "platform/MemorySecretStore.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+
 #include <gtest/gtest.h>
 
 namespace vantrell {
@@ -55,7 +58,15 @@ TEST_F(SecretService, DoesNotWaitLongerThanItMay) {
         ASSERT_TRUE(error);
         EXPECT_EQ(error->description, words);
     }
+    KeychainSecretStore told{milliseconds{50}, milliseconds{50}};
+    std::optional<SecretRead> late;
+    told.whenAnsweredLate([&late](const SecretRead& read) { late = read; });
+    EXPECT_EQ(told.read(service, "held"), SecretRead(SecretUnreadable{words}));
     keyring->letGo();
+    for (const QDeadlineTimer deadline(10'000); !late && !deadline.hasExpired();) {
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(late, SecretRead("secret"));
     // What could not be started in time is not done later.
     EXPECT_EQ(keychain.read(service, "held"), SecretRead("secret"));
 }

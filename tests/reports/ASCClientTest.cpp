@@ -137,6 +137,34 @@ TEST_F(ASCClientTest, EveryOtherAnswerIsReportedAfterOneRequest) {
     }
 }
 
+TEST_F(ASCClientTest, WhatAnErrorEchoesOfTheCredentialsIsMasked) {
+    client.setCredentials({"3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15", "7QK2MZ8T5W", credentials.privateKeyPEM,
+                           credentials.vendorNumber});
+    const std::string token = client.currentToken();
+    const std::string keyLine = credentials.privateKeyPEM.substr(28, 64);
+    std::string escaped = token;
+    escaped.replace(0, 1, "\\u0065");
+    const struct {
+        const char* name;
+        std::string body;
+        std::string message;
+    } cases[] = {
+        {"in an envelope", R"({"errors":[{"detail":"Bearer )" + token + R"( of 60419372"}]})",
+         "HTTP 500: Bearer ••• of •••"},
+        {"escaped", R"({"errors":[{"detail":")" + escaped + R"("}]})", "HTTP 500: ••••••.•••"},
+        {"twice", token + " " + token, "HTTP 500: ••• •••"},
+        {"cut off by the service", "got " + token.substr(0, 40) + "...", "HTTP 500: got •••..."},
+        {"cut off by us", std::string(280, '-') + token, "HTTP 500: " + std::string(280, '-') + "•••"},
+        {"its last part", token.substr(token.rfind('.') + 1), "HTTP 500: •••"},
+        {"IDs", "7QK2MZ8T5W/3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15", "HTTP 500: •••/•••"},
+        {"the key", keyLine, "HTTP 500: •••"},
+    };
+    for (const auto& [name, body, message] : cases) {
+        http.answer(500, body);
+        EXPECT_EQ(diagnosticText(dailySales()), "Failed — " + message) << name;
+    }
+}
+
 TEST_F(ASCClientTest, AnUnreadableKeyIsReportedWithoutTraffic) {
     credentials.privateKeyPEM = "<html>";
     client.setCredentials(credentials);

@@ -109,7 +109,11 @@ TEST_F(CredentialsEditorTest, TestsAndTellsTheResult) {
 }
 
 TEST_F(CredentialsEditorTest, RemovesTheKeyButNotTheFields) {
-    EXPECT_TRUE(editor.canRemove());
+    fixture.secrets.setUnreadable("The keyring is locked.");
+    editor.removeKey();
+    EXPECT_EQ(editor.status(), QStringLiteral("Could not remove from the Keychain: The keyring is locked."));
+    EXPECT_TRUE(editor.statusIsError() && editor.hasKey() && editor.canRemove());
+    fixture.secrets.setUnreadable({});
     editor.removeKey();
     EXPECT_FALSE(editor.canRemove());
     EXPECT_FALSE(editor.hasKey());

@@ -18,6 +18,8 @@ HARNESSES = {
     "storage": [*STORAGE, "kills", "faults", "power", "random", "disks", "races", "shown"],
     "bad-stores": [*STORAGE, "bad"],
     "monkey": ["monkey.py", "--tests", "{tests}"],
+    "secrets": ["secrets.py", "--program", "{program}"],
+    "labels": ["labels.py", "--tests", "{tests}"],
 }
 
 

@@ -34,7 +34,7 @@ CredentialsEditor::CredentialsEditor(const ScreenParts& parts, QObject* parent)
 
 void CredentialsEditor::appear() {
     ++appearance_;
-    values_ = parts_.engine.credentials();
+    replace(values_, parts_.engine.credentials());
     isTesting_ = false;
     testResult_.clear();
     say({}, false);
@@ -112,8 +112,13 @@ void CredentialsEditor::test() {
 }
 
 void CredentialsEditor::removeKey() {
-    parts_.engine.removeCredentials();
-    values_.privateKeyPEM.clear();
+    try {
+        parts_.engine.removeCredentials();
+    } catch (const CredentialsError& error) {
+        say(tr("Could not remove from the Keychain: ") + shownText(error.what()), true);
+        return;
+    }
+    replace(values_, {values_.issuerID, values_.keyID, {}, values_.vendorNumber});
     Q_EMIT valuesChanged();
     say(tr("Credentials removed from the Keychain."), false);
 }

@@ -79,6 +79,7 @@ class CredentialsEditor : public QObject {
     Q_INVOKABLE void save();
     /// Saves, and tries the key with one request.
     Q_INVOKABLE void test();
+    /// Leaves the key in the form if it could not be removed.
     Q_INVOKABLE void removeKey();
 
     [[nodiscard]] bool isTesting() const { return isTesting_; }
