@@ -37,6 +37,9 @@ struct BenchData {
 /// months, the years before, and a year of finance reports.
 [[nodiscard]] BenchData makeBenchData(std::int64_t dailyLines, int years = 1);
 
+/// The text of a report's body.
+[[nodiscard]] std::string unpacked(const std::string& gzip);
+
 /// The gzip body of one report of exactly `lines` lines, made of the first daily reports of `data`.
 [[nodiscard]] std::string reportOfLines(const BenchData& data, std::int64_t lines);
 

@@ -6,7 +6,6 @@
 #include "LoadFloor.h"
 #include "WindowFigures.h"
 #include "calendar/DayKey.h"
-#include "reports/Gunzip.h"
 #include "reports/SalesParser.h"
 
 #include <cmath>
@@ -145,7 +144,7 @@ class BenchRun {
         std::vector<double> unchanged;
         std::vector<double> oneReport;
         const SalesReportBody& report = data_.sales.at(data_.sales.size() / 2);
-        const std::string text = gunzipIfNeeded(report.gzip);
+        const std::string text = unpacked(report.gzip);
         const auto rows = parseSales(text).rows;
         for (int repeat = 0; repeat < repeats; ++repeat) {
             const auto reload = [&] { program.store().reload(program.context()); };

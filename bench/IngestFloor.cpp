@@ -1,7 +1,6 @@
 #include "IngestFloor.h"
 
 #include "Measure.h"
-#include "reports/Gunzip.h"
 
 #include <array>
 #include <charconv>
@@ -141,7 +140,7 @@ double fillPlainTable(const BenchData& data, const std::filesystem::path& file) 
     double milliseconds = 0;
     std::int64_t next = 1;
     for (const SalesReportBody& report : data.sales) {
-        const std::string text = gunzipIfNeeded(report.gzip);
+        const std::string text = unpacked(report.gzip);
         milliseconds += millisecondsOf([&] {
             execute(database.get(), "BEGIN IMMEDIATE");
             const std::int64_t first = next;

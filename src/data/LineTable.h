@@ -213,7 +213,8 @@ class LineTable {
         removed_.clear();
         for (Entry* entry : unsavedEntries()) {
             entry->firstLine = entry->place;
-            entry->lines = {};
+            // Assigning {} would keep the memory.
+            entry->lines = std::vector<Line>();
             entry->written = 0;
         }
         pending_.clear();

@@ -61,6 +61,15 @@ void ModelContext::encode(std::span<const ParsedFinanceRow> rows, std::vector<Fi
     appendEncoded(rows, lines, texts_);
 }
 
+DictionarySizes ModelContext::dictionarySizes() const {
+    return {texts_.size(), offers_.size(), texts_.bytes() + offers_.bytes()};
+}
+
+void ModelContext::forgetUnsaved(const DictionarySizes& before) {
+    offers_.shrink(before.offers);
+    texts_.shrink(before.texts);
+}
+
 // What was written ahead may be of the lines that are replaced, and is undone.
 void ModelContext::replaceSalesLines(const std::string& frequencyRaw, const std::string& reportDate,
                                      std::vector<SalesLine> lines) {

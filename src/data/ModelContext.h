@@ -5,6 +5,7 @@
 #include "data/RecordMappings.h"
 #include "data/StoreHealth.h"
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <span>
@@ -12,6 +13,13 @@
 #include <vector>
 
 namespace vantrell {
+
+/// How far the dictionaries had come at some time.
+struct DictionarySizes {
+    std::size_t texts = 0;
+    std::size_t offers = 0;
+    std::size_t bytes = 0;  ///< of memory, about
+};
 
 /// The records of the store with their pending changes. Every reader sees a change at once; `save` makes all
 /// of them durable in one transaction or none. After a save that failed they wait for the next one, which
@@ -36,6 +44,10 @@ class ModelContext {
     /// steps.
     void encode(std::span<const SalesRowView> rows, std::vector<SalesLine>& lines);
     void encode(std::span<const ParsedFinanceRow> rows, std::vector<FinanceLine>& lines);
+
+    [[nodiscard]] DictionarySizes dictionarySizes() const;
+    /// Takes back what was encoded since then and is not going to be stored.
+    void forgetUnsaved(const DictionarySizes& before);
 
     /// Removes all lines of that sales report and puts `lines` in their place, in this order.
     void replaceSalesLines(const std::string& frequencyRaw, const std::string& reportDate,

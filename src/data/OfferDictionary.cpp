@@ -3,6 +3,7 @@
 #include "data/LineWriter.h"
 #include "data/PackedDecimal.h"
 
+#include <algorithm>
 #include <functional>
 #include <string>
 
@@ -72,6 +73,13 @@ OfferID OfferDictionary::intern(const StoredOffer& offer) {
         offers_.push_back(&known->first);
     }
     return known->second;
+}
+
+void OfferDictionary::shrink(std::size_t size) {
+    while (offers_.size() > std::max(size, saved_)) {
+        ids_.erase(ids_.find(*offers_.back()));
+        offers_.pop_back();
+    }
 }
 
 const StoredOffer& OfferDictionary::offer(OfferID id) const {

@@ -41,6 +41,10 @@ class OfferDictionary {
     [[nodiscard]] const StoredOffer& offer(OfferID id) const;
     [[nodiscard]] std::size_t size() const { return offers_.size(); }
 
+    // As for texts.
+    [[nodiscard]] std::size_t bytes() const { return offers_.size() * (sizeof(StoredOffer) + 48); }
+    void shrink(std::size_t size);
+
     /// Inserts the offers that aren't stored yet, inside the caller's transaction; throws SqliteError.
     void write();
     /// Removes what a save has left whose commit failed; likewise.

@@ -1,6 +1,7 @@
 #include "data/RecordMappings.h"
 
 #include "data/RatesText.h"
+#include "platform/Utf8.h"
 
 #include <string_view>
 
@@ -39,6 +40,10 @@ std::string text(const SqliteStatement& row, int column) {
     return std::string(row.text(column));
 }
 
+std::string message(const SqliteStatement& row, int column) {
+    return std::string(cutAtCodePoint(row.text(column), mostMessageBytes));
+}
+
 }  // namespace
 
 std::string salesReportKey(std::string_view frequencyRaw, std::string_view reportDate) {
@@ -62,8 +67,9 @@ const char* const RecordMapping<SalesReport>::remove = "DELETE FROM sales_report
 const char* const RecordMapping<SalesReport>::removeAfter = "DELETE FROM sales_report WHERE id > ?";
 
 SalesReport RecordMapping<SalesReport>::read(const SqliteStatement& row) {
-    return {text(row, 1),   text(row, 2), text(row, 3),   text(row, 4),
-            row.integer(5), text(row, 6), instant(row, 7)};
+    return {text(row, 1),   text(row, 2),   text(row, 3),
+            text(row, 4),   row.integer(5), message(row, messageColumn),
+            instant(row, 7)};
 }
 
 void RecordMapping<SalesReport>::write(SqliteStatement& statement, RecordID id, const SalesReport& record) {
@@ -95,8 +101,10 @@ const char* const RecordMapping<FinanceReport>::remove = "DELETE FROM finance_re
 const char* const RecordMapping<FinanceReport>::removeAfter = "DELETE FROM finance_report WHERE id > ?";
 
 FinanceReport RecordMapping<FinanceReport>::read(const SqliteStatement& row) {
-    return {text(row, 1),           text(row, 2), text(row, 3),    text(row, 4),
-            row.integer(5),         text(row, 6), instant(row, 7), optionalInstant(row, 8),
+    return {text(row, 1),           text(row, 2),
+            text(row, 3),           text(row, 4),
+            row.integer(5),         message(row, messageColumn),
+            instant(row, 7),        optionalInstant(row, 8),
             optionalInstant(row, 9)};
 }
 
@@ -155,7 +163,7 @@ const char* const RecordMapping<SyncLogEntry>::remove = "DELETE FROM sync_log WH
 const char* const RecordMapping<SyncLogEntry>::removeAfter = "DELETE FROM sync_log WHERE id > ?";
 
 SyncLogEntry RecordMapping<SyncLogEntry>::read(const SqliteStatement& row) {
-    return {instant(row, 1), text(row, 2), text(row, 3), text(row, 4)};
+    return {instant(row, 1), text(row, 2), text(row, 3), message(row, messageColumn)};
 }
 
 void RecordMapping<SyncLogEntry>::write(SqliteStatement& statement, RecordID id, const SyncLogEntry& record) {

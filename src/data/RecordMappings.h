@@ -16,6 +16,7 @@ namespace vantrell {
 
 template <>
 struct RecordMapping<SalesReport> {
+    static constexpr int messageColumn = 6;
     static const char* const select;
     static const char* const insert;
     static const char* const update;
@@ -28,6 +29,7 @@ struct RecordMapping<SalesReport> {
 
 template <>
 struct RecordMapping<FinanceReport> {
+    static constexpr int messageColumn = 6;
     static const char* const select;
     static const char* const insert;
     static const char* const update;
@@ -52,6 +54,7 @@ struct RecordMapping<RateSet> {
 
 template <>
 struct RecordMapping<SyncLogEntry> {
+    static constexpr int messageColumn = 4;
     static const char* const select;
     static const char* const insert;
     static const char* const update;

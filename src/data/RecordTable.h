@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/Reports.h"
 #include "data/StoreHealth.h"
 #include "platform/Sqlite.h"
 
@@ -24,7 +25,7 @@ struct Stored {
 
 /// How one kind of record lies in its table. A specialisation gives the SQL and moves values:
 /// `select` (id first), `insert`, `update` and `remove` with the id as last parameter, `removeAfter` an id,
-/// `write`, `read` and `key`, the values by which a record is found.
+/// `write`, `read` and `key`, the values by which a record is found, and perhaps the `messageColumn`.
 template <typename Record>
 struct RecordMapping;
 
@@ -43,6 +44,7 @@ class RecordTable {
             while (select.step()) {
                 if (const RecordID id = select.integer(0); id > 0 && id < mostBelievable) {
                     add(id, RecordMapping<Record>::read(select));
+                    noteCutMessage(id, select);
                 } else {
                     health.addDamage("a record has a number that was never given");
                 }
@@ -137,6 +139,15 @@ class RecordTable {
     }
 
   private:
+    // The next save writes it as it is held now, so that only one start has to read all of it.
+    void noteCutMessage(RecordID id, const SqliteStatement& row) {
+        if constexpr (requires { RecordMapping<Record>::messageColumn; }) {
+            if (row.text(RecordMapping<Record>::messageColumn).size() > mostMessageBytes) {
+                updated_.insert(id);
+            }
+        }
+    }
+
     // More than any store will ever count.
     static constexpr RecordID mostBelievable = RecordID{1} << 53U;
 

@@ -4,11 +4,15 @@
 #include "data/ReportStatus.h"
 #include "platform/Instant.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
 
 namespace vantrell {
+
+/// The most that a message takes, since all of them are held in memory. A longer one is cut.
+inline constexpr std::size_t mostMessageBytes = std::size_t{16} << 10U;
 
 /// What is known of one sales report, also of one that never gave data.
 struct SalesReport {

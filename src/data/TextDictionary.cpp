@@ -1,10 +1,17 @@
 #include "data/TextDictionary.h"
 
+#include <algorithm>
 #include <limits>
 
 #include <sqlite3.h>
 
 namespace vantrell {
+namespace {
+
+// With the nodes and their overhead.
+constexpr std::size_t entryBytes = 136;
+
+}  // namespace
 
 std::uint32_t readID(const SqliteStatement& row, int column) {
     const std::int64_t value = row.integer(column);
@@ -39,7 +46,16 @@ TextID TextDictionary::intern(std::string_view text) {
     const auto id = static_cast<TextID>(texts_.size());
     texts_.emplace_back(text);
     ids_.emplace(texts_.back(), id);
+    bytes_ += entryBytes + text.size();
     return id;
+}
+
+void TextDictionary::shrink(std::size_t size) {
+    while (texts_.size() > std::max(size, saved_)) {
+        bytes_ -= entryBytes + texts_.back().size();
+        ids_.erase(texts_.back());
+        texts_.pop_back();
+    }
 }
 
 std::string_view TextDictionary::text(TextID id) const {

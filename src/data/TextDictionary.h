@@ -31,6 +31,11 @@ class TextDictionary {
     [[nodiscard]] std::string_view text(TextID id) const;
     [[nodiscard]] std::size_t size() const { return texts_.size(); }
 
+    /// About the memory that the texts take.
+    [[nodiscard]] std::size_t bytes() const { return bytes_; }
+    /// Takes back the newest texts down to `size`, but none that is stored.
+    void shrink(std::size_t size);
+
     /// Inserts the texts that aren't stored yet, inside the caller's transaction; throws SqliteError.
     void write();
     /// Removes what a save has left whose commit failed; likewise.
@@ -43,6 +48,7 @@ class TextDictionary {
     std::deque<std::string> texts_;
     std::unordered_map<std::string_view, TextID> ids_;
     std::size_t saved_ = 0;
+    std::size_t bytes_ = 0;
 };
 
 }  // namespace vantrell

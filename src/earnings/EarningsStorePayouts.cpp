@@ -1,4 +1,5 @@
 #include "calendar/FiscalPeriod.h"
+#include "earnings/Count.h"
 #include "earnings/EarningsStore.h"
 
 #include <algorithm>
@@ -24,9 +25,10 @@ void addPayment(FinancePeriodStat& period, const FinanceRowLite& row) {
         period.end = std::max(period.end.value_or(row.endDate), row.endDate);
     }
     if (row.saleOrReturn == "R") {
-        period.returns += row.quantity < 0 ? -row.quantity : row.quantity;
+        const std::int64_t returned = row.quantity < 0 ? countNegated(row.quantity) : row.quantity;
+        period.returns = countSum(period.returns, returned);
     } else {
-        period.units += row.quantity;
+        period.units = countSum(period.units, row.quantity);
     }
     amountIn(period.byCurrency, row.currency) += row.extendedShare;
 }

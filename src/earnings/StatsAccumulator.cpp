@@ -6,8 +6,8 @@ namespace vantrell {
 
 void StatsAccumulator::add(const StatsAccumulator& other) {
     for (std::size_t kind = 0; kind < kinds; ++kind) {
-        units_[kind][0] += other.units_[kind][0];
-        units_[kind][1] += other.units_[kind][1];
+        units_[kind][0] = countSum(units_[kind][0], other.units_[kind][0]);
+        units_[kind][1] = countSum(units_[kind][1], other.units_[kind][1]);
     }
     sums_.resize(std::max(sums_.size(), other.sums_.size()));
     for (std::size_t currency = 0; currency < other.sums_.size(); ++currency) {
@@ -21,7 +21,7 @@ AggregateStats StatsAccumulator::stats(const TextPool& currencies) const {
     stats.iapUnits = sold(ProductKind::iap);
     stats.updateUnits = sold(ProductKind::update);
     stats.redownloadUnits = sold(ProductKind::redownload);
-    stats.refundedUnits = -(refunded(ProductKind::app) + refunded(ProductKind::iap));
+    stats.refundedUnits = countNegated(countSum(refunded(ProductKind::app), refunded(ProductKind::iap)));
     for (std::uint32_t currency = 0; currency < sums_.size(); ++currency) {
         if (sums_[currency].isTouched()) {
             stats.proceedsByCurrency.emplace(currencies.text(currency), sums_[currency].total());

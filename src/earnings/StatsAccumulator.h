@@ -1,6 +1,7 @@
 #pragma once
 
 #include "earnings/AggregateStats.h"
+#include "earnings/Count.h"
 #include "earnings/ExactSum.h"
 #include "earnings/OfferSums.h"
 #include "earnings/ProductKind.h"
@@ -30,7 +31,8 @@ class StatsAccumulator {
     void add(const OfferSum& lines) {
         const SalesOffer& offer = *lines.offer;
         const auto row = static_cast<std::size_t>(offer.kind);
-        units_[row][lines.units < 0 ? 1 : 0] += lines.units;
+        std::int64_t& units = units_[row][lines.units < 0 ? 1 : 0];
+        units = countSum(units, lines.units);
         if (offer.currency >= sums_.size()) {
             sums_.resize(offer.currency + 1U);
         }

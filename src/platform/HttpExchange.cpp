@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 #include <utility>
 
 #include <QIODevice>
@@ -155,6 +156,15 @@ void HttpExchange::takeHeaders() {
 
 void HttpExchange::takeBytes() {
     heard();
+    // Qt lets no exception pass.
+    try {
+        appendBytes();
+    } catch (const std::bad_alloc&) {
+        finish(HttpFailure{"There is not enough memory for the server's answer."});
+    }
+}
+
+void HttpExchange::appendBytes() {
     const auto bytes = reply_->readAll();
     if (static_cast<std::size_t>(bytes.size()) > maxBodyBytes() - body_.size()) {
         finish(HttpFailure{"The server's answer is too large."});

@@ -40,6 +40,7 @@ class HttpExchange {
     void heard();
     void takeHeaders();
     void takeBytes();
+    void appendBytes();
     void conclude();
     bool follow(int status);
     [[nodiscard]] std::optional<int> status() const;

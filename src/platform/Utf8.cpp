@@ -103,6 +103,10 @@ std::string repairedUtf8(std::string bytes) {
     return repaired.append(rest);
 }
 
+bool isUtf8(std::string_view text) {
+    return validPrefixLength(text) == text.size();
+}
+
 std::string_view cutAtCodePoint(std::string_view text, std::size_t maxBytes) {
     if (text.size() <= maxBytes) {
         return text;

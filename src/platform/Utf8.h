@@ -11,6 +11,8 @@ namespace vantrell {
 /// mark is a character like any other.
 [[nodiscard]] std::string repairedUtf8(std::string bytes);
 
+[[nodiscard]] bool isUtf8(std::string_view text);
+
 /// The longest beginning of `text` that is at most `maxBytes` long and cuts no character in two.
 [[nodiscard]] std::string_view cutAtCodePoint(std::string_view text, std::size_t maxBytes);
 

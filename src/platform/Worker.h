@@ -2,6 +2,7 @@
 
 #include "platform/Cancellation.h"
 
+#include <exception>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -16,20 +17,40 @@ class Worker {
   public:
     virtual ~Worker() = default;
 
-    /// What `work` gives; absent when `cancel` was cancelled. `work` must own all that it uses, since after a
-    /// cancellation it goes on unheard, and must not throw. Whoever waits is ended before the worker is.
+    /// What `work` gives; absent when `cancel` was cancelled. What it throws is thrown again here. `work`
+    /// must own all that it uses, since after a cancellation it goes on unheard. Whoever waits is ended
+    /// before the worker is.
     template <typename Result>
     [[nodiscard]] QCoro::Task<std::optional<Result>> run(std::function<Result()> work, CancelToken cancel) {
-        auto result = std::make_shared<std::optional<Result>>();
-        std::function<void()> job = [result, work = std::move(work)] { result->emplace(work()); };
+        auto outcome = std::make_shared<Outcome<Result>>();
+        std::function<void()> job = [outcome, work = std::move(work)] {
+            try {
+                outcome->result.emplace(work());
+            } catch (...) {
+                outcome->error = std::current_exception();
+            }
+        };
         co_await perform(std::move(job), cancel);
         // Only without a cancellation is nobody writing there any more.
-        co_return cancel.isCancelled() ? std::nullopt : std::move(*result);
+        if (cancel.isCancelled()) {
+            co_return std::nullopt;
+        }
+        if (outcome->error) {
+            std::rethrow_exception(outcome->error);
+        }
+        co_return std::move(outcome->result);
     }
 
   protected:
     /// Resumes on the calling thread when `job` has ended, or at once when `cancel` is cancelled.
     [[nodiscard]] virtual QCoro::Task<> perform(std::function<void()> job, CancelToken cancel) = 0;
+
+  private:
+    template <typename Result>
+    struct Outcome {
+        std::optional<Result> result;
+        std::exception_ptr error;
+    };
 };
 
 /// Does it where it is asked to, at once; where no window is to be kept moving.

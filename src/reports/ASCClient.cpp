@@ -1,9 +1,7 @@
 #include "reports/ASCClient.h"
 
-#include "platform/Utf8.h"
 #include "reports/APIToken.h"
 #include "reports/ClassifyResponse.h"
-#include "reports/Gunzip.h"
 #include "reports/Redaction.h"
 
 #include <exception>
@@ -46,18 +44,10 @@ ReportResponse withoutSecrets(ReportResponse answer, const Redaction& secrets) {
     return answer;
 }
 
-ReportResponse unpacked(std::string body) {
-    try {
-        return response::Success{repairedUtf8(gunzipIfNeeded(std::move(body)))};
-    } catch (const GunzipError& error) {
-        return response::Failure{error.what()};
-    }
-}
-
 }  // namespace
 
-ASCClient::ASCClient(HttpClient& http, const Clock& clock, Worker& worker, std::string origin)
-    : http_(http), clock_(clock), worker_(worker), origin_(std::move(origin)) {}
+ASCClient::ASCClient(HttpClient& http, const Clock& clock, std::string origin)
+    : http_(http), clock_(clock), origin_(std::move(origin)) {}
 
 void ASCClient::setCredentials(APICredentials credentials) {
     replace(credentials_, std::move(credentials));
@@ -109,7 +99,7 @@ QCoro::Task<ReportResponse> ASCClient::send(std::string path, std::vector<QueryI
     } catch (const std::exception& error) {
         co_return response::AuthFailure{error.what()};
     }
-    HttpResult result = co_await http_.get(std::move(request), cancel);
+    HttpResult result = co_await http_.get(std::move(request), std::move(cancel));
     auto* const answer = std::get_if<HttpResponse>(&result);
     if (answer == nullptr) {
         co_return response::Failure{std::get<HttpFailure>(std::move(result)).description};
@@ -121,11 +111,7 @@ QCoro::Task<ReportResponse> ASCClient::send(std::string path, std::vector<QueryI
         co_return withoutSecrets(classifyResponse(*answer->status, secrets.of(std::move(answer->body))),
                                  secrets);
     }
-    std::function<ReportResponse()> unpack = [body = std::move(answer->body)]() mutable {
-        return unpacked(std::move(body));
-    };
-    auto report = co_await worker_.run(std::move(unpack), std::move(cancel));
-    co_return report ? *std::move(report) : response::Failure{"The request was cancelled."};
+    co_return response::Success{std::move(answer->body)};
 }
 
 std::string ASCClient::redacted(std::string text) const {

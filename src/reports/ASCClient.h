@@ -7,7 +7,6 @@
 #include "platform/HttpClient.h"
 #include "platform/Instant.h"
 #include "platform/RequestUrl.h"
-#include "platform/Worker.h"
 #include "reports/ReportResponse.h"
 
 #include <chrono>
@@ -26,9 +25,9 @@ namespace vantrell {
 /// the client goes. What is asked for is read from the credentials as each request goes out.
 class ASCClient {
   public:
-    /// `origin` is a scheme and a host with no path, and the only place that a token is sent to. All
-    /// that is handed over must outlive this; `worker` unpacks the reports.
-    ASCClient(HttpClient& http, const Clock& clock, Worker& worker, std::string origin);
+    /// `origin` is a scheme and a host with no path, and the only place that a token is sent to. The others
+    /// must outlive this.
+    ASCClient(HttpClient& http, const Clock& clock, std::string origin);
     ASCClient(const ASCClient&) = delete;
     ASCClient& operator=(const ASCClient&) = delete;
 
@@ -68,7 +67,6 @@ class ASCClient {
 
     HttpClient& http_;
     const Clock& clock_;
-    Worker& worker_;
     std::string origin_;
     APICredentials credentials_;
     std::optional<CachedToken> cachedToken_;

@@ -1,5 +1,6 @@
 #include "reports/ClassifyResponse.h"
 
+#include "data/Reports.h"
 #include "platform/LowerCase.h"
 #include "platform/Utf8.h"
 
@@ -108,6 +109,7 @@ ReportResponse classifyNotFound(int status, std::string_view detail, std::string
 ReportResponse classifyResponse(int status, std::string_view body) {
     const std::string detail = detailText(body);
     std::string message = "HTTP " + std::to_string(status) + ": " + detail;
+    message.resize(cutAtCodePoint(message, mostMessageBytes).size());
     switch (status) {
         case 400:
             return classifyBadRequest(detail, std::move(message));

@@ -1,9 +1,12 @@
 #include "reports/FinanceParser.h"
 
+#include "reports/ReportCounts.h"
 #include "reports/ReportValues.h"
 
 namespace vantrell {
 namespace {
+
+constexpr std::string_view marker = "start_date";
 
 constexpr std::array<TextField<ParsedFinanceRow>, 7> textFields{{
     {"vendor_identifier", &ParsedFinanceRow::vendorIdentifier},
@@ -32,7 +35,7 @@ class FinanceRowReader {
           price_(columns.indexOf("customer_price")) {}
 
     /// False, with nothing appended, for a heading, a total or any other line that begins with no date.
-    bool append(const Cells& cells, std::vector<Row>& rows) const {
+    bool append(const Cells& cells, std::vector<Row>& rows) {
         if (!parseReportDate(cell(0, cells))) {
             return false;
         }
@@ -40,7 +43,7 @@ class FinanceRowReader {
         texts_.copy(cells, row);
         row.startDate = parseReportDate(cell(startDate_, cells)).value_or(distantPast);
         row.endDate = parseReportDate(cell(endDate_, cells)).value_or(distantPast);
-        row.quantity = parseReportInteger(cell(quantity_, cells));
+        row.quantity = counts_.read(cell(quantity_, cells));
         row.partnerShare = parseReportDecimal(cell(share_, cells));
         row.extendedPartnerShare = parseReportDecimal(cell(extendedShare_, cells));
         if (row.extendedPartnerShare.isZero()) {
@@ -53,7 +56,10 @@ class FinanceRowReader {
         return true;
     }
 
+    [[nodiscard]] const ReportCounts& counts() const { return counts_; }
+
   private:
+    ReportCounts counts_;
     TextColumns<Row, textFields.size()> texts_;
     std::size_t startDate_;
     std::size_t endDate_;
@@ -69,7 +75,11 @@ class FinanceRowReader {
 }  // namespace
 
 ParsedFinance parseFinance(std::string_view text) {
-    return readTable<FinanceRowReader>(text, "start_date");
+    return readTable<FinanceRowReader>(text, marker);
+}
+
+std::unique_ptr<ReportReader<ParsedFinanceRow>> readFinance(std::string body) {
+    return std::make_unique<BodyReader<FinanceRowReader>>(std::move(body), marker);
 }
 
 }  // namespace vantrell

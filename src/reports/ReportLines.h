@@ -19,6 +19,8 @@ class ReportLines {
 
         explicit Iterator(std::string_view text) : rest_(text) { ++*this; }
         [[nodiscard]] std::string_view operator*() const { return line_; }
+        /// What stands behind the line.
+        [[nodiscard]] std::string_view rest() const { return lastTaken_ ? std::string_view() : rest_; }
         Iterator& operator++();
         void operator++(int) { ++*this; }
         [[nodiscard]] bool operator==(std::default_sentinel_t /*end*/) const { return atEnd_; }
@@ -41,6 +43,9 @@ class ReportLines {
 [[nodiscard]] inline ReportLines reportLines(std::string_view text) {
     return ReportLines(text);
 }
+
+// Far above any report's, and little enough that what is kept of a line can be a part of it.
+inline constexpr std::size_t mostLineBytes = std::size_t{256} << 10U;
 
 using Cells = std::vector<std::string_view>;
 

@@ -1,7 +1,9 @@
 #include "reports/ReportResponse.h"
 
 #include "platform/Overloaded.h"
+#include "reports/ReportError.h"
 #include "reports/ReportLines.h"
+#include "reports/ReportText.h"
 
 #include <cstddef>
 #include <string_view>
@@ -13,12 +15,27 @@ constexpr std::string_view roleHint =
     ". Check that the key was created under Users and Access → Integrations → App Store Connect API with the "
     "Finance role (an In-App Purchase key will not work).";
 
-std::size_t dataLineCount(std::string_view text) {
+std::size_t dataLineCount(const std::string& body) {
+    ReportText text(body);
     std::size_t lines = 0;
-    for (const std::string_view line : reportLines(text)) {
-        lines += line.empty() ? 0 : 1;
+    while (const auto more = text.nextLines()) {
+        for (const std::string_view line : reportLines(*more)) {
+            lines += line.empty() ? 0 : 1;
+        }
     }
     return lines == 0 ? 0 : lines - 1;
+}
+
+std::string failureText(std::string_view message) {
+    return "Failed — " + std::string(message);
+}
+
+std::string receivedText(const std::string& body) {
+    try {
+        return "OK — report received (" + std::to_string(dataLineCount(body)) + " data lines)";
+    } catch (const ReportError& error) {
+        return failureText(error.what());
+    }
 }
 
 }  // namespace
@@ -27,10 +44,7 @@ std::string diagnosticText(const ReportResponse& response) {
     using namespace response;  // NOLINT(google-build-using-namespace)
     return std::visit(
         Overloaded{
-            [](const Success& success) {
-                return "OK — report received (" + std::to_string(dataLineCount(success.text)) +
-                       " data lines)";
-            },
+            [](const Success& success) { return receivedText(success.body); },
             [](const NotYetAvailable& pending) { return "Not published yet — " + pending.message; },
             [](const NoSales& none) { return "No sales — " + none.message; },
             [](const Gone& gone) { return "Past retention — " + gone.message; },
@@ -39,7 +53,7 @@ std::string diagnosticText(const ReportResponse& response) {
                 return "Authentication failed — " + refused.message + std::string(roleHint);
             },
             [](const RateLimited& limited) { return "Rate limited — " + limited.message; },
-            [](const Failure& failure) { return "Failed — " + failure.message; },
+            [](const Failure& failure) { return failureText(failure.message); },
         },
         response);
 }

@@ -10,7 +10,7 @@ namespace vantrell {
 namespace response {
 
 struct Success {
-    std::string text;  ///< the report, unpacked
+    std::string body;  ///< the report as it was sent, which ReportText reads
     bool operator==(const Success&) const = default;
 };
 
@@ -61,7 +61,7 @@ using ReportResponse =
     std::variant<response::Success, response::NotYetAvailable, response::NoSales, response::Gone,
                  response::WrongVersion, response::AuthFailure, response::RateLimited, response::Failure>;
 
-/// The outcome in one line for the user.
+/// The outcome in one line for the user. Reads a body that was received.
 [[nodiscard]] std::string diagnosticText(const ReportResponse& response);
 
 }  // namespace vantrell

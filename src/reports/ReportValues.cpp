@@ -5,6 +5,7 @@
 #include <charconv>
 #include <chrono>
 #include <cstddef>
+#include <limits>
 #include <string>
 #include <system_error>
 
@@ -33,10 +34,10 @@ bool isBetween(std::optional<std::int64_t> value, std::int64_t least, std::int64
     return value && *value >= least && *value <= most;
 }
 
-std::int64_t truncated(double value) {
+/// The whole part of a number; absent for one that 64 bits don't hold, also for one that is none.
+std::optional<std::int64_t> truncated(double value) {
     constexpr double limit = 0x1p63;
-    // Written so that a value that is not a number fails as well.
-    return value >= -limit && value < limit ? static_cast<std::int64_t>(value) : 0;
+    return value >= -limit && value < limit ? std::optional(static_cast<std::int64_t>(value)) : std::nullopt;
 }
 
 /// `text` without commas and outer white space; `buffer` holds it if anything inside had to go.
@@ -74,13 +75,25 @@ std::optional<Instant> parseReportDate(std::string_view text) {
     return firstOfMonth + std::chrono::days(*day - 1) + std::chrono::hours(12);
 }
 
-std::int64_t parseReportInteger(std::string_view text) {
+ReportCount parseReportCount(std::string_view text) {
     std::string buffer;
     const std::string_view number = plainNumber(text, buffer);
     if (const auto integer = wholeNumber<std::int64_t>(number)) {
-        return *integer;
+        return {*integer};
     }
-    return truncated(wholeNumber<double>(number).value_or(0));
+    if (const auto integer = truncated(wholeNumber<double>(number).value_or(0))) {
+        // The number may also be one that a double can't hold.
+        const auto exact = *integer == 0 ? Decimal::parse(number) : std::nullopt;
+        if (!exact || (*exact > Decimal(-1) && *exact < Decimal(1))) {
+            return {*integer};
+        }
+    }
+    const auto large = Decimal::parse(number);
+    if (!large) {
+        return {};  // an infinity, or not a number
+    }
+    using Limits = std::numeric_limits<std::int64_t>;
+    return {large->isNegative() ? Limits::min() : Limits::max(), false};
 }
 
 Decimal parseReportDecimal(std::string_view text) {

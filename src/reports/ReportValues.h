@@ -13,9 +13,14 @@ namespace vantrell {
 /// no dates; a day that its month doesn't have runs on into the next month.
 [[nodiscard]] std::optional<Instant> parseReportDate(std::string_view text);
 
+struct ReportCount {
+    std::int64_t value = 0;
+    bool fits = true;  ///< in 64 bits; else `value` is the nearest that does
+};
+
 /// A count. Commas are left out and a fraction is cut off: "1,200" is 1200 and "12.7" is 12. A text that is
-/// no number, and a number that doesn't fit in 64 bits, is 0.
-[[nodiscard]] std::int64_t parseReportInteger(std::string_view text);
+/// no number is 0.
+[[nodiscard]] ReportCount parseReportCount(std::string_view text);
 
 /// An amount, exactly. Commas are left out: "2,5" is 25. A text that is no number is 0.
 [[nodiscard]] Decimal parseReportDecimal(std::string_view text);

@@ -1,9 +1,12 @@
 #include "reports/SalesParser.h"
 
+#include "reports/ReportCounts.h"
 #include "reports/ReportValues.h"
 
 namespace vantrell {
 namespace {
+
+constexpr std::string_view marker = "provider";
 
 constexpr std::array<TextField<SalesRowView>, 16> textFields{{
     {"sku", &SalesRowView::sku},
@@ -24,7 +27,7 @@ constexpr std::array<TextField<SalesRowView>, 16> textFields{{
     {"order_type", &SalesRowView::orderType},
 }};
 
-/// Reads a date column, whose cells are mostly the same from line to line. The texts must stay.
+/// Reads a date column, whose cells are mostly the same from line to line.
 class DateColumn {
   public:
     explicit DateColumn(std::size_t column) : column_(column) {}
@@ -40,7 +43,7 @@ class DateColumn {
 
   private:
     std::size_t column_;
-    std::string_view lastText_;
+    std::string lastText_;
     std::optional<Instant> lastDate_;  // an empty text is no date
 };
 
@@ -67,14 +70,17 @@ class SalesRowReader {
         texts_.copy(cells, row);
         row.beginDate = *beginDate;
         row.endDate = endDate_.read(cells).value_or(*beginDate);
-        row.units = parseReportInteger(cell(units_, cells));
+        row.units = counts_.read(cell(units_, cells));
         row.proceedsPerUnit = parseReportDecimal(cell(proceeds_, cells));
         row.customerPrice = parseReportDecimal(cell(price_, cells));
         row.appleID = parseAppleIdentifier(cell(appleID_, cells));
         return true;
     }
 
+    [[nodiscard]] const ReportCounts& counts() const { return counts_; }
+
   private:
+    ReportCounts counts_;
     TextColumns<Row, textFields.size()> texts_;
     DateColumn beginDate_;
     DateColumn endDate_;
@@ -87,7 +93,11 @@ class SalesRowReader {
 }  // namespace
 
 ParsedSales parseSales(std::string_view text) {
-    return readTable<SalesRowReader>(text, "provider");
+    return readTable<SalesRowReader>(text, marker);
+}
+
+std::unique_ptr<ReportReader<SalesRowView>> readSales(std::string body) {
+    return std::make_unique<BodyReader<SalesRowReader>>(std::move(body), marker);
 }
 
 }  // namespace vantrell

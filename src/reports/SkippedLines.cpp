@@ -1,6 +1,7 @@
 #include "reports/SkippedLines.h"
 
 #include "platform/Characters.h"
+#include "platform/Utf8.h"
 
 #include <cstddef>
 
@@ -25,6 +26,12 @@ void appendSkippedLine(std::string_view line, SkippedLines& skippedLines) {
         } else {
             text += letter;
         }
+    }
+    // A character can be of any length.
+    if (text.size() > mostSampleBytes) {
+        text.resize(cutAtCodePoint(text, mostSampleBytes).size());
+        skippedLines.full = true;
+        return;
     }
     skippedLines.full = firstCharacters(text, mostCharactersThatGrow).size() < text.size();
 }

@@ -8,14 +8,14 @@ namespace {
 
 constexpr std::string_view consolidatedRegion = "ZZ";
 
-void noteDates(FinanceReport& report, const std::vector<ParsedFinanceRow>& rows) {
+void noteDates(FinanceReport& report, const std::vector<FinanceLine>& lines) {
     report.startDate.reset();
     report.endDate.reset();
-    for (const ParsedFinanceRow& row : rows) {
-        if (row.startDate > distantPast) {
-            report.startDate = std::min(report.startDate.value_or(row.startDate), row.startDate);
+    for (const FinanceLine& line : lines) {
+        if (line.startDate > distantPast) {
+            report.startDate = std::min(report.startDate.value_or(line.startDate), line.startDate);
         }
-        report.endDate = std::max(report.endDate.value_or(row.endDate), row.endDate);
+        report.endDate = std::max(report.endDate.value_or(line.endDate), line.endDate);
     }
 }
 
@@ -44,11 +44,10 @@ QCoro::Task<ReportResponse> SalesReportRequest::fetch(ASCClient& client, CancelT
     return client.fetchSales(frequency, reportDate, std::nullopt, std::move(cancel));
 }
 
-void SalesReportRequest::storeRows(ModelContext& context, SalesReport& report, const Parsed& parsed,
+void SalesReportRequest::storeRows(ModelContext& context, SalesReport& report,
                                    std::vector<SalesLine> lines) const {
+    report.rowCount = static_cast<std::int64_t>(lines.size());
     context.replaceSalesLines(report.frequencyRaw, report.reportDate, std::move(lines));
-    report.rowCount = static_cast<std::int64_t>(parsed.rows.size());
-    report.message = parsed.skippedLines;
 }
 
 void SalesReportRequest::removeRows(ModelContext& context) const {
@@ -82,12 +81,11 @@ QCoro::Task<ReportResponse> FinanceReportRequest::fetch(ASCClient& client, Cance
     return client.fetchFinance(fiscalPeriod, std::move(cancel));
 }
 
-void FinanceReportRequest::storeRows(ModelContext& context, FinanceReport& report, const Parsed& parsed,
+void FinanceReportRequest::storeRows(ModelContext& context, FinanceReport& report,
                                      std::vector<FinanceLine> lines) const {
+    report.rowCount = static_cast<std::int64_t>(lines.size());
+    noteDates(report, lines);
     context.replaceFinanceLines(report.region, report.fiscalPeriod, std::move(lines));
-    report.rowCount = static_cast<std::int64_t>(parsed.rows.size());
-    report.message = parsed.skippedLines;
-    noteDates(report, parsed.rows);
 }
 
 void FinanceReportRequest::removeRows(ModelContext& context) const {

@@ -7,8 +7,9 @@
 #include "reports/SalesParser.h"
 
 #include <cstddef>
+#include <memory>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 #include <qcoro/qcorotask.h>
@@ -19,8 +20,10 @@ namespace vantrell {
 /// differ on their way from a request to stored rows.
 struct SalesReportRequest {
     using Record = SalesReport;
-    using Parsed = ParsedSales;
+    using Row = SalesRowView;
     using Line = SalesLine;
+    /// What a row takes until it is stored.
+    static constexpr std::size_t rowBytes = sizeof(Line);
 
     ReportFrequency frequency;
     std::string reportDate;
@@ -32,12 +35,12 @@ struct SalesReportRequest {
     [[nodiscard]] static RecordTable<SalesReport>& records(ModelContext& context);
     [[nodiscard]] QCoro::Task<ReportResponse> fetch(ASCClient& client, CancelToken cancel) const;
 
-    /// What the text of the report says; needs nothing but the text.
-    [[nodiscard]] static Parsed parse(std::string_view text) { return parseSales(text); }
-    /// Replaces the stored rows with those of `parsed`, which are encoded as `lines`, and notes their number
-    /// and the skipped lines.
-    void storeRows(ModelContext& context, SalesReport& report, const Parsed& parsed,
-                   std::vector<SalesLine> lines) const;
+    /// What the body of the report says; needs nothing but the body.
+    [[nodiscard]] static std::unique_ptr<ReportReader<Row>> reader(std::string body) {
+        return readSales(std::move(body));
+    }
+    /// Replaces the stored rows with `lines`, and notes their number.
+    void storeRows(ModelContext& context, SalesReport& report, std::vector<SalesLine> lines) const;
     void removeRows(ModelContext& context) const;
     [[nodiscard]] std::int64_t lineCount(ModelContext& context) const;
 };
@@ -45,8 +48,10 @@ struct SalesReportRequest {
 /// One finance report to ask for, always of the consolidated region.
 struct FinanceReportRequest {
     using Record = FinanceReport;
-    using Parsed = ParsedFinance;
+    using Row = ParsedFinanceRow;
     using Line = FinanceLine;
+    /// What a row takes among the figures, which is more than until it is stored.
+    static constexpr std::size_t rowBytes = 448;
 
     std::string fiscalPeriod;
 
@@ -57,10 +62,11 @@ struct FinanceReportRequest {
     [[nodiscard]] static RecordTable<FinanceReport>& records(ModelContext& context);
     [[nodiscard]] QCoro::Task<ReportResponse> fetch(ASCClient& client, CancelToken cancel) const;
 
-    [[nodiscard]] static Parsed parse(std::string_view text) { return parseFinance(text); }
+    [[nodiscard]] static std::unique_ptr<ReportReader<Row>> reader(std::string body) {
+        return readFinance(std::move(body));
+    }
     /// As above, and notes the dates that the rows span.
-    void storeRows(ModelContext& context, FinanceReport& report, const Parsed& parsed,
-                   std::vector<FinanceLine> lines) const;
+    void storeRows(ModelContext& context, FinanceReport& report, std::vector<FinanceLine> lines) const;
     void removeRows(ModelContext& context) const;
     [[nodiscard]] std::int64_t lineCount(ModelContext& context) const;
 };

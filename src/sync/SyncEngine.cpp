@@ -25,7 +25,7 @@ SyncEngine::SyncEngine(const SyncEngineParts& parts, SyncEngineSettings settings
       settings_(std::move(settings)),
       calendar_(parts.clock, parts.localTime),
       keychain_(parts.secrets),
-      client_(parts.http, parts.clock, parts.worker, settings_.reportService) {
+      client_(parts.http, parts.clock, settings_.reportService) {
     take(keychain_.load());
     keychain_.whenLoadedLate([this](LoadedCredentials loaded) {
         // What was entered meanwhile is newer.

@@ -19,6 +19,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -159,12 +160,11 @@ class SyncEngine : public QObject {
   private:
     enum class Applied { stored, skipped, rateLimited };
 
-    /// What a report says. Rows may refer to the text.
+    /// What a report says.
     template <typename Request>
     struct Content {
-        std::shared_ptr<const std::string> text;
-        typename Request::Parsed parsed;
         std::vector<typename Request::Line> lines;
+        std::string message;
     };
 
     template <typename Request>
@@ -173,7 +173,9 @@ class SyncEngine : public QObject {
     template <typename Request>
     QCoro::Task<ReportStatus> syncReport(Request request, bool force);
     template <typename Request>
-    QCoro::Task<Content<Request>> read(std::shared_ptr<const std::string> text);
+    QCoro::Task<Content<Request>> read(std::string body);
+    template <typename Request>
+    QCoro::Task<> encode(std::span<typename Request::Row> rows, std::vector<typename Request::Line>& lines);
     template <typename Request>
     Applied apply(const Request& request, const ReportResponse& answer, Content<Request> content,
                   Instant started);

@@ -1,6 +1,7 @@
 #include "calendar/DayKey.h"
 #include "sync/SyncEngine.h"
 
+#include <functional>
 #include <utility>
 #include <variant>
 
@@ -37,12 +38,15 @@ QCoro::Task<std::string> SyncEngine::testConnection() {
     if (!yesterday) {
         co_return "";
     }
-    const ReportResponse answer =
+    ReportResponse answer =
         co_await client_.fetchSales(ReportFrequency::daily, dayKey(*yesterday), std::nullopt, life_.token());
     // A reasoned answer proves the key good, though there is no report to show.
     const bool accepted = std::holds_alternative<response::NotYetAvailable>(answer) ||
                           std::holds_alternative<response::NoSales>(answer);
-    co_return (accepted ? "Credentials accepted. " : "") + diagnosticText(answer);
+    // A body that was received is read beside the window.
+    std::function<std::string()> tell = [answer = std::move(answer)] { return diagnosticText(answer); };
+    const auto text = co_await worker_.run(std::move(tell), life_.token());
+    co_return (accepted ? "Credentials accepted. " : "") + text.value_or("");
 }
 
 }  // namespace vantrell

@@ -1,11 +1,14 @@
 #include "calendar/ReportSchedule.h"
 #include "platform/Characters.h"
 #include "platform/Overloaded.h"
+#include "reports/ReportError.h"
 #include "sync/SyncEngine.h"
 
 #include <algorithm>
 #include <memory>
+#include <new>
 #include <span>
+#include <stdexcept>
 #include <utility>
 
 // One report's way from its stored status through one request to its rows, new status and log line.
@@ -16,6 +19,12 @@ namespace {
 constexpr std::size_t loggedCharacters = 500;
 // A few milliseconds' work.
 constexpr std::size_t rowsAtOnce = 4'000;
+constexpr std::size_t rowsOfLongReport = 100'000;
+// What one report may take besides a few megabytes: its body, its rows, and new texts and offers, which are
+// then taken twice, by the store and by the figures.
+constexpr std::size_t mostReportBytes = std::size_t{160} << 20U;
+constexpr std::size_t mostNewBytes = std::size_t{48} << 20U;
+constexpr const char* notEnoughMemory = "There is not enough memory for the report.";
 
 }  // namespace
 
@@ -50,10 +59,20 @@ QCoro::Task<ReportStatus> SyncEngine::syncReport(Request request, bool force) {
         co_return before;
     }
     const Instant started = clock_.now();
-    ReportResponse answer = co_await request.fetch(client_, life_.token());
+    ReportResponse answer;
     Content<Request> content;
-    if (auto* const success = std::get_if<response::Success>(&answer)) {
-        content = co_await read<Request>(std::make_shared<const std::string>(std::move(success->text)));
+    // Whatever a report costs, it fails by itself.
+    try {
+        answer = co_await request.fetch(client_, life_.token());
+        if (auto* const success = std::get_if<response::Success>(&answer)) {
+            content = co_await read<Request>(std::move(success->body));
+        }
+    } catch (const ReportError& error) {
+        answer = response::Failure{error.what()};
+    } catch (const std::bad_alloc&) {
+        answer = response::Failure{notEnoughMemory};
+    } catch (const std::length_error&) {
+        answer = response::Failure{notEnoughMemory};
     }
     if (isClosing()) {
         co_return before;
@@ -77,30 +96,63 @@ QCoro::Task<ReportStatus> SyncEngine::syncReport(Request request, bool force) {
     co_return after;
 }
 
-// Parsed beside the window, then encoded in steps between which the window can move.
+// Read beside the window, a block of rows at a time. What a report that can't be kept has left in the
+// dictionaries is forgotten.
 template <typename Request>
-QCoro::Task<SyncEngine::Content<Request>> SyncEngine::read(std::shared_ptr<const std::string> text) {
-    Content<Request> content{.text = text};
-    std::function<typename Request::Parsed()> parse = [text] { return Request::parse(*text); };
-    auto parsed = co_await worker_.run(std::move(parse), life_.token());
-    if (isClosing() || !parsed) {
-        co_return content;
+QCoro::Task<SyncEngine::Content<Request>> SyncEngine::read(std::string body) {
+    Content<Request> content;
+    const std::size_t bodyBytes = body.size();
+    const DictionarySizes before = context_.dictionarySizes();
+    const std::shared_ptr<ReportReader<typename Request::Row>> reader = Request::reader(std::move(body));
+    try {
+        for (bool isLast = false; !isLast;) {
+            std::function<RowBlock<typename Request::Row>()> next = [reader] { return reader->next(); };
+            auto block = co_await worker_.run(std::move(next), life_.token());
+            if (isClosing() || !block) {
+                break;
+            }
+            const std::size_t newBytes = context_.dictionarySizes().bytes - before.bytes;
+            const std::size_t rows = content.lines.size() + block->rows.size();
+            if (newBytes > mostNewBytes ||
+                bodyBytes + newBytes + rows * Request::rowBytes > mostReportBytes) {
+                throw ReportError(ReportError::Reason::tooMuchToKeep);
+            }
+            co_await encode<Request>(block->rows, content.lines);
+            isLast = block->isLast;
+            content.message = std::move(block->message);
+        }
+    } catch (...) {
+        context_.forgetUnsaved(before);
+        throw;
     }
-    content.parsed = *std::move(parsed);
-    std::span rows(content.parsed.rows);
-    content.lines.reserve(rows.size());
+    // Only where the copy is small.
+    if (content.lines.size() < content.lines.capacity() / 8) {
+        content.lines.shrink_to_fit();
+    }
+    co_return content;
+}
+
+// In steps between which the window can move.
+template <typename Request>
+QCoro::Task<> SyncEngine::encode(std::span<typename Request::Row> rows,
+                                 std::vector<typename Request::Line>& lines) {
+    // What is never used of the room for a long report costs nothing, while growing step by step would take
+    // three times the memory.
+    const std::size_t needed = lines.size() + rows.size();
+    if (lines.capacity() < needed) {
+        lines.reserve(lines.size() < rowsOfLongReport ? 2 * needed : mostReportBytes / Request::rowBytes);
+    }
     while (!rows.empty()) {
         const std::size_t count = std::min(rows.size(), rowsAtOnce);
-        context_.encode(rows.first(count), content.lines);
+        context_.encode(rows.first(count), lines);
         rows = rows.subspan(count);
         if (!rows.empty()) {
             co_await breathe();
         }
         if (isClosing()) {
-            break;
+            co_return;
         }
     }
-    co_return content;
 }
 
 template <typename Request>
@@ -137,8 +189,8 @@ void SyncEngine::settle(const Request& request, const ReportResponse& answer, Co
     std::visit(
         Overloaded{
             [&](const response::Success&) {
-                request.storeRows(context_, report, content.parsed, std::move(content.lines));
-                report.setStatus(ReportStatus::ok);
+                request.storeRows(context_, report, std::move(content.lines));
+                attempted(ReportStatus::ok, content.message);
             },
             [&](const response::NoSales& none) {
                 request.removeRows(context_);

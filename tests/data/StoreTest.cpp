@@ -29,6 +29,22 @@ ParsedFinanceRow fullFinanceRow() {
             .customerCurrency = "USD"};
 }
 
+TEST(Store, CutsAMessageThatIsTooLongOnceAndForAll) {
+    StoreFixture store;
+    const auto messageBytes = [&store] {
+        return store.open()->salesReports().all().begin()->second.message.size();
+    };
+    ModelContext* context = store.open();
+    context->salesReports().insert({.message = std::string(1'000'000, 'x')});
+    ASSERT_EQ(context->save(), std::nullopt);
+    EXPECT_EQ(messageBytes(), mostMessageBytes);
+    context = store.open();
+    EXPECT_TRUE(context->hasChanges());
+    ASSERT_EQ(context->save(), std::nullopt);
+    EXPECT_FALSE(store.open()->hasChanges());
+    EXPECT_EQ(messageBytes(), mostMessageBytes);
+}
+
 TEST(Store, ReadsBackEveryPropertyAfterReopening) {
     StoreFixture store;
     ModelContext* context = store.open();

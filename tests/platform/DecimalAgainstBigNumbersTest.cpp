@@ -1,16 +1,15 @@
-#include "platform/Decimal.h"
-#include "platform/OpenSslOwners.h"
+#include "testing/BigDecimal.h"
 
 #include <cstdlib>
 #include <random>
 
 #include <gtest/gtest.h>
-#include <openssl/bn.h>
-
-// OpenSSL's integers of any length are the independent opinion that the fast arithmetic is held against.
 
 namespace vantrell {
 namespace {
+
+using testing::bigNumber;
+using testing::rounded;
 
 /// Whole digits, with a sign if negative, times a power of ten.
 struct BigDecimal {
@@ -40,28 +39,6 @@ class NumberSource {
 
     std::mt19937 random_;
 };
-
-OwnedNumber bigNumber(const std::string& digits, int zeros = 0) {
-    BIGNUM* number = nullptr;
-    BN_dec2bn(&number, (digits + std::string(static_cast<std::size_t>(zeros), '0')).c_str());
-    return OwnedNumber(number);
-}
-
-/// Rounded half away from zero at 38 digits, so that the program need not round while it reads.
-std::string rounded(const OwnedNumber& number, int exponent) {
-    char* text = BN_bn2dec(number.get());
-    BigDecimal result{text, exponent};
-    OPENSSL_free(text);
-    const bool negative = result.digits.front() == '-';
-    if (const std::size_t kept = negative ? 39 : 38; result.digits.size() > kept) {
-        const bool up = result.digits[kept] >= '5';
-        result.exponent += static_cast<int>(result.digits.size() - kept);
-        const auto sum = bigNumber(result.digits.substr(0, kept));
-        BN_add(sum.get(), sum.get(), bigNumber(!up ? "0" : negative ? "-1" : "1").get());
-        return rounded(sum, result.exponent);
-    }
-    return Decimal::parse(result.text())->text();
-}
 
 TEST(DecimalAgainstBigNumbers, ArithmeticIsExactOrRoundedOnceAtThirtyEightDigits) {
     constexpr int places = 250;

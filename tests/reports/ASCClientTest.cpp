@@ -42,8 +42,7 @@ class ASCClientTest : public ::testing::Test {
 
     testing::ScriptedHttp http;
     testing::ManualClock clock;
-    ImmediateWorker worker;
-    ASCClient client{http, clock, worker, "https://reports.example"};
+    ASCClient client{http, clock, "https://reports.example"};
     APICredentials credentials{"issuer", "key", generateKeyPair().privatePEM, "60419372"};
 };
 
@@ -113,16 +112,12 @@ TEST_F(ASCClientTest, AVersionThatTheCallerNamesIsKept) {
 }
 
 TEST_F(ASCClientTest, EveryOtherAnswerIsReportedAfterOneRequest) {
-    const std::string damaged =
-        std::string("\x1F\x8B\x08\x00\x00\x00\x00\x00\x00\x00", 10) + std::string(20, '\xFF');
     const struct {
         const char* name;
         HttpResult answer;
         ReportResponse expected;
     } cases[] = {
-        {"invalid UTF-8 is repaired", HttpResponse{200, "a\xFF"}, response::Success{"a\uFFFD"}},
-        {"damaged gzip", HttpResponse{200, damaged},
-         response::Failure{"The report is damaged: it could not be unpacked."}},
+        {"a body as it was sent", HttpResponse{200, "a\xFF"}, response::Success{"a\xFF"}},
         {"no content is no success", HttpResponse{204, ""}, response::Failure{"HTTP 204: "}},
         {"a redirect", HttpResponse{302, "moved"}, response::Failure{"HTTP 302: moved"}},
         {"not HTTP", HttpResponse{std::nullopt, "220 ftp"}, response::Failure{"no HTTP response"}},
@@ -178,7 +173,7 @@ TEST_F(ASCClientTest, AnUnreadableKeyIsReportedWithoutTraffic) {
 TEST_F(ASCClientTest, AnOriginThatIsNoneIsReportedWithoutTraffic) {
     for (const char* const origin : {"", "reports.example", "ftp://reports.example",
                                      "https://user@reports.example", "https://reports.example/v1"}) {
-        ASCClient lost(http, clock, worker, origin);
+        ASCClient lost(http, clock, origin);
         lost.setCredentials(credentials);
         EXPECT_TRUE(QCoro::waitFor(lost.fetchFinance("2026-11", {})) ==
                     ReportResponse(response::Failure{"could not build request URL"}))

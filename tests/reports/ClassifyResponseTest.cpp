@@ -1,3 +1,4 @@
+#include "data/Reports.h"
 #include "reports/ClassifyResponse.h"
 
 #include <string>
@@ -107,6 +108,8 @@ TEST(ClassifyResponse, AnyOtherBodyIsQuotedByItsFirst300Bytes) {
         {"megabyte", 400, megabyte, Failure{"HTTP 400: " + megabyte.substr(0, 300)}},
         {"words past the quote", 404, std::string(300, ' ') + "no sales",
          Failure{"HTTP 404: " + std::string(300, ' ')}},
+        {"a detail of a megabyte", 500, R"({"errors":[{"detail":")" + std::string(1U << 20U, '1') + R"("}]})",
+         Failure{("HTTP 500: " + std::string(1U << 20U, '1')).substr(0, mostMessageBytes)}},
         {"bottomless nesting", 502, nested(400'000), Failure{"HTTP 502: " + nested(400'000).substr(0, 300)}},
     });
 }
@@ -118,6 +121,8 @@ TEST(DiagnosticText, SaysEachOutcomeInOneLine) {
         std::string text;
     } cases[] = {
         {"header and three lines", Success{"h\na\nb\n\r\nc\n"}, "OK — report received (3 data lines)"},
+        {"damaged", Success{"\x1F\x8B\x08" + std::string(30, '\xFF')},
+         "Failed — The report is damaged: it is not a complete gzip file."},
         {"pending", NotYetAvailable{"m"}, "Not published yet — m"},
         {"none", NoSales{"m"}, "No sales — m"},
         {"gone", Gone{"m"}, "Past retention — m"},

@@ -81,6 +81,20 @@ TEST(SkippedLines, StopGrowingOnce2000CharactersAreReached) {
     EXPECT_EQ(sample.text, std::string(1'999, 'x') + "\n" + std::string(5'000, 'y'));
 }
 
+TEST(SkippedLines, TakeABoundedPartOfALine) {
+    for (const std::string_view letter : {"x", "\t", "e\u0301\u0301\u0301\u0301"}) {
+        SkippedLines sample;
+        std::string line;
+        while (line.size() < mostLineBytes) {
+            line += letter;
+        }
+        appendSkippedLine(line, sample);
+        appendSkippedLine(line, sample);
+        EXPECT_LE(sample.text.size(), mostSampleBytes);
+        EXPECT_TRUE(sample.full);
+    }
+}
+
 TEST(SkippedLines, CountCharactersAndNotBytes) {
     SkippedLines sample;
     for (int line = 0; line < 3'000; ++line) {

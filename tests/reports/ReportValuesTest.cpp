@@ -41,27 +41,37 @@ TEST(ReportDate, AnythingElseIsNone) {
     EXPECT_EQ(parseReportDate("8/14/99999999999999999999"), std::nullopt);
 }
 
-TEST(ReportInteger, ReadsCountsWithoutTheirFractionsAndAnythingElseAsZero) {
+TEST(ReportCount, ReadsCountsWithoutTheirFractionsAndAnythingElseAsZero) {
     const struct {
         std::string_view text;
         std::int64_t value;
-    } cases[] = {{"-3", -3},     {"+5", 5},    {"1,200", 1'200}, {",1,2,", 12},    {" \u00A042\t", 42},
-                 {"-12.7", -12}, {"+.9", 0},   {".70", 0},       {"1.5e3", 1'500}, {"", 0},
-                 {" ", 0},       {"-", 0},     {"--1", 0},       {"-+1", 0},       {"1 2", 0},
-                 {"12a", 0},     {"1e", 0},    {"0x10", 0},      {"e5", 0},        {"inf", 0},
-                 {"nan", 0},     {"1e400", 0}, {"1e-400", 0},    {"\u0661", 0}};
+    } cases[] = {{"-3", -3},     {"+5", 5},     {"1,200", 1'200}, {",1,2,", 12},    {" \u00A042\t", 42},
+                 {"-12.7", -12}, {"+.9", 0},    {".70", 0},       {"1.5e3", 1'500}, {"", 0},
+                 {" ", 0},       {"-", 0},      {"--1", 0},       {"-+1", 0},       {"1 2", 0},
+                 {"12a", 0},     {"1e", 0},     {"0x10", 0},      {"e5", 0},        {"inf", 0},
+                 {"nan", 0},     {"1e-400", 0}, {"\u0661", 0}};
     for (const auto& [text, value] : cases) {
-        EXPECT_EQ(parseReportInteger(text), value) << text;
+        EXPECT_EQ(parseReportCount(text).value, value) << text;
+        EXPECT_TRUE(parseReportCount(text).fits) << text;
     }
 }
 
-TEST(ReportInteger, KeepsEveryNumberOfSixtyFourBits) {
-    EXPECT_EQ(parseReportInteger("9223372036854775807"), highest);
-    EXPECT_EQ(parseReportInteger("-9223372036854775808.0"), lowest);
-    EXPECT_EQ(parseReportInteger("9223372036854774784.0"), 9'223'372'036'854'774'784);
-    EXPECT_EQ(parseReportInteger("9223372036854775808"), 0);
-    EXPECT_EQ(parseReportInteger("-9223372036854777856"), 0);
-    EXPECT_EQ(parseReportInteger(std::string(400, '9')), 0);
+TEST(ReportCount, KeepsEveryNumberOfSixtyFourBitsAndTheNearestToAnyOther) {
+    const struct {
+        std::string text;
+        std::int64_t value;
+        bool fits;
+    } cases[] = {{"9223372036854775807", highest, true},
+                 {"-9223372036854775808.0", lowest, true},
+                 {"9223372036854774784.0", 9'223'372'036'854'774'784, true},
+                 {"9,223,372,036,854,775,808", highest, false},
+                 {"-9223372036854777856", lowest, false},
+                 {"1e400", highest, false},
+                 {std::string(400, '9'), highest, false}};
+    for (const auto& [text, value, fits] : cases) {
+        EXPECT_EQ(parseReportCount(text).value, value) << text;
+        EXPECT_EQ(parseReportCount(text).fits, fits) << text;
+    }
 }
 
 TEST(ReportDecimal, IsExactAndKnowsOnlyThePoint) {

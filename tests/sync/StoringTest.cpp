@@ -57,6 +57,48 @@ TEST(StoringAReport, TurnsEachAnswerIntoStatusRowsAndALogLineAndNeverLosesRowsTo
     }
 }
 
+TEST(StoringAReport, FailsByItselfWhereItCostsTooMuchAndLeavesNothingBehind) {
+    const std::string header = "Provider\tSKU\tTitle\tUnits\tBegin Date\tEnd Date\n";
+    std::string manyTexts = header;
+    for (int line = 0; line < 170'000; ++line) {
+        manyTexts += "\t" + std::to_string(line) + "\t\t\t1/1/2026\t\n";
+    }
+    const struct {
+        const char* name;
+        std::string body;
+        const char* message;
+    } cases[] = {
+        {"too long a line behind good ones", header + "\tnew\t\t\t1/1/2026\t\n" + std::string(1U << 20U, 'x'),
+         "The report has a line that is too long."},
+        {"too many new texts", manyTexts, "The report holds more than can be kept."},
+        {"no memory", "", "There is not enough memory for the report."},
+    };
+    for (const auto& [name, body, message] : cases) {
+        EngineFixture fixture;
+        fixture.store(ReportFrequency::daily, day, ReportStatus::ok);
+        fixture.answers[std::string("DAILY ") + day] = HttpResponse{200, body};
+        fixture.worker.isOutOfMemory = body.empty();
+        const std::size_t texts = fixture.context().texts().size();
+        fixture.run(fixture.engine().refetchDay(*dateFromDayKey(day)));
+        EXPECT_EQ(fixture.daily(day).status(), ReportStatus::error) << name;
+        EXPECT_EQ(fixture.daily(day).message, message) << name;
+        EXPECT_EQ(fixture.context().fetchSalesRows().size(), 1U) << name;
+        EXPECT_EQ(fixture.context().texts().size(), texts) << name;
+        EXPECT_FALSE(fixture.engine().isSyncing()) << name;
+    }
+}
+
+TEST(StoringAReport, TellsOfCountsThatAreTooLarge) {
+    EngineFixture fixture;
+    fixture.answers[std::string("DAILY ") + day] = HttpResponse{
+        200,
+        "Provider\tSKU\tTitle\tUnits\tBegin Date\tEnd Date\n"
+        "\ta\t\t9223372036854775807\t1/1/2026\t\n\ta\t\t9223372036854775807\t1/1/2026\t\nTotal\n"};
+    fixture.run(fixture.engine().refetchDay(*dateFromDayKey(day)));
+    EXPECT_EQ(fixture.daily(day).message,
+              "The counts add up to more than can be shown; the largest that can be stands for them.\nTotal");
+}
+
 TEST(StoringAReport, StopsTheRunAtARateLimitAndLeavesTheReportAsItWas) {
     EngineFixture fixture;
     fixture.store(ReportFrequency::daily, day, ReportStatus::error);

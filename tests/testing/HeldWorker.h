@@ -3,6 +3,7 @@
 #include "platform/Worker.h"
 
 #include <coroutine>
+#include <new>
 
 namespace vantrell::testing {
 
@@ -10,6 +11,7 @@ namespace vantrell::testing {
 class HeldWorker final : public Worker {
   public:
     bool isHeld = false;
+    bool isOutOfMemory = false;
     [[nodiscard]] bool hasWork() const { return static_cast<bool>(*waiting_); }
     void release() { wake(*waiting_); }
 
@@ -19,6 +21,9 @@ class HeldWorker final : public Worker {
             const auto registration = cancel.onCancel([waiting = waiting_] { wake(*waiting); });
             const Wait wait{waiting_};
             co_await wait;
+        }
+        if (isOutOfMemory) {
+            throw std::bad_alloc();
         }
         if (!cancel.isCancelled()) {
             job();

@@ -16,6 +16,7 @@ STORAGE = ["storage.py", "--program", "{program}", "--shim", SHIM]
 # Name -> script of this folder with its arguments; --short is added.
 HARNESSES = {
     "storage": [*STORAGE, "kills", "faults", "power", "random", "disks", "races", "shown"],
+    "fuzzing": ["fuzzing.py"],
     "bad-stores": [*STORAGE, "bad"],
     "monkey": ["monkey.py", "--tests", "{tests}"],
     "secrets": ["secrets.py", "--program", "{program}"],

@@ -1,6 +1,6 @@
-#include "reports/Gunzip.h"
+#include "reports/GzipMember.h"
 
-#include "platform/Inflate.h"
+#include "reports/ReportError.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -50,47 +50,18 @@ std::size_t streamStart(std::string_view data) {
     return cursor;
 }
 
-const char* description(GunzipError::Reason reason) {
-    switch (reason) {
-        case GunzipError::Reason::corruptContainer:
-            return "The report is damaged: it is not a complete gzip file.";
-        case GunzipError::Reason::corruptStream:
-            return "The report is damaged: it could not be unpacked.";
-        case GunzipError::Reason::tooLarge:
-            return "The report is too large to unpack.";
-    }
-    return "";
-}
-
-GunzipError::Reason reason(InflateError error) {
-    switch (error) {
-        case InflateError::corrupt:
-            return GunzipError::Reason::corruptStream;
-        case InflateError::tooLarge:
-            return GunzipError::Reason::tooLarge;
-    }
-    return GunzipError::Reason::corruptStream;
-}
-
 }  // namespace
 
-GunzipError::GunzipError(Reason reason) : std::runtime_error(description(reason)), reason_(reason) {}
-
-std::string gunzipIfNeeded(std::string data, std::size_t maxBytes) {
+std::optional<std::string_view> gzipStream(std::string_view data) {
     if (!looksLikeGzip(data)) {
-        return data;
+        return std::nullopt;
     }
-    const std::string_view bytes = data;
-    const std::size_t start = streamStart(bytes);
-    const std::size_t end = bytes.size() - trailerBytes;
+    const std::size_t start = streamStart(data);
+    const std::size_t end = data.size() - trailerBytes;
     if (start >= end) {
-        throw GunzipError(GunzipError::Reason::corruptContainer);
+        throw ReportError(ReportError::Reason::corruptContainer);
     }
-    Inflated inflated = inflateRaw(bytes.substr(start, end - start), maxBytes);
-    if (inflated.error) {
-        throw GunzipError(reason(*inflated.error));
-    }
-    return std::move(inflated.bytes);
+    return data.substr(start, end - start);
 }
 
 }  // namespace vantrell

@@ -1,0 +1,37 @@
+#include "Require.h"
+#include "Targets.h"
+#include "data/ModelContainer.h"
+#include "earnings/SalesSnapshot.h"
+#include "testing/TemporaryFolder.h"
+
+#include <fstream>
+
+namespace vantrell::fuzz {
+
+/// Any bytes open as what they hold or not at all.
+void storeFile(const std::string& input) {
+    static const testing::TemporaryFolder folder;
+    const auto file = folder / "vantrell.sqlite";
+    for (const char* suffix : {"", "-journal", "-wal", "-shm"}) {
+        std::filesystem::remove(file.string() + suffix);
+    }
+    std::ofstream(file, std::ios::binary) << input;
+    auto opened = ModelContainer::open({file, CloudDatabase::none, {}});
+    if (const auto* error = std::get_if<StoreError>(&opened)) {
+        require(!error->description.empty());
+        return;
+    }
+    ModelContext& context = std::get<std::unique_ptr<ModelContainer>>(opened)->mainContext();
+    try {
+        static_cast<void>(context.fetchSalesRows());
+        static_cast<void>(context.fetchFinanceRows());
+    } catch (const SqliteError&) {
+        // Lines that can't be read are told of elsewhere.
+    }
+    SalesSnapshot snapshot;
+    static_cast<void>(snapshot.load(context, 1));
+    context.syncLog().insert({});
+    static_cast<void>(context.save());
+}
+
+}  // namespace vantrell::fuzz
