@@ -34,7 +34,7 @@ std::pair<std::string, int> parts(std::string_view text) {
 /// The same digits, cut off where numbers of that size would only cost time.
 bool isSmall(std::string_view text) {
     const std::size_t mark = text.find_first_of("eE");
-    return text.size() < 80 && (mark == std::string_view::npos || text.size() - mark <= 4);
+    return text.size() < 80 && (mark == std::string_view::npos || text.size() - mark <= 3);
 }
 
 }  // namespace
