@@ -1,5 +1,7 @@
 #include "data/FileCheck.h"
 
+#include "data/StoreFailures.h"
+
 #include <array>
 #include <string_view>
 
@@ -12,25 +14,44 @@ struct Question {
     const char* sql;
 };
 
-// A number that was never given reads as the empty text or offer, which would be a silent zero.
+// A number that was never given reads as the empty text or offer, and what is no number as one: a silent
+// zero.
 constexpr std::array questions{
+    Question{"a text is no text", "SELECT 1 FROM text WHERE typeof(value) <> 'text' LIMIT 1"},
     Question{"lines of sales reports refer to what is missing",
              "SELECT 1 FROM sales_line, (SELECT coalesce(max(id), 0) AS last FROM text) AS text,"
              " (SELECT coalesce(max(id), 0) AS last FROM sales_offer) AS offers"
-             " WHERE offer > offers.last OR typeof(beginDate) <> 'integer' OR typeof(offer) <> 'integer'"
-             " OR typeof(units) <> 'integer' OR typeof(endDate) <> 'integer'"
-             " OR coalesce(max(country, version, promoCode, subscription, period, device, platforms,"
-             " proceedsReason, client, orderType) > text.last, TRUE) LIMIT 1"},
-    Question{"products of sales reports refer to what is missing",
+             " WHERE typeof(beginDate) <> 'integer' OR typeof(offer) <> 'integer'"
+             " OR typeof(units) <> 'integer' OR typeof(country) <> 'integer' OR typeof(endDate) <> 'integer'"
+             " OR offer NOT BETWEEN 0 AND offers.last"
+             " OR NOT coalesce(max(country, version, promoCode, subscription, period, device, platforms,"
+             " proceedsReason, client, orderType) <= text.last"
+             " AND min(country, version, promoCode, subscription, period, device, platforms,"
+             " proceedsReason, client, orderType) >= 0, FALSE) LIMIT 1"},
+    Question{"products of sales reports can't be read",
              "SELECT 1 FROM sales_offer, (SELECT coalesce(max(id), 0) AS last FROM text) AS text"
-             " WHERE proceedsPerUnit IS NULL OR customerPrice IS NULL"
-             " OR coalesce(max(sku, title, productType, parentSKU, proceedsCurrency, customerCurrency)"
-             " > text.last, TRUE) LIMIT 1"},
-    Question{"lines of finance reports refer to what is missing",
+             " WHERE typeof(sku) <> 'integer' OR typeof(title) <> 'integer'"
+             " OR typeof(productType) <> 'integer' OR typeof(parentSKU) <> 'integer'"
+             " OR typeof(proceedsCurrency) <> 'integer' OR typeof(customerCurrency) <> 'integer'"
+             " OR typeof(appleID) <> 'integer'"
+             " OR max(sku, title, productType, parentSKU, proceedsCurrency, customerCurrency) > text.last"
+             " OR min(sku, title, productType, parentSKU, proceedsCurrency, customerCurrency) < 0"
+             " OR CASE typeof(proceedsPerUnit) WHEN 'integer' THEN FALSE"
+             " WHEN 'text' THEN proceedsPerUnit NOT GLOB '*[0-9]*' OR proceedsPerUnit GLOB '*[^-+.E0-9]*'"
+             " ELSE TRUE END"
+             " OR typeof(customerPrice) NOT IN ('integer', 'text') LIMIT 1"},
+    Question{"lines of finance reports can't be read",
              "SELECT 1 FROM finance_line, (SELECT coalesce(max(id), 0) AS last FROM text) AS text"
-             " WHERE typeof(quantity) <> 'integer' OR extendedPartnerShare IS NULL"
-             " OR coalesce(max(vendorIdentifier, title, productType, partnerShareCurrency, saleOrReturn,"
-             " country, promoCode, customerCurrency) > text.last, TRUE) LIMIT 1"},
+             " WHERE typeof(quantity) <> 'integer' OR typeof(partnerShareCurrency) <> 'integer'"
+             " OR typeof(title) <> 'integer' OR typeof(country) <> 'integer'"
+             " OR typeof(saleOrReturn) <> 'integer' OR typeof(appleID) <> 'integer'"
+             " OR NOT coalesce(max(vendorIdentifier, title, productType, partnerShareCurrency,"
+             " saleOrReturn, country, promoCode, customerCurrency) <= text.last"
+             " AND min(vendorIdentifier, title, productType, partnerShareCurrency,"
+             " saleOrReturn, country, promoCode, customerCurrency) >= 0, FALSE)"
+             " OR CASE typeof(extendedPartnerShare) WHEN 'integer' THEN FALSE"
+             " WHEN 'text' THEN extendedPartnerShare NOT GLOB '*[0-9]*'"
+             " OR extendedPartnerShare GLOB '*[^-+.E0-9]*' ELSE TRUE END LIMIT 1"},
 };
 
 }  // namespace
@@ -50,7 +71,7 @@ std::optional<std::string> FileCheck::run() {
             }
         }
     } catch (const SqliteError& error) {
-        return error.what();
+        return storeError(error).description;
     }
     return std::nullopt;
 }

@@ -1,6 +1,8 @@
 #include "data/StoreFailures.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <string>
 
 #include <sqlite3.h>
 
@@ -52,6 +54,13 @@ StoreFailure failureOf(const SqliteError& error) {
     }
 }
 
+// SQLite quotes what a damaged file holds, which may be anything.
+std::string readable(std::string words) {
+    std::ranges::replace_if(
+        words, [](char letter) { return letter < ' ' || letter > '~'; }, '?');
+    return words;
+}
+
 }  // namespace
 
 StoreError storeInUse() {
@@ -60,7 +69,7 @@ StoreError storeInUse() {
 
 StoreError storeError(const SqliteError& error) {
     const StoreFailure failure = failureOf(error);
-    return failure == StoreFailure::inUse ? storeInUse() : StoreError{error.what(), failure};
+    return failure == StoreFailure::inUse ? storeInUse() : StoreError{readable(error.what()), failure};
 }
 
 }  // namespace vantrell
