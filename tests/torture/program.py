@@ -88,6 +88,7 @@ class Service:
 
         server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
         server.daemon_threads = True
+        server.handle_error = lambda *_: None  # a program that was killed
         threading.Thread(target=server.serve_forever, daemon=True).start()
         self.origin = f"http://127.0.0.1:{server.server_address[1]}"
 
@@ -132,7 +133,7 @@ class Program:
             command, env=environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE
         )
 
-    def finish(self, process, seconds=60):
+    def finish(self, process, seconds=240):
         try:
             output, errors = process.communicate(timeout=seconds)
         except subprocess.TimeoutExpired:
