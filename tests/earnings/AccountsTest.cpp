@@ -1,4 +1,4 @@
-#include "AccountFile.h"
+#include "testing/AccountFile.h"
 #include "testing/Golden.h"
 
 #include <iomanip>
@@ -149,8 +149,9 @@ TEST(Accounts, AreToldAsInTheFilesBesideThem) {
     for (std::filesystem::path file : files) {
         SCOPED_TRACE(file);
         EarningsFixture fixture;
-        const AccountFile account(file, fixture);
-        const EarningsStore& store = fixture.store();
+        const AccountFile account(file);
+        account.storeIn(fixture);
+        const EarningsStore& store = fixture.reload();
         testing::expectMatchesFile(wholeAccount(store) + "\nWITHOUT A FILTER\n" + ofApps(store, account, {}) +
                                        "\nOF THE CHOSEN APPS\n" + ofApps(store, account, account.apps) +
                                        "\nOF NO APP\n" + ofApps(store, account, std::set<std::int64_t>{}),

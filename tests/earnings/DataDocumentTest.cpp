@@ -1,7 +1,7 @@
 #include "earnings/Exports.h"
 #include "platform/Sqlite.h"
+#include "testing/AccountFile.h"
 #include "testing/CsvRecords.h"
-#include "testing/EarningsFixture.h"
 
 #include <fstream>
 #include <map>
@@ -55,19 +55,7 @@ std::map<std::string, std::string> column(const std::string& csv, std::size_t in
 
 TEST(DataDocument, ShowsQueriesThatAgreeWithTheExports) {
     EarningsFixture fixture;
-    fixture.daily("2026-11-20", {{.units = 3, .proceeds = "1.4", .currency = "EUR"},
-                                 {.units = -1, .proceeds = "0.333333", .currency = "EUR"},
-                                 {.units = 2, .proceeds = "120", .currency = "JPY"},
-                                 {.productType = "7", .units = 9},
-                                 {.proceeds = "0", .currency = ""}});
-    fixture.daily("2026-11-19", {{.units = -5, .proceeds = "0.07"}});
-    fixture.report(ReportFrequency::daily, "2026-11-18", {}, ReportStatus::empty);
-    fixture.report(ReportFrequency::monthly, "2026-10", {{.units = 100}});
-    ParsedFinanceRow paid{.extendedPartnerShare = *Decimal::parse("12.5"), .partnerShareCurrency = "EUR"};
-    ParsedFinanceRow returned{.extendedPartnerShare = *Decimal::parse("-0.7"), .partnerShareCurrency = "EUR"};
-    ParsedFinanceRow yen{.extendedPartnerShare = Decimal(980), .partnerShareCurrency = "JPY"};
-    fixture.context().replaceFinanceRows("ZZ", "2026-12", {paid, returned, yen});
-    fixture.context().replaceFinanceRows("ZZ", "2027-01", {paid});
+    testing::AccountFile(VANTRELL_TEST_DATA "/data-document.account").storeIn(fixture);
     EarningsStore& store = fixture.reload();
     const auto queries = documentedQueries();
     ASSERT_EQ(queries.size(), 3U);

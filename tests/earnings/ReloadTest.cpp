@@ -13,15 +13,6 @@ namespace {
 using testing::EarningsFixture;
 using testing::Line;
 
-TEST(Reload, OfAnEmptyStoreIsLoadedAndEmpty) {
-    EarningsFixture fixture;
-    EXPECT_FALSE(fixture.store().isLoaded());
-    fixture.reload();
-    EXPECT_TRUE(fixture.store().isLoaded());
-    EXPECT_TRUE(fixture.store().salesRows().empty());
-    EXPECT_EQ(fixture.store().loadRevision(), 1);
-}
-
 TEST(Reload, ReadsUnknownTextsAsDailyAndMissing) {
     EarningsFixture fixture;
     fixture.context().replaceSalesRows("HOURLY", "2026-11-20", {testing::sale(1, "5")});

@@ -124,13 +124,5 @@ TEST(ChartFrame, FindsTheColumnUnderAPointOfThePlot) {
     EXPECT_EQ(ChartFrame().columnAt(0), std::nullopt);
 }
 
-TEST(SeriesColor, IsGrayForWhatHasNoPlaceInThePalette) {
-    EXPECT_EQ(seriesColor(7).light, QColor(0xE3, 0x49, 0x48));
-    EXPECT_EQ(seriesColor(7).dark, QColor(0xE6, 0x67, 0x67));
-    for (const std::optional<int> index : {std::optional<int>(), std::optional(8), std::optional(-1)}) {
-        EXPECT_EQ(seriesColor(index).light.alpha(), 153);
-    }
-}
-
 }  // namespace
 }  // namespace vantrell

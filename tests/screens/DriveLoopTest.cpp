@@ -42,14 +42,6 @@ class DriveLoopTest : public ::testing::Test {
     std::int64_t seen = 0;
 };
 
-TEST_F(DriveLoopTest, ReadsAndRunsOnTheFirstAppearance) {
-    EXPECT_EQ(reloads(), 0);
-    loop->start();
-    EXPECT_GE(reloads(), 1);
-    EXPECT_EQ(runsBegun(), 1U);
-    EXPECT_TRUE(store.isLoaded());
-}
-
 TEST_F(DriveLoopTest, GoesRoundEvery900SecondsAndRunsEvery4Hours) {
     loop->start();
     fixture.clock.advance(std::chrono::seconds(899));

@@ -40,14 +40,8 @@ ParsedFinanceRow row(const Payment& payment) {
 
 }  // namespace
 
-EarningsFixture::EarningsFixture(const std::string& vfs) : context_(file_.open(vfs)), earnings_(another()) {}
-
-std::unique_ptr<EarningsStore> EarningsFixture::another() {
-    return std::make_unique<EarningsStore>(defaults, locale_, calendar_);
-}
-
-void EarningsFixture::report(ReportFrequency frequency, const std::string& date,
-                             const std::vector<Line>& lines, ReportStatus status) {
+void ShortReports::report(ReportFrequency frequency, const std::string& date, const std::vector<Line>& lines,
+                          ReportStatus status) {
     std::vector<SalesRowView> rows;
     rows.reserve(lines.size());
     for (const Line& line : lines) {
@@ -56,23 +50,23 @@ void EarningsFixture::report(ReportFrequency frequency, const std::string& date,
     parsedReport(frequency, date, rows, status);
 }
 
-void EarningsFixture::parsedReport(ReportFrequency frequency, const std::string& date,
-                                   const std::vector<SalesRowView>& rows, ReportStatus status) {
+void ShortReports::parsedReport(ReportFrequency frequency, const std::string& date,
+                                const std::vector<SalesRowView>& rows, ReportStatus status) {
     const std::string raw(rawText(frequency));
-    context_->replaceSalesRows(raw, date, rows);
+    context().replaceSalesRows(raw, date, rows);
     SalesReport record;
     record.frequencyRaw = raw;
     record.reportDate = date;
     record.setStatus(status);
-    if (const auto known = context_->salesReports().find(salesReportKey(raw, date))) {
-        context_->salesReports().update(known->id, record);
+    if (const auto known = context().salesReports().find(salesReportKey(raw, date))) {
+        context().salesReports().update(known->id, record);
     } else {
-        context_->salesReports().insert(record);
+        context().salesReports().insert(record);
     }
 }
 
-void EarningsFixture::payments(const std::string& fiscalPeriod, const std::vector<Payment>& lines,
-                               ReportStatus status) {
+void ShortReports::payments(const std::string& fiscalPeriod, const std::vector<Payment>& lines,
+                            ReportStatus status) {
     std::vector<ParsedFinanceRow> rows;
     rows.reserve(lines.size());
     for (const Payment& line : lines) {
@@ -81,17 +75,23 @@ void EarningsFixture::payments(const std::string& fiscalPeriod, const std::vecto
     parsedPayments(fiscalPeriod, rows, status);
 }
 
-void EarningsFixture::parsedPayments(const std::string& fiscalPeriod,
-                                     const std::vector<ParsedFinanceRow>& rows, ReportStatus status) {
-    context_->replaceFinanceRows("ZZ", fiscalPeriod, rows);
+void ShortReports::parsedPayments(const std::string& fiscalPeriod, const std::vector<ParsedFinanceRow>& rows,
+                                  ReportStatus status) {
+    context().replaceFinanceRows("ZZ", fiscalPeriod, rows);
     FinanceReport record;
     record.fiscalPeriod = fiscalPeriod;
     record.setStatus(status);
-    context_->financeReports().insert(record);
+    context().financeReports().insert(record);
 }
 
-void EarningsFixture::rates(const Rates& rates) {
-    context_->rateSets().insert({.fetchedAt = clock.now(), .rates = rates});
+void ShortReports::rates(const Rates& rates) {
+    context().rateSets().insert({.fetchedAt = ManualClock().now(), .rates = rates});
+}
+
+EarningsFixture::EarningsFixture(const std::string& vfs) : context_(file_.open(vfs)), earnings_(another()) {}
+
+std::unique_ptr<EarningsStore> EarningsFixture::another() {
+    return std::make_unique<EarningsStore>(defaults, locale_, calendar_);
 }
 
 EarningsStore& EarningsFixture::reload() {

@@ -37,14 +37,10 @@ struct Payment {
     std::string end;
 };
 
-/// An EarningsStore over a real store, on 22 November 2026 at noon UTC in Berlin, in US dollars.
-class EarningsFixture {
+/// Writes reports down in short.
+class ShortReports {
   public:
-    explicit EarningsFixture(const std::string& vfs = {});
-
-    EarningsStore& store() { return *earnings_; }
-    ModelContext& context() { return *context_; }
-    [[nodiscard]] std::filesystem::path file() const { return file_.file(); }
+    [[nodiscard]] virtual ModelContext& context() = 0;
 
     /// Puts a report with these lines and status ok into the store, in place of what was there.
     void report(ReportFrequency frequency, const std::string& date, const std::vector<Line>& lines,
@@ -60,6 +56,20 @@ class EarningsFixture {
     void parsedPayments(const std::string& fiscalPeriod, const std::vector<ParsedFinanceRow>& rows,
                         ReportStatus status = ReportStatus::ok);
     void rates(const Rates& rates);
+
+  protected:
+    ~ShortReports() = default;
+};
+
+/// An EarningsStore over a real store, on 22 November 2026 at noon UTC in Berlin, in US dollars.
+class EarningsFixture final : public ShortReports {
+  public:
+    explicit EarningsFixture(const std::string& vfs = {});
+
+    EarningsStore& store() { return *earnings_; }
+    ModelContext& context() override { return *context_; }
+    [[nodiscard]] std::filesystem::path file() const { return file_.file(); }
+
     /// Saves and reloads.
     EarningsStore& reload();
     /// A second EarningsStore that has read nothing yet.

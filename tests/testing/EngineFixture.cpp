@@ -31,6 +31,9 @@ std::string shortForm(const HttpRequest& request) {
     if (url.path() == QStringLiteral("/v1/financeReports")) {
         return "FINANCE " + item("filter[reportDate]");
     }
+    if (url.path() == QStringLiteral("/lookup")) {
+        return "icons " + item("id");
+    }
     return "rates";
 }
 

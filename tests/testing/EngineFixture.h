@@ -35,7 +35,7 @@ class EngineFixture {
     /// The engine goes away as at the end of the program; the store stays.
     void destroyEngine() { engine_.reset(); }
 
-    /// What was asked, in short: "DAILY 2026-11-21", "FINANCE 2027-01", "rates".
+    /// What was asked, in short: "DAILY 2026-11-21", "FINANCE 2027-01", "rates", "icons 1,2".
     [[nodiscard]] std::vector<std::string> requests() const;
     /// Likewise, without what stands before and from then on.
     std::vector<std::string> takeRequests();

@@ -10,30 +10,19 @@
 namespace vantrell::testing {
 namespace {
 
-using Lines = std::vector<std::string>;
-
-Lines linesOf(const std::string& text) {
-    Lines lines;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);) {
-        lines.push_back(line);
-    }
-    return lines;
-}
-
-/// The lines between the first and the last that differ.
-std::string difference(const Lines& expected, const Lines& actual) {
-    const auto [left, right] = std::ranges::mismatch(expected, actual);
-    auto leftEnd = expected.end();
-    auto rightEnd = actual.end();
-    while (leftEnd != left && rightEnd != right && *std::prev(leftEnd) == *std::prev(rightEnd)) {
-        --leftEnd;
-        --rightEnd;
-    }
-    std::string text = "from line " + std::to_string(left - expected.begin() + 1) + '\n';
-    std::for_each(left, leftEnd, [&text](const auto& line) { text += "- " + line + '\n'; });
-    std::for_each(right, rightEnd, [&text](const auto& line) { text += "+ " + line + '\n'; });
-    return text;
+/// The first line that differs, in both.
+std::string difference(const std::string& expected, const std::string& actual) {
+    std::istringstream left(expected);
+    std::istringstream right(actual);
+    std::string expectedLine;
+    std::string actualLine;
+    int number = 0;
+    do {
+        ++number;
+        expectedLine = std::getline(left, expectedLine) ? expectedLine : "(the end)";
+        actualLine = std::getline(right, actualLine) ? actualLine : "(the end)";
+    } while (expectedLine == actualLine && left && right);
+    return "from line " + std::to_string(number) + "\n- " + expectedLine + "\n+ " + actualLine;
 }
 
 std::filesystem::path keep(const std::string& actual, const std::filesystem::path& expected) {
@@ -68,7 +57,7 @@ void expectMatchesFile(const std::string& actual, const std::filesystem::path& e
     const std::string wanted = std::filesystem::exists(expected) ? fileText(expected) : std::string();
     if (actual != wanted || !std::filesystem::exists(expected)) {
         ADD_FAILURE() << "not as in " << expected << ", see " << keep(actual, expected) << '\n'
-                      << difference(linesOf(wanted), linesOf(actual));
+                      << difference(wanted, actual);
     }
 }
 

@@ -14,13 +14,32 @@ namespace vantrell::testing {
 ///         share=7.5; start=2026-08-30
 ///     days 2026-11-19 2026-11-21
 ///     apps 1 2
-struct AccountFile {
-    /// Puts the reports into the store and loads it.
-    AccountFile(const std::filesystem::path& file, EarningsFixture& fixture);
+///     locale de_DE
+///
+/// A line that begins with ">" ends it.
+class AccountFile {
+  public:
+    explicit AccountFile(const std::filesystem::path& file);
+
+    void storeIn(ShortReports& store) const;
 
     std::string firstDay = "2026-11-15";
     std::string lastDay = "2026-11-21";
     std::set<std::int64_t> apps{1};
+    std::string locale = "en_US";
+
+  private:
+    /// A report's heading with the lines that follow it.
+    struct Report {
+        std::string kind;
+        std::string date;
+        std::string status = "ok";
+        std::vector<std::string> lines;
+    };
+    static void storeReport(ShortReports& store, const Report& report);
+
+    Rates rates_;
+    std::vector<Report> reports_;
 };
 
 }  // namespace vantrell::testing

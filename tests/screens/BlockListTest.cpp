@@ -1,6 +1,4 @@
-#include "BlockText.h"
-#include "TablesFixture.h"
-#include "screens/HistoryView.h"
+#include "screens/BlockList.h"
 
 #include <QAbstractItemModelTester>
 
@@ -8,22 +6,6 @@
 
 namespace vantrell {
 namespace {
-
-TEST(HistoryView, ShowsYearsMonthsAndProductsOfTheChosenApps) {
-    testing::TablesFixture fixture;
-    fixture.report(ReportFrequency::yearly, "2024", {{.proceeds = "100", .title = "Pad"}});
-    fixture.report(ReportFrequency::monthly, "2026-08", {{.proceeds = "7", .title = "Pad"}});
-    fixture.daily("2026-11-20", {{.appleID = 2, .proceeds = "5", .title = "Note", .sku = "note"}});
-    HistoryView history(fixture.parts());
-    history.setInSight(true);
-    fixture.reload().setAppFilter(std::set<std::int64_t>{1});
-    testing::expectShown(*history.rows(), "history.txt");
-    for (const char* year : {"2014", "2015"}) {
-        fixture.report(ReportFrequency::yearly, year, {}, ReportStatus::unavailable);
-    }
-    fixture.reload();
-    testing::expectShown(*history.rows(), "history-past-retention.txt");
-}
 
 std::vector<BlockRow> rowsOf(const std::string& letters) {
     BlockBuilder rows;

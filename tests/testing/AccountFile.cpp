@@ -1,4 +1,4 @@
-#include "AccountFile.h"
+#include "testing/AccountFile.h"
 
 #include <fstream>
 #include <sstream>
@@ -66,54 +66,53 @@ Rates ratesOf(std::istringstream& words) {
     return rates;
 }
 
-/// A report's heading with the lines that follow it.
-struct Report {
-    std::string kind;
-    std::string date;
-    std::string status = "ok";
-    std::vector<std::string> lines;
-
-    void storeIn(EarningsFixture& fixture) const {
-        if (kind == "payments") {
-            std::vector<Payment> payments;
-            std::ranges::transform(lines, std::back_inserter(payments), paymentOf);
-            fixture.payments(date, payments, reportStatus(status));
-            return;
-        }
-        std::string frequency = kind;
-        std::ranges::transform(kind, frequency.begin(), [](char letter) { return std::toupper(letter); });
-        std::vector<Line> sales;
-        std::ranges::transform(lines, std::back_inserter(sales), lineOf);
-        fixture.report(reportFrequency(frequency).value(), date, sales, reportStatus(status));
-    }
-};
-
 }  // namespace
 
-AccountFile::AccountFile(const std::filesystem::path& file, EarningsFixture& fixture) {
+AccountFile::AccountFile(const std::filesystem::path& file) {
     std::ifstream text(file);
-    std::vector<Report> reports;
-    for (std::string line; std::getline(text, line);) {
+    for (std::string line; std::getline(text, line) && !line.starts_with('>');) {
         std::istringstream words(line);
         std::string word;
         if (line.starts_with("    ")) {
-            reports.back().lines.push_back(line);
+            reports_.back().lines.push_back(line);
         } else if (!(words >> word) || word == "#") {
             continue;
         } else if (word == "rates") {
-            fixture.rates(ratesOf(words));
+            rates_ = ratesOf(words);
         } else if (word == "days") {
             words >> firstDay >> lastDay;
         } else if (word == "apps") {
             apps = {std::istream_iterator<std::int64_t>(words), {}};
+        } else if (word == "locale") {
+            words >> locale;
         } else {
-            words >> reports.emplace_back(Report{.kind = word}).date >> reports.back().status;
+            words >> reports_.emplace_back(Report{.kind = word}).date >> reports_.back().status;
         }
     }
-    for (const Report& report : reports) {
-        report.storeIn(fixture);
+}
+
+void AccountFile::storeIn(ShortReports& store) const {
+    if (!rates_.empty()) {
+        store.rates(rates_);
     }
-    fixture.reload();
+    for (const Report& report : reports_) {
+        storeReport(store, report);
+    }
+}
+
+void AccountFile::storeReport(ShortReports& store, const Report& report) {
+    const ReportStatus status = reportStatus(report.status);
+    if (report.kind == "payments") {
+        std::vector<Payment> payments;
+        std::ranges::transform(report.lines, std::back_inserter(payments), paymentOf);
+        store.payments(report.date, payments, status);
+        return;
+    }
+    std::string frequency = report.kind;
+    std::ranges::transform(frequency, frequency.begin(), [](char letter) { return std::toupper(letter); });
+    std::vector<Line> sales;
+    std::ranges::transform(report.lines, std::back_inserter(sales), lineOf);
+    store.report(reportFrequency(frequency).value(), report.date, sales, status);
 }
 
 }  // namespace vantrell::testing
