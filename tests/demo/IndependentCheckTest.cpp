@@ -183,24 +183,6 @@ TEST_F(IndependentCheck, PayoutsAreWhatWasPaid) {
     }
 }
 
-TEST_F(IndependentCheck, ProductsMakeTheTotalOfAllTime) {
-    SalesTotals total = allTime();
-    total.updateUnits = 0;
-    total.redownloadUnits = 0;
-    AggregateStats sum;
-    AmountsByCurrency money;
-    for (const ProductStat& product : store().productStats({})) {
-        sum.appUnits += product.stats.appUnits;
-        sum.iapUnits += product.stats.iapUnits;
-        sum.refundedUnits += product.stats.refundedUnits;
-        for (const auto& [code, amount] : product.stats.proceedsByCurrency) {
-            sum.proceedsByCurrency[code] += amount;
-        }
-    }
-    EXPECT_EQ(exact(statsFields(store().converter(), sum), 0), exact(total));
-    EXPECT_EQ(records(ExportKind::products).size(), store().productStats({}).size());
-}
-
 TEST_F(IndependentCheck, AppsAreWhatTheyAndTheirProductsSold) {
     EXPECT_GT(store().appTable().size(), 5U);
     for (const AppTableEntry& entry : store().appTable()) {

@@ -8,10 +8,12 @@
 #include "sample/SalesBody.h"
 #include "sample/SampleService.h"
 #include "sample/SampleTotals.h"
+#include "testing/Cases.h"
 #include "testing/ManualClock.h"
 #include "testing/MemoryDefaults.h"
 #include "testing/TemporaryFolder.h"
 
+#include <QDateTime>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -88,35 +90,14 @@ TEST_F(SampleService, SendsWhatWasSoldAndPaidInTheVersionThatItHas) {
 }
 
 TEST_F(SampleService, PublishesEachReportWhenTheRealOneDoesAndForgetsItInTime) {
-    constexpr auto there = "OK";
-    constexpr auto tooEarly = "Not published yet";
-    constexpr auto tooLate = "Past retention";
-    const struct {
-        const char* name;
-        std::string frequency;
-        std::string date;
-        Instant now;
-        const char* answer;
-    } cases[] = {
-        {"yesterday before 5 am", "DAILY", "2026-11-21", dayOf(2026, 11, 22) + 12h + 59min, tooEarly},
-        {"yesterday from 5 am", "DAILY", "2026-11-21", dayOf(2026, 11, 22) + 13h, there},
-        {"a year ago", "DAILY", "2025-11-22", morning, there},
-        {"more than a year ago", "DAILY", "2025-11-20", morning, tooLate},
-        {"last month on the 4th", "MONTHLY", "2026-10", dayOf(2026, 11, 4) + 14h, tooEarly},
-        {"last month on the 5th", "MONTHLY", "2026-10", dayOf(2026, 11, 5) + 14h, there},
-        {"last year on 5 January", "YEARLY", "2026", dayOf(2027, 1, 5) + 14h, tooEarly},
-        {"last year on 6 January", "YEARLY", "2026", dayOf(2027, 1, 6) + 14h, there},
-        {"ten years ago, before the first sale", "YEARLY", "2016", morning, "No sales"},
-        {"eleven years ago", "YEARLY", "2015", morning, tooLate},
-        {"fiscal period after 32 days", "FINANCE", "2027-01", dayOf(2026, 12, 2) + 14h, tooEarly},
-        {"fiscal period after 33 days", "FINANCE", "2027-01", dayOf(2026, 12, 3) + 14h, there},
-        {"fiscal period long ago", "FINANCE", "2021-01", morning, there},
-    };
-    for (const auto& [name, frequency, date, now, answer] : cases) {
+    const auto table = std::filesystem::path(VANTRELL_TEST_DATA) / "publication.tsv";
+    for (const auto& cells : testing::linesOfCases(table, 5)) {
+        const auto time = QDateTime::fromString(QString::fromStdString(cells[3] + "Z"), Qt::ISODate);
+        const Instant now{std::chrono::milliseconds(time.toMSecsSinceEpoch())};
         clock.setNow(now);
         clientsClock.setNow(now);
         client.setCredentials(seller);
-        EXPECT_TRUE(ask(frequency, date).starts_with(answer)) << name;
+        EXPECT_TRUE(ask(cells[1], cells[2]).starts_with(cells[4])) << cells[0];
     }
 }
 

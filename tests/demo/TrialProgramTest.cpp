@@ -6,11 +6,13 @@
 #include "sample/ReportPeriods.h"
 #include "sample/SampleService.h"
 #include "sample/SampleTotals.h"
+#include "testing/Cases.h"
 #include "testing/Golden.h"
 #include "testing/TemporaryFolder.h"
 #include "trial/TrialProgram.h"
 
 #include <fstream>
+#include <iterator>
 #include <memory>
 #include <set>
 #include <sstream>
@@ -141,14 +143,6 @@ TEST(TrialProgram, ShowsWhatTheAccountsOwnSalesAddUpTo) {
     EXPECT_GT(year.appUnits, 1000);
     EXPECT_EQ(withoutZeros(store.dailyRows({}, {}, {}).aggregate()), withoutZeros(year));
     EXPECT_EQ(withoutZeros(store.allTimeRows({}).aggregate()), withoutZeros(allTime));
-    for (const PeriodStat& month : store.monthStats({})) {
-        if (month.note == "Monthly report" && !month.stats.isEmpty()) {
-            AggregateStats expected;
-            add(expected, sample::salesTotals(trial.account(),
-                                              *sample::reportDays(sample::ReportKind::monthly, month.label)));
-            EXPECT_EQ(withoutZeros(month.stats), withoutZeros(expected)) << month.label;
-        }
-    }
     EXPECT_EQ(store.displayCurrency(), "EUR");
     EXPECT_NE(trial.output().find("\nAll time · Since 2020: "), std::string::npos) << trial.output();
     EXPECT_EQ(trial.service().log().count("/v6/latest/USD"), 1U);
@@ -240,21 +234,11 @@ TEST(TrialProgram, DoesNotRunWithAnEmptyKey) {
 }
 
 TEST(TrialOptions, RefuseWhatTheyCanNotUnderstand) {
-    const std::vector<std::vector<std::string>> wrong = {
-        {"--onse"},
-        {"--once", "--data"},
-        {"--export"},
-        {"--once", "--pause", "-1"},
-        {"--once", "--pause", "soon"},
-        {"--once", "--currency", "euro"},
-        {"--once", "--service", "127.0.0.1"},
-        {"--once", "--key", "/nowhere/at/all.p8"},
-        {"--do", "dance"},
-        {"--do", "day=tomorrow"},
-        {"--do", "day"},
-    };
-    for (const auto& arguments : wrong) {
-        EXPECT_TRUE(std::holds_alternative<UsageError>(parseTrialOptions(arguments))) << arguments.back();
+    const auto table = std::filesystem::path(VANTRELL_TEST_DATA) / "wrong-options.tsv";
+    for (const auto& cells : testing::linesOfCases(table, 1)) {
+        std::istringstream words(cells[0]);
+        const std::vector<std::string> arguments{std::istream_iterator<std::string>(words), {}};
+        EXPECT_TRUE(std::holds_alternative<UsageError>(parseTrialOptions(arguments))) << cells[0];
     }
     const auto options = parseTrialOptions({"--do", "month=2026-08", "--pause", "0.5"});
     ASSERT_TRUE(std::holds_alternative<TrialOptions>(options));

@@ -1,5 +1,6 @@
 #include "icons/AppIconStore.h"
 #include "platform/TaskScope.h"
+#include "testing/Cases.h"
 #include "testing/MemoryDefaults.h"
 #include "testing/ScriptedHttp.h"
 #include "testing/SlowHttp.h"
@@ -104,28 +105,15 @@ TEST_F(AppIconStoreTest, KnowsAgainWhatItFoundAndDropsWhatItCanNotRead) {
 }
 
 TEST(IconLookup, TakesAddressesFromABodyThatIsWholeAndNothingFromAnyOther) {
-    const struct {
-        const char* name;
-        std::string results;
-        IconAddresses found;
-    } cases[] = {
-        {"the large picture first",
-         R"([{"trackId":1,"artworkUrl60":"s:s","artworkUrl100":"s:l"}])",
-         {{1, "s:l"}}},
-        {"the small one alone", R"([{"trackId":1,"artworkUrl60":"s:s","artworkUrl100":null}])", {{1, "s:s"}}},
-        {"no address", R"([{"trackId":1,"artworkUrl100":"https://[/","artworkUrl60":"s:s"}])", {}},
-        {"others as well",
-         R"([{"wrapperType":7},{"trackId":2},{"trackId":3,"artworkUrl60":"s:s"}])",
-         {{3, "s:s"}}},
-        {"a number as text", R"([{"trackId":1,"artworkUrl60":"s:s"},{"trackId":"2"}])", {}},
-        {"a fraction", R"([{"trackId":1,"artworkUrl60":"s:s"},{"trackId":2.5}])", {}},
-        {"an address that is no text", R"([{"trackId":1,"artworkUrl60":"s:s","artworkUrl100":1}])", {}},
-        {"an entry that is none", R"([{"trackId":1,"artworkUrl60":"s:s"},[]])", {}},
-        {"no list", R"({"trackId":1,"artworkUrl60":"s:s"})", {}},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(IconLookup::parse(R"({"resultCount":9,"results":)" + c.results + "}"), c.found) << c.name;
-    }
+    const auto table = std::filesystem::path(VANTRELL_TEST_DATA) / "lookups.tsv";
+    testing::expectCases<2>(table, [](const std::string& /*name*/, const std::string& results) {
+        std::string found;
+        for (const auto& [app, address] :
+             IconLookup::parse(R"({"resultCount":9,"results":)" + results + "}")) {
+            found += std::to_string(app) + " " + address + ";";
+        }
+        return found.empty() ? "none" : found;
+    });
 }
 
 TEST_F(AppIconStoreTest, AsksOnceWhileItWaitsAndMayGoAwayMeanwhile) {
