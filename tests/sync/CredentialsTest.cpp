@@ -1,0 +1,39 @@
+#include "testing/EngineFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace vantrell {
+namespace {
+
+using testing::EngineFixture;
+
+TEST(Credentials, AreReadAtTheStartSavedAndForgotten) {
+    EngineFixture fixture;
+    SyncEngine& engine = fixture.engine();
+    EXPECT_TRUE(engine.hasCredentials());
+    fixture.run(engine.refetchDay(*dateFromDayKey("2026-11-20")));
+    engine.saveCredentials({"issuer", "key", "no key", ""});
+    EXPECT_FALSE(engine.hasCredentials());
+    EXPECT_EQ(QCoro::waitFor(engine.testConnection()),
+              "Enter the Issuer ID, Key ID, key file and vendor number first.");
+    engine.saveCredentials({"issuer", "key", "no key!", "6041"});
+    EXPECT_EQ(QCoro::waitFor(engine.testConnection())
+                  .rfind("Authentication failed — The .p8 private key could not be read", 0),
+              0U)
+        << "the token of the old key is not used again";
+    engine.removeCredentials();
+    EXPECT_FALSE(engine.hasCredentials());
+    EXPECT_EQ(fixture.context().salesReports().all().size(), 1U) << "stored reports stay";
+}
+
+TEST(Credentials, ThatCanNotBeSavedLeaveTheOldOnesInForce) {
+    EngineFixture fixture;
+    fixture.secrets.failNextAdd({1, "The keyring is locked"});
+    EXPECT_THROW(fixture.engine().saveCredentials({}), CredentialsError);
+    EXPECT_TRUE(fixture.engine().hasCredentials());
+    fixture.run(fixture.engine().refetchDay(*dateFromDayKey("2026-11-20")));
+    EXPECT_EQ(fixture.requests().size(), 1U);
+}
+
+}  // namespace
+}  // namespace vantrell
