@@ -1,6 +1,5 @@
 #include "calendar/DayKey.h"
-
-#include <gtest/gtest.h>
+#include "testing/Cases.h"
 
 namespace vantrell {
 namespace {
@@ -15,29 +14,10 @@ TEST(DayKey, LabelsAreOfFixedWidthSoThatTheyCompareAsText) {
 }
 
 TEST(DayKey, KeysAreReadAsALenientCalendarWould) {
-    const struct {
-        std::string name;
-        std::string text;
-        std::optional<CivilDate> expected;
-    } cases[] = {
-        {"plain", "2026-08-14", 2026y / 8 / 14},
-        {"a day past its month", "2026-02-31", 2026y / 3 / 3},
-        {"a month past its year", "2026-14-01", 2027y / 2 / 1},
-        {"month and day of zero", "2026-00-00", 2025y / 11 / 30},
-        {"the first day", "0001-01-01", 1y / 1 / 1},
-        {"the last day", "9999-12-31", 9999y / 12 / 31},
-        {"before the first day", "0001-01-00", std::nullopt},
-        {"after the last day", "9999-12-32", std::nullopt},
-        {"a huge month", "2026-9223372036854775807-01", std::nullopt},
-        {"a year beyond any number", "99999999999999999999-01-01", std::nullopt},
-        {"four parts", "2026-08-14-1", std::nullopt},
-        {"a dash in front", "-2026-08-14", std::nullopt},
-        {"letters", "2026-08-1x", std::nullopt},
-        {"nothing", "", std::nullopt},
-    };
-    for (const auto& row : cases) {
-        EXPECT_EQ(dateFromDayKey(row.text), row.expected) << row.name;
-    }
+    testing::expectCases<1>(VANTRELL_TEST_DATA "/day-keys.tsv", [](const std::string& text) {
+        const auto date = dateFromDayKey(text);
+        return date ? dayKey(*date) : "none";
+    });
 }
 
 TEST(DayKey, ARangeHoldsEveryDayOnceAndBothEndsUpToABound) {

@@ -1,5 +1,6 @@
 #include "calendar/FiscalPeriod.h"
 #include "calendar/ReportSchedule.h"
+#include "testing/Cases.h"
 
 #include <gmock/gmock.h>
 
@@ -17,22 +18,10 @@ TEST(FiscalPeriod, TheYearBeginsInOctober) {
 }
 
 TEST(FiscalPeriod, ReadsTwoWholeNumbersAndNothingElse) {
-    const struct {
-        std::string name;
-        std::string text;
-        std::optional<YearMonth> expected;
-    } cases[] = {
-        {"the earliest year", "2001-01", YearMonth{2001, 1}},
-        {"stray dashes", "-2026--5-", YearMonth{2026, 5}},
-        {"too early", "2000-05", std::nullopt},
-        {"no such month", "2026-13", std::nullopt},
-        {"letters", "2026-May", std::nullopt},
-        {"a year beyond any number", "99999999999999999999-01", std::nullopt},
-        {"nothing", "", std::nullopt},
-    };
-    for (const auto& row : cases) {
-        EXPECT_EQ(parseFiscalPeriod(row.text), row.expected) << row.name;
-    }
+    testing::expectCases<1>(VANTRELL_TEST_DATA "/fiscal-periods.tsv", [](const std::string& text) {
+        const auto period = parseFiscalPeriod(text);
+        return period ? std::to_string(period->year) + " " + std::to_string(period->month) : "none";
+    });
 }
 
 TEST(FiscalPeriod, TheSuccessorOfWhatIsNoPeriodIsItself) {

@@ -1,7 +1,6 @@
 #include "data/StoreCheck.h"
+#include "testing/Cases.h"
 #include "testing/StoreFixture.h"
-
-#include <gtest/gtest.h>
 
 namespace vantrell {
 namespace {
@@ -18,14 +17,18 @@ void storeDay(ModelContext& context, const char* day) {
 }
 
 /// Two days of two lines each, changed by a plain client.
-ModelContext* openDamaged(StoreFixture& store, const std::string& sql) {
+ModelContext& openDamaged(StoreFixture& store, const std::string& sql) {
     ModelContext* context = store.open();
     storeDay(*context, firstDay);
     storeDay(*context, secondDay);
     EXPECT_EQ(context->save(), std::nullopt);
     store.close();
     SqliteDatabase(store.file(), SqliteDatabase::Mode::readWrite).execute(sql);
-    return store.open();
+    context = store.open();
+    if (context == nullptr) {
+        throw std::runtime_error(store.error());
+    }
+    return *context;
 }
 
 void check(ModelContext& context) {
@@ -35,71 +38,31 @@ void check(ModelContext& context) {
 }
 
 TEST(StoreDamage, IsToldByTheNamesOfTheReportsAndNothingIsSavedOverIt) {
-    using Names = std::vector<ReportName>;
-    struct Case {
-        const char* name;
-        const char* sql;
-        Names damaged;
-        std::size_t rows;  // that can still be read
-    };
-    const ReportName first{"DAILY", firstDay};
-    const ReportName second{"DAILY", secondDay};
-    const std::vector<Case> cases = {
-        {"a line is missing", "DELETE FROM sales_line WHERE id = 2", {first}, 3},
-        {"all lines are missing", "DELETE FROM sales_line", {first, second}, 0},
-        {"what names the lines is missing", "DELETE FROM sales_batch WHERE id = 2", {second}, 2},
-        {"more lines than there are", "UPDATE sales_batch SET lineCount = 9 WHERE id = 2", {second}, 4},
-        {"the lines of another report",
-         "UPDATE sales_batch SET lineCount = 4 WHERE id = 1",
-         {first, second},
-         4},
-        {"numbers out of range",
-         "UPDATE sales_batch SET firstLine = 9223372036854775807 WHERE id = 1",
-         {first},
-         2},
-        {"a count below 0", "UPDATE sales_batch SET lineCount = -1 WHERE id = 2", {second}, 2},
-    };
-    for (const Case& row : cases) {
-        SCOPED_TRACE(row.name);
+    testing::expectCases<1>(VANTRELL_TEST_DATA "/damage-met.tsv", [](const std::string& sql) {
         StoreFixture store;
-        ModelContext* context = openDamaged(store, row.sql);
-        ASSERT_NE(context, nullptr) << store.error();
-        EXPECT_EQ(context->fetchSalesRows().size(), row.rows);
-        EXPECT_EQ(context->health().damagedReports(), row.damaged);
+        ModelContext& context = openDamaged(store, sql);
+        std::string read = std::to_string(context.fetchSalesRows().size()) + " |";
+        for (const ReportName& report : context.health().damagedReports()) {
+            EXPECT_EQ(report.group, "DAILY");
+            read += " " + report.label;
+        }
         const auto written = std::filesystem::last_write_time(store.file());
-        storeDay(*context, "2026-08-16");
-        EXPECT_EQ(context->save()->kind, StoreFailure::damaged);
-        EXPECT_FALSE(context->writeAhead());
+        storeDay(context, "2026-08-16");
+        EXPECT_EQ(context.save()->kind, StoreFailure::damaged);
+        EXPECT_FALSE(context.writeAhead());
         EXPECT_EQ(std::filesystem::last_write_time(store.file()), written);
-    }
+        return read;
+    });
 }
 
 TEST(StoreDamage, ThatTheFirstLoadDoesNotMeetIsFoundByTheCheckOfTheFile) {
-    struct Case {
-        const char* name;
-        const char* sql;
-        bool isDamaged;
-    };
-    const std::vector<Case> cases = {
-        {"nothing", "", false},
-        {"a page is used twice",
-         "PRAGMA writable_schema = ON; UPDATE sqlite_schema SET rootpage ="
-         " (SELECT rootpage FROM sqlite_schema WHERE name = 'rate_set') WHERE name = 'sync_log'",
-         true},
-        {"an offer that isn't there", "UPDATE sales_line SET offer = 77 WHERE id = 1", true},
-        {"a text that isn't there", "UPDATE sales_offer SET proceedsCurrency = 77 WHERE id = 1", true},
-        {"all texts are missing", "DELETE FROM text; UPDATE sales_line SET country = 1 WHERE id = 3", true},
-        {"units that are no number", "UPDATE sales_line SET units = 'two' WHERE id = 1", true},
-    };
-    for (const Case& row : cases) {
-        SCOPED_TRACE(row.name);
+    testing::expectCases<1>(VANTRELL_TEST_DATA "/damage-found.tsv", [](const std::string& sql) {
         StoreFixture store;
-        ModelContext* context = openDamaged(store, row.sql);
-        ASSERT_NE(context, nullptr) << store.error();
-        EXPECT_FALSE(context->health().isDamaged());
-        check(*context);
-        EXPECT_EQ(context->health().isDamaged(), row.isDamaged) << context->health().damage();
-    }
+        ModelContext& context = openDamaged(store, sql);
+        EXPECT_FALSE(context.health().isDamaged());
+        check(context);
+        return context.health().isDamaged() ? "damaged" : "sound";
+    });
 }
 
 TEST(StoreDamage, IsLookedForBeforeWhatIsSavedMeanwhileIsWritten) {

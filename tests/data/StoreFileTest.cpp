@@ -1,9 +1,9 @@
 #include "platform/Sqlite.h"
+#include "testing/Golden.h"
 #include "testing/StoreFixture.h"
 
 #include <fstream>
 #include <functional>
-#include <iterator>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -15,11 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::StoreFixture;
-
-std::string bytesOf(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 void write(const fs::path& file, const std::string& bytes) {
     std::ofstream(file, std::ios::binary) << bytes;
@@ -56,10 +51,10 @@ TEST(StoreFile, OfSomebodyElseStopsTheStartAndIsNotTouched) {
     for (const Case& row : cases) {
         StoreFixture store;
         row.prepare(store.file());
-        const std::string before = bytesOf(store.file());
+        const std::string before = testing::fileText(store.file());
         EXPECT_EQ(store.open(), nullptr) << row.name;
         EXPECT_EQ(store.error(), row.text) << row.name;
-        EXPECT_EQ(bytesOf(store.file()), before) << row.name;
+        EXPECT_EQ(testing::fileText(store.file()), before) << row.name;
         EXPECT_FALSE(fs::exists(store.file().string() + "-journal")) << row.name;
     }
 }
@@ -136,37 +131,21 @@ TEST(StoreFile, IsNotMirroredOnThisPlatform) {
 }
 
 TEST(StoreFile, ShowsEachRecordTypeAsAViewWithItsProperties) {
-    struct Case {
-        const char* view;
-        const char* columns;
-    };
-    const std::vector<Case> cases = {
-        {"SalesReport", "accountID frequencyRaw reportDate statusRaw rowCount message fetchedAt "},
-        {"SalesRow",
-         "accountID frequencyRaw reportDate beginDate endDate sku title version productType parentSKU units "
-         "proceedsPerUnit proceedsCurrency customerPrice customerCurrency country appleID promoCode "
-         "subscription period device platforms proceedsReason client orderType "},
-        {"FinanceReport",
-         "accountID region fiscalPeriod statusRaw rowCount message fetchedAt startDate endDate "},
-        {"FinanceRow",
-         "accountID region fiscalPeriod startDate endDate vendorIdentifier title productType quantity "
-         "partnerShare extendedPartnerShare partnerShareCurrency saleOrReturn appleID country promoCode "
-         "customerPrice customerCurrency "},
-        {"RateSet", "base fetchedAt rates "},
-        {"SyncLogEntry", "date key outcome message "},
-    };
     StoreFixture store;
     store.open();
     store.close();
     SqliteDatabase database(store.file(), SqliteDatabase::Mode::peek);
-    for (const Case& row : cases) {
-        std::string columns;
-        auto names = database.prepare("SELECT name FROM pragma_table_info('" + std::string(row.view) + "')");
+    std::string views;
+    for (const std::string view :
+         {"SalesReport", "SalesRow", "FinanceReport", "FinanceRow", "RateSet", "SyncLogEntry"}) {
+        views += view + ":";
+        auto names = database.prepare("SELECT name FROM pragma_table_info('" + view + "')");
         while (names.step()) {
-            columns += std::string(names.text(0)) + " ";
+            views.append(" ").append(names.text(0));
         }
-        EXPECT_EQ(columns, row.columns) << row.view;
+        views += "\n";
     }
+    testing::expectMatchesFile(views, VANTRELL_TEST_DATA "/views.txt");
 }
 
 TEST(StoreFile, ShowsDatesAndTextsReadably) {

@@ -1,10 +1,9 @@
 #include "platform/Decimal.h"
+#include "testing/Cases.h"
 
 #include <cmath>
 #include <limits>
 #include <type_traits>
-
-#include <gtest/gtest.h>
 
 namespace vantrell {
 namespace {
@@ -17,37 +16,10 @@ Decimal number(std::string_view text) {
 }
 
 TEST(Decimal, ReadsPlainAndScientificTextAndNothingElse) {
-    const std::string nines(38, '9');
-    const struct {
-        std::string name;
-        std::string text;
-        std::optional<std::string> expected;
-    } cases[] = {
-        {"no whole part", ".70", "0.7"},
-        {"signs", "-00.00120", "-0.0012"},
-        {"capital exponent with a sign", "25E-1", "2.5"},
-        {"negative zero", "-0.00", "0"},
-        {"a tie at the 39th digit goes away from zero", "-1" + std::string(37, '0') + "5",
-         "-1" + std::string(36, '0') + "10"},
-        {"a carry through all digits", nines + "5", "1" + std::string(39, '0')},
-        {"the 39th digit alone decides", "0." + nines + "4999", "0." + nines},
-        {"zero of any size", "0e999999999999999999999", "0"},
-        {"just readable", "9e999", "9" + std::string(999, '0')},
-        {"just too large", "10e999", std::nullopt},
-        {"rounded up past the bound", nines + "9e961", std::nullopt},
-        {"an exponent beyond any integer", "1e99999999999999999999999", std::nullopt},
-        {"empty", "", std::nullopt},
-        {"a point alone", "-.", std::nullopt},
-        {"two points", "1.2.3", std::nullopt},
-        {"an exponent without digits", "1e", std::nullopt},
-        {"grouping", "1,000", std::nullopt},
-        {"a zero byte", std::string("1\0", 2), std::nullopt},
-        {"Arabic digits", "\u0661\u0662", std::nullopt},
-    };
-    for (const auto& row : cases) {
-        const auto value = Decimal::parse(row.text);
-        EXPECT_EQ(value ? std::optional(value->text()) : std::nullopt, row.expected) << row.name;
-    }
+    testing::expectCases<1>(VANTRELL_TEST_DATA "/decimals.tsv", [](const std::string& text) {
+        const auto value = Decimal::parse(text);
+        return value ? value->text() : "none";
+    });
 }
 
 TEST(Decimal, TextsOfAnyLengthAreReadInOnePass) {

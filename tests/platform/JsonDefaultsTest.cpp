@@ -1,4 +1,5 @@
 #include "platform/JsonDefaults.h"
+#include "testing/Cases.h"
 #include "testing/Golden.h"
 #include "testing/TemporaryFolder.h"
 
@@ -45,32 +46,12 @@ TEST_F(JsonDefaultsTest, KeepsValuesForTheNextStart) {
 }
 
 TEST_F(JsonDefaultsTest, AValueOfAnotherTypeIsAbsent) {
-    const struct {
-        const char* name;
-        const char* value;
-        bool text;
-        bool date;
-        bool flag;
-        bool textMap;
-    } cases[] = {
-        {"text", R"("x")", true, false, false, false},
-        {"flag", "true", false, false, true, false},
-        {"date", R"({"date": 1})", false, true, false, false},
-        {"date of a fraction", R"({"date": 1.5})", false, false, false, false},
-        {"number", "1", false, false, false, false},
-        {"texts", R"({"date": "1", "": ""})", false, false, false, true},
-        {"no texts at all", "{}", false, false, false, true},
-        {"one that is no text", R"({"a": "1", "b": null})", false, false, false, false},
-        {"texts without names", R"(["1"])", false, false, false, false},
-    };
-    for (const auto& [name, value, text, date, flag, textMap] : cases) {
-        write(std::string(R"({"key": )") + value + "}");
+    testing::expectCases<1>(VANTRELL_TEST_DATA "/setting-types.tsv", [this](const std::string& value) {
+        write(R"({"key": )" + value + "}");
         const JsonDefaults defaults(file);
-        EXPECT_EQ(defaults.text("key").has_value(), text) << name;
-        EXPECT_EQ(defaults.date("key").has_value(), date) << name;
-        EXPECT_EQ(defaults.flag("key").has_value(), flag) << name;
-        EXPECT_EQ(defaults.textMap("key").has_value(), textMap) << name;
-    }
+        return std::string(defaults.text("key") ? "text" : "") + (defaults.date("key") ? "date" : "") +
+               (defaults.flag("key") ? "flag" : "") + (defaults.textMap("key") ? "texts" : "");
+    });
 }
 
 TEST_F(JsonDefaultsTest, LeavesWhatItDoesNotKnowInTheFile) {

