@@ -29,14 +29,12 @@ struct TrendSlice {
     std::optional<int> colorIndex;  ///< from 0 to 7; absent for an app that is not among the largest
     double proceeds = 0;            ///< sum of the lines worth more than 0
     double refunds = 0;             ///< sum of the lines worth less than 0; never above zero
-    bool operator==(const TrendSlice&) const = default;
 };
 
 struct TrendPoint {
     CivilDate periodStart;
     ReportStatus status = ReportStatus::missing;
     std::vector<TrendSlice> slices;  ///< in the order of the legend; none where nothing moved money
-    bool operator==(const TrendPoint&) const = default;
 };
 
 /// Fields as those of a slice.
@@ -44,13 +42,11 @@ struct TrendLegendItem {
     std::optional<std::int64_t> appID;
     std::string title;
     std::optional<int> colorIndex;
-    bool operator==(const TrendLegendItem&) const = default;
 };
 
 struct Trend {
     std::vector<TrendPoint> points;       ///< oldest first
     std::vector<TrendLegendItem> legend;  ///< apps by size, then "Other"
-    bool operator==(const Trend&) const = default;
 };
 
 /// The first day of the bucket that `day` lies in.

@@ -144,6 +144,22 @@ TEST(Store, ReplacesOnlyTheRowsOfThatReport) {
     EXPECT_EQ(rows.front().line.units, 5);
 }
 
+TEST(Store, RemovesARecordForGood) {
+    StoreFixture store;
+    ModelContext* context = store.open();
+    for (const char* key : {"kept", "removed"}) {
+        context->syncLog().insert({.key = key});
+    }
+    ASSERT_EQ(context->save(), std::nullopt);
+    context->syncLog().remove(2);
+    EXPECT_TRUE(context->hasChanges());
+    ASSERT_EQ(context->save(), std::nullopt);
+    EXPECT_FALSE(context->hasChanges());
+    const auto& log = store.open()->syncLog().all();
+    ASSERT_EQ(log.size(), 1U);
+    EXPECT_EQ(log.begin()->second.key, "kept");
+}
+
 TEST(Store, FindsTheFirstOfTwoRecordsWithOneKey) {
     StoreFixture store;
     ModelContext* context = store.open();
