@@ -1,0 +1,116 @@
+#!/usr/bin/env python3
+"""A test of the tests: seeds the faults of faults.txt, one at a time, into a copy of the sources, and counts those
+that the suites catch. Each is one that a developer could make. What no suite catches is named.
+
+    tools/seed_faults.py [--only text] [cmake option ...]
+
+--only takes the faults whose line has this text. Options such as -DVANTRELL_SANITIZE=ON go to the build, which is a
+debug build without sanitizers at first and stays in build/faults.
+"""
+
+import functools
+import os
+import pathlib
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+COPY = ROOT / "build/faults"
+BUILD = COPY / "build/dev"
+MARK = 0.9  # the share that must be caught
+# Suites wait for the disk more than for anything else.
+ENVIRONMENT = os.environ | ({"TMPDIR": "/dev/shm"} if os.access("/dev/shm", os.W_OK) else {})
+
+# The suites that are asked about a fault below a folder, the quickest first.
+SUITES = {
+    "src/data": ["store", "sync", "earnings", "torture_storage", "torture_bad-stores"],
+    "src/platform/Sqlite": ["store", "sync", "torture_storage"],
+    "src/sync": ["sync", "screens", "torture_storage"],
+    "src/platform": ["json_defaults", "files", "settings", "torture_storage"],
+    "src/screens": ["settings", "screens"],
+}
+TORTURE = ["vantrell-demo", "vantrell_torture"]
+
+
+def read_faults():
+    """Of each line that is no comment: the file, the text that stands there once, and what comes in its place."""
+    lines = (ROOT / "tools/faults.txt").read_text(encoding="utf-8").splitlines()
+    texts = [line.replace("\\n", "\n").split(" @@") for line in lines if line and line[0] != "#"]
+    return [tuple(part.strip() for part in parts) for parts in texts]
+
+
+def suites_for(file):
+    return next(suites for folder, suites in SUITES.items() if file.startswith(folder))
+
+
+def run(*command):
+    return subprocess.run(command, capture_output=True, text=True, check=False, env=ENVIRONMENT)
+
+
+def copy_sources():
+    names = run("git", "-C", ROOT, "ls-files", "-z", "--cached", "--others", "--exclude-standard").stdout.split("\0")
+    for name in filter(None, names):
+        source, target = ROOT / name, COPY / name
+        if source.exists() and not (target.exists() and target.read_bytes() == source.read_bytes()):
+            target.parent.mkdir(parents=True, exist_ok=True)
+            target.write_bytes(source.read_bytes())
+            target.chmod(source.stat().st_mode)
+
+
+def builds(suite):
+    targets = TORTURE if suite.startswith("torture_") else [f"{suite}_tests"]
+    return run("ninja", "-C", BUILD, *targets).returncode == 0
+
+
+def passes(suite):
+    return run("ctest", "--test-dir", BUILD, "-R", f"^{suite}$").returncode == 0
+
+
+@functools.cache
+def is_sound(suite):
+    """Whether the suite is there; without any fault it has to pass."""
+    if f": {suite}\n" not in run("ctest", "--test-dir", BUILD, "-N").stdout:
+        return False
+    if not (builds(suite) and passes(suite)):
+        raise SystemExit(f"{suite} fails without any fault")
+    return True
+
+
+def outcome(file, old, new):
+    """What becomes of this fault."""
+    target = COPY / file
+    sound = target.read_text(encoding="utf-8")
+    if sound.count(old) != 1:
+        return f"NOT SEEDED, the text stands there {sound.count(old)} times"
+    for suite in filter(is_sound, suites_for(file)):
+        target.write_text(sound.replace(old, new), encoding="utf-8")
+        try:
+            if not builds(suite):
+                return "NOT SEEDED, it doesn't build"
+            if not passes(suite):
+                return f"caught by {suite}"
+        finally:
+            target.write_text(sound, encoding="utf-8")
+    return "SURVIVES"
+
+
+def main():
+    options = sys.argv[1:]
+    only = options.pop(options.index("--only") + 1) if "--only" in options else ""
+    options = [option for option in options if option != "--only"]
+    faults = [fault for fault in read_faults() if only in " @@ ".join(fault)]
+    copy_sources()
+    configured = run("cmake", "-S", COPY, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", *options)
+    if configured.returncode != 0:
+        raise SystemExit(configured.stderr)
+    caught = 0
+    for file, old, new in faults:
+        told = outcome(file, old, new)
+        caught += told.startswith("caught")
+        print(f"{told}: {file}: {old} => {new or '(nothing)'}".replace("\n", " "), flush=True)
+    print(f"seeded faults: {len(faults)}, caught {caught}")
+    return 0 if caught >= MARK * len(faults) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
