@@ -23,7 +23,8 @@ using testing::WindowDriver;
 class Start {
   public:
     Start(const fs::path& home, const std::string& key)
-        : options_{.key = key, .data = home, .pause = std::chrono::milliseconds(4)}, surroundings_(options_) {
+        : options_{.key = key, .data = home, .pause = std::chrono::milliseconds(4)},
+          surroundings_(options_, key) {
         const auto ofTrial = surroundings_.parts();
         const MyAppParts parts{ofTrial.http,   ofTrial.clock, ofTrial.worker,  ofTrial.localTime,
                                ofTrial.locale, secrets_,      ofTrial.defaults};

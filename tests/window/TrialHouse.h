@@ -22,7 +22,7 @@ class TrialHouse {
         options_.key = generateKeyPair().privatePEM;
         options_.data = folder_.path();
         options_.pause = std::chrono::milliseconds(4);
-        surroundings_.emplace(options_);
+        surroundings_.emplace(options_, options_.key);
         credentials_ = CredentialsKeychain(surroundings_->parts().secrets).load().credentials.value();
     }
 
