@@ -3,6 +3,7 @@
 import pathlib
 import shutil
 import sqlite3
+import threading
 
 from program import copied
 from verifier import contents
@@ -89,13 +90,15 @@ def settle(file, reaches_disk):
 def kept_contents(scenario, scratch):
     """What was stored when the last sync before the power loss returned is there, or what came next."""
     known = {}
+    one_at_a_time = threading.Lock()
 
     def content_at(cut):
-        if cut not in known:
-            place = disk_after(scenario, cut, None, pathlib.Path(scratch) / f"whole {cut}")
-            known[cut] = contents(place)
-            shutil.rmtree(place)
-        return known[cut]
+        with one_at_a_time:
+            if cut not in known:
+                place = disk_after(scenario, cut, None, pathlib.Path(scratch) / f"whole {cut}")
+                known[cut] = contents(place)
+                shutil.rmtree(place)
+            return known[cut]
 
     def check(folder, cut):
         store = [number + 1 for number, call in enumerate(scenario.calls[:cut])
