@@ -36,9 +36,9 @@ constexpr std::array questions{
              " OR typeof(appleID) <> 'integer'"
              " OR max(sku, title, productType, parentSKU, proceedsCurrency, customerCurrency) > text.last"
              " OR min(sku, title, productType, parentSKU, proceedsCurrency, customerCurrency) < 0"
-             " OR CASE typeof(proceedsPerUnit) WHEN 'integer' THEN FALSE"
-             " WHEN 'text' THEN proceedsPerUnit NOT GLOB '*[0-9]*' OR proceedsPerUnit GLOB '*[^-+.E0-9]*'"
-             " ELSE TRUE END"
+             " OR CASE typeof(proceedsPerUnit) WHEN 'integer' THEN FALSE WHEN 'text' THEN"
+             " proceedsPerUnit GLOB '*[^-.0-9]*' OR proceedsPerUnit NOT GLOB '*[0-9]*'"
+             " OR substr(proceedsPerUnit, 2) GLOB '*-*' OR proceedsPerUnit GLOB '*.*.*' ELSE TRUE END"
              " OR typeof(customerPrice) NOT IN ('integer', 'text') LIMIT 1"},
     Question{"lines of finance reports can't be read",
              "SELECT 1 FROM finance_line, (SELECT coalesce(max(id), 0) AS last FROM text) AS text"
@@ -49,9 +49,12 @@ constexpr std::array questions{
              " saleOrReturn, country, promoCode, customerCurrency) <= text.last"
              " AND min(vendorIdentifier, title, productType, partnerShareCurrency,"
              " saleOrReturn, country, promoCode, customerCurrency) >= 0, FALSE)"
-             " OR CASE typeof(extendedPartnerShare) WHEN 'integer' THEN FALSE"
-             " WHEN 'text' THEN extendedPartnerShare NOT GLOB '*[0-9]*'"
-             " OR extendedPartnerShare GLOB '*[^-+.E0-9]*' ELSE TRUE END LIMIT 1"},
+             " OR CASE typeof(extendedPartnerShare) WHEN 'integer' THEN FALSE WHEN 'text' THEN"
+             " extendedPartnerShare GLOB '*[^-.0-9]*' OR extendedPartnerShare NOT GLOB '*[0-9]*'"
+             " OR substr(extendedPartnerShare, 2) GLOB '*-*' OR extendedPartnerShare GLOB '*.*.*' ELSE TRUE "
+             "END LIMIT 1"},
+    Question{"a view can't be read",
+             "SELECT 1 FROM SalesReport, SalesRow, FinanceReport, FinanceRow, RateSet, SyncLogEntry LIMIT 0"},
 };
 
 }  // namespace
