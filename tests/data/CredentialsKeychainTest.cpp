@@ -25,23 +25,14 @@ TEST(CredentialsKeychain, KeepsFourTextsInOneItemInTheirOrder) {
 }
 
 TEST(CredentialsKeychain, ReadsADamagedItemAsAbsentWithoutAProblem) {
-    struct Case {
-        const char* name;
-        const char* item;
-    };
-    const std::vector<Case> cases = {
-        {"a member is missing", R"({"issuerID":"a","keyID":"b","privateKeyPEM":"c"})"},
-        {"a member is no text", R"({"issuerID":"a","keyID":"b","privateKeyPEM":"c","vendorNumber":6041})"},
-        {"no object", R"(["a","b","c","d"])"},
-        {"no JSON", "{"},
-        {"empty", ""},
-    };
-    for (const Case& row : cases) {
+    for (const char* const item : {R"({"issuerID":"a","keyID":"b","privateKeyPEM":"c"})",
+                                   R"({"issuerID":"a","keyID":"b","privateKeyPEM":"c","vendorNumber":6041})",
+                                   R"(["a","b","c","d"])", "{", ""}) {
         MemorySecretStore secrets;
-        ASSERT_FALSE(secrets.add(service, account, row.item));
+        ASSERT_FALSE(secrets.add(service, account, item));
         const LoadedCredentials loaded = CredentialsKeychain(secrets).load();
-        EXPECT_EQ(loaded.credentials, std::nullopt) << row.name;
-        EXPECT_EQ(loaded.problem, std::nullopt) << row.name;
+        EXPECT_EQ(loaded.credentials, std::nullopt) << item;
+        EXPECT_EQ(loaded.problem, std::nullopt) << item;
     }
 }
 

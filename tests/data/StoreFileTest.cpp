@@ -1,9 +1,9 @@
 #include "platform/Sqlite.h"
+#include "testing/Cases.h"
 #include "testing/Golden.h"
 #include "testing/StoreFixture.h"
 
 #include <fstream>
-#include <functional>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -25,38 +25,24 @@ void withSQL(const fs::path& file, const std::string& sql) {
 }
 
 TEST(StoreFile, OfSomebodyElseStopsTheStartAndIsNotTouched) {
-    struct Case {
-        const char* name;
-        std::function<void(const fs::path&)> prepare;
-        const char* text;
-    };
-    const std::vector<Case> cases = {
-        {"another application's",
-         [](const fs::path& file) { withSQL(file, "PRAGMA application_id = 77; CREATE TABLE t (a)"); },
-         "the file belongs to another application"},
-        {"a database of no application", [](const fs::path& file) { withSQL(file, "CREATE TABLE t (a)"); },
-         "the file belongs to another application"},
-        {"a newer version's",
-         [](const fs::path& file) {
-             StoreFixture().open();
-             auto made = ModelContainer::open({file, CloudDatabase::none, {}});
-             made = StoreError{};
-             withSQL(file, "PRAGMA user_version = 2");
-         },
-         "the store was written by a newer version of Vantrell"},
-        {"no database", [](const fs::path& file) { write(file, std::string(5000, 'x')); },
-         "file is not a database"},
-        {"a text", [](const fs::path& file) { write(file, "hello"); }, "file is not a database"},
-    };
-    for (const Case& row : cases) {
+    using Text = const std::string&;
+    testing::expectCases<2>(VANTRELL_TEST_DATA "/foreign-files.tsv", [](Text before, Text content) {
         StoreFixture store;
-        row.prepare(store.file());
-        const std::string before = testing::fileText(store.file());
-        EXPECT_EQ(store.open(), nullptr) << row.name;
-        EXPECT_EQ(store.error(), row.text) << row.name;
-        EXPECT_EQ(testing::fileText(store.file()), before) << row.name;
-        EXPECT_FALSE(fs::exists(store.file().string() + "-journal")) << row.name;
-    }
+        if (before == "a store") {
+            store.open();
+            store.close();
+        }
+        if (before == "a text") {
+            write(store.file(), content);
+        } else {
+            withSQL(store.file(), content);
+        }
+        const std::string bytes = testing::fileText(store.file());
+        EXPECT_EQ(store.open(), nullptr);
+        EXPECT_EQ(testing::fileText(store.file()), bytes);
+        EXPECT_FALSE(fs::exists(store.file().string() + "-journal"));
+        return store.error();
+    });
 }
 
 TEST(StoreFile, InUseByAnotherProcessCanNotBeOpened) {

@@ -1,6 +1,5 @@
 #include "reports/ReportTable.h"
-
-#include <gtest/gtest.h>
+#include "testing/Cases.h"
 
 namespace vantrell {
 namespace {
@@ -12,23 +11,13 @@ Cells cellsOf(std::string_view line, std::size_t most = mostColumns) {
 }
 
 TEST(ReportLines, EndAtLineFeedsAndLoseOneCarriageReturn) {
-    const struct {
-        const char* name;
-        std::string_view text;
-        std::vector<std::string_view> lines;
-    } cases[] = {
-        {"Windows", "a\r\nb\r\n", {"a", "b", ""}},
-        {"only one carriage return goes", "a\r\r\n\r\n\rb", {"a\r", "", "\rb"}},
-        {"a carriage return at the very end", "a\r", {"a"}},
-        {"other line ends are text", "a\u2028b\vc\nd", {"a\u2028b\vc", "d"}},
-    };
-    for (const auto& [name, text, lines] : cases) {
-        std::vector<std::string_view> actual;
+    testing::expectCases<1>(VANTRELL_TEST_DATA "/lines.tsv", [](const std::string& text) {
+        std::string lines;
         for (const auto line : reportLines(text)) {
-            actual.push_back(line);
+            lines.append(line).append("|");
         }
-        EXPECT_EQ(actual, lines) << name;
-    }
+        return lines.substr(0, lines.size() - 1);
+    });
 }
 
 TEST(SplitCells, KeepsEmptyCellsAndKnowsNoQuotes) {
@@ -40,20 +29,9 @@ TEST(SplitCells, KeepsEmptyCellsAndKnowsNoQuotes) {
 }
 
 TEST(NormalizedHeaderKey, IsTheSameForEverySpellingOfAHeading) {
-    const struct {
-        std::string_view heading;
-        std::string_view key;
-    } cases[] = {
-        {"Product Type Identifier", "product_type_identifier"},
-        {"PRODUCT-TYPE/IDENTIFIER", "product_type_identifier"},
-        {"\u00A0\tUnits\u3000", "units"},
-        {"Sale / Return", "sale___return"},
-        {"Ans\u00A0Units", "ans\u00A0units"},
-        {" ", ""},
-    };
-    for (const auto& [heading, key] : cases) {
-        EXPECT_EQ(normalizedHeaderKey(heading), key);
-    }
+    testing::expectCases<1>(VANTRELL_TEST_DATA "/headings.tsv", [](const std::string& heading) {
+        return std::string(normalizedHeaderKey(heading));
+    });
 }
 
 TEST(ReportColumns, AreTakenFromALineWithTheMarkerAndSixCells) {

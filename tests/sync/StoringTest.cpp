@@ -11,52 +11,6 @@ using testing::EngineFixture;
 
 constexpr const char* day = "2026-11-20";
 
-struct Case {
-    const char* name;
-    HttpResult answer;
-    const char* status;
-    std::int64_t rowCount;
-    std::size_t rows;
-    std::string message;
-    const char* outcome;
-};
-
-std::vector<Case> answersToAnOkReport() {
-    using F = EngineFixture;
-    return {
-        {"success", F::sales(2), "ok", 2, 2, "", "ok"},
-        {"success without lines", F::sales(0), "ok", 0, 0, "", "ok"},
-        {"no sales", F::noSales(), "empty", 0, 0, "HTTP 404: There were no sales for the date specified.",
-         "empty"},
-        {"not yet", F::notYet(), "pending", 1, 1, "HTTP 404: Report is not available yet.", "pending"},
-        {"gone", F::gone(), "unavailable", 1, 1, "HTTP 410: Report is no longer available.", "unavailable"},
-        {"refused", F::error(401, "No."), "error", 1, 1, "HTTP 401: No.", "error"},
-        {"server error", HttpResponse{502, "<html>"}, "error", 1, 1, "HTTP 502: <html>", "error"},
-        {"no answer", HttpFailure{"The network is down."}, "error", 1, 1, "The network is down.", "error"},
-        {"wrong version twice", F::error(400, "The latest version for this report is 1_3."), "error", 1, 1,
-         "HTTP 400: The latest version for this report is 1_3.", "error"},
-    };
-}
-
-TEST(StoringAReport, TurnsEachAnswerIntoStatusRowsAndALogLineAndNeverLosesRowsToAFailure) {
-    for (const Case& row : answersToAnOkReport()) {
-        EngineFixture fixture;
-        fixture.store(ReportFrequency::daily, day, ReportStatus::ok);
-        fixture.answers[std::string("DAILY ") + day] = row.answer;
-        fixture.run(fixture.engine().refetchDay(*dateFromDayKey(day)));
-        const SalesReport report = fixture.daily(day);
-        EXPECT_EQ(report.statusRaw, row.status) << row.name;
-        EXPECT_EQ(report.rowCount, row.rowCount) << row.name;
-        EXPECT_EQ(report.message, row.message) << row.name;
-        EXPECT_GT(report.fetchedAt, distantPast) << row.name;
-        EXPECT_EQ(fixture.context().fetchSalesRows().size(), row.rows) << row.name;
-        EXPECT_EQ(fixture.log(),
-                  std::vector<std::string>{std::string("sales daily 2026-11-20: ") + row.outcome})
-            << row.name;
-        EXPECT_FALSE(fixture.context().hasChanges()) << row.name;
-    }
-}
-
 TEST(StoringAReport, FailsByItselfWhereItCostsTooMuchAndLeavesNothingBehind) {
     const std::string header = "Provider\tSKU\tTitle\tUnits\tBegin Date\tEnd Date\n";
     std::string manyTexts = header;
@@ -97,20 +51,6 @@ TEST(StoringAReport, TellsOfCountsThatAreTooLarge) {
     fixture.run(fixture.engine().refetchDay(*dateFromDayKey(day)));
     EXPECT_EQ(fixture.daily(day).message,
               "The counts add up to more than can be shown; the largest that can be stands for them.\nTotal");
-}
-
-TEST(StoringAReport, StopsTheRunAtARateLimitAndLeavesTheReportAsItWas) {
-    EngineFixture fixture;
-    fixture.store(ReportFrequency::daily, day, ReportStatus::error);
-    fixture.answers[std::string("DAILY ") + day] = EngineFixture::error(429, "Slow down.");
-    fixture.run(fixture.engine().refetchDay(*dateFromDayKey(day)));
-    EXPECT_EQ(fixture.daily(day).message, "before");
-    EXPECT_EQ(fixture.daily(day).fetchedAt, distantPast);
-    EXPECT_EQ(fixture.log(), std::vector<std::string>{"sales daily 2026-11-20: rate-limited"});
-    EXPECT_EQ(fixture.engine().lastError(),
-              "Rate limited by Apple — the run stopped and will resume on the next sync.");
-    EXPECT_TRUE(fixture.clock.slept.empty());
-    EXPECT_FALSE(fixture.context().hasChanges()) << "the end of the run saves the log line";
 }
 
 TEST(StoringAReport, LooksAgainForAFresherCopyWhenItsTextWasRead) {
@@ -164,32 +104,6 @@ TEST(StoringAReport, KeepsAFresherCopyThatCameWhileTheRequestWasOut) {
         const bool kept = std::string(row.outcome) == "skipped";
         EXPECT_EQ(fixture.context().fetchSalesRows().size(), kept ? 1U : 2U) << row.name;
         EXPECT_EQ(fixture.daily(day).status(), ReportStatus::ok) << row.name;
-    }
-}
-
-TEST(StoringAReport, NotesTheDatesOfAFinanceReport) {
-    struct Dates {
-        const char* name;
-        const char* lines;
-        std::optional<Instant> start;
-        std::optional<Instant> end;
-    };
-    const std::vector<Dates> cases = {
-        {"earliest and latest",
-         "09/28/2026\t10/31/2026\tV\t1\t1.40\tEUR\n09/27/2026\t11/01/2026\tV\t1\t1.40\tUSD\n",
-         testing::noon(2026, 9, 27), testing::noon(2026, 11, 1)},
-        {"no end date in any line", "09/28/2026\t\tV\t1\t1.40\tEUR\n", testing::noon(2026, 9, 28),
-         distantPast},
-        {"no lines", "", std::nullopt, std::nullopt},
-    };
-    for (const Dates& row : cases) {
-        EngineFixture fixture;
-        fixture.answers["FINANCE 2027-01"] = EngineFixture::finance(row.lines);
-        fixture.run(fixture.engine().refetchFinance("2027-01"));
-        const FinanceReport report = fixture.context().financeReports().all().begin()->second;
-        EXPECT_EQ(report.startDate, row.start) << row.name;
-        EXPECT_EQ(report.endDate, row.end) << row.name;
-        EXPECT_EQ(fixture.log(), std::vector<std::string>{"finance ZZ 2027-01: ok"}) << row.name;
     }
 }
 

@@ -53,8 +53,6 @@ class EngineFixture {
 
     static HttpResult error(int status, const std::string& detail);
     static HttpResult notYet() { return error(404, "Report is not available yet."); }
-    static HttpResult noSales() { return error(404, "There were no sales for the date specified."); }
-    static HttpResult gone() { return error(410, "Report is no longer available."); }
     /// A sales report of as many lines, and a finance report.
     static HttpResult sales(int lines);
     static HttpResult finance(const std::string& lines);
