@@ -47,6 +47,7 @@ class Descriptor {
 
 // Where things lie at the beginning of a database; all numbers are big-endian.
 constexpr std::string_view magic{"SQLite format 3\0", 16};
+constexpr std::size_t largestRootOffset = 52;
 constexpr std::size_t versionOffset = 60;
 constexpr std::size_t applicationOffset = 68;
 constexpr std::size_t firstPageOffset = 100;
@@ -152,6 +153,10 @@ std::optional<StoreError> judge(const Beginning& beginning, const fs::path& file
     }
     if (beginning.number(versionOffset) > storeVersion) {
         return StoreError{"the store was written by a newer version of Vantrell"};
+    }
+    // It is 0 in every file that isn't kept small by SQLite itself, which would begin with that at once.
+    if (beginning.number(largestRootOffset) != 0) {
+        return StoreError{"the header of the store isn't as Vantrell writes it", StoreFailure::damaged};
     }
     return std::nullopt;
 }
