@@ -29,7 +29,7 @@ SUITES = {
     "src/platform": ["json_defaults", "files", "settings", "torture_storage"],
     "src/screens": ["settings", "screens"],
 }
-TORTURE = ["vantrell-demo", "vantrell_torture"]
+TORTURE = ["vantrell-demo", "vantrell_storage_shim"]
 
 
 def read_faults():
