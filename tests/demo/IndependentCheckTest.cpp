@@ -1,3 +1,4 @@
+#include "earnings/CSVLine.h"
 #include "earnings/Exports.h"
 #include "reports/FinanceParser.h"
 #include "reports/SalesParser.h"
@@ -31,25 +32,12 @@ sample::DateRange daysOf(ReportKind kind, const std::string& label) {
     return *sample::reportDays(kind, label);
 }
 
-/// "1234.5" for a Money of 123450 hundredths.
-std::string plainText(const sample::Money& money) {
-    std::string digits = std::to_string(money.minor < 0 ? -money.minor : money.minor);
-    const auto places = static_cast<std::size_t>(money.digits);
-    digits.insert(0, digits.size() <= places ? places + 1 - digits.size() : 0, '0');
-    if (places != 0) {
-        digits.insert(digits.size() - places, 1, '.');
-        digits.erase(digits.find_last_not_of('0') + 1);
-        digits.erase(digits.find_last_not_of('.') + 1);
+AmountsByCurrency amounts(const MoneyByCurrency& sums) {
+    AmountsByCurrency amounts;
+    for (const auto& [code, money] : sums) {
+        amounts[code] = Decimal::scaled(money.minor, -money.digits);
     }
-    return (money.minor < 0 ? "-" : "") + digits;
-}
-
-std::string breakdown(const MoneyByCurrency& amounts) {
-    std::string text;
-    for (const auto& [code, money] : amounts) {
-        text += (text.empty() ? "" : "; ") + code + " " + plainText(money);
-    }
-    return text;
+    return amounts;
 }
 
 std::string exact(const SalesTotals& totals) {
@@ -58,11 +46,12 @@ std::string exact(const SalesTotals& totals) {
                                      totals.redownloadUnits, totals.refundedUnits}) {
         text += std::to_string(units) + "|";
     }
-    return text + breakdown(totals.proceeds);
+    return text + breakdownText(amounts(totals.proceeds));
 }
 
 std::string exact(const PayoutTotals& totals) {
-    return std::to_string(totals.units) + "|" + std::to_string(totals.returns) + "|" + breakdown(totals.paid);
+    return std::to_string(totals.units) + "|" + std::to_string(totals.returns) + "|" +
+           breakdownText(amounts(totals.paid));
 }
 
 void add(MoneyByCurrency& sums, const MoneyByCurrency& others) {
@@ -197,13 +186,7 @@ TEST_F(IndependentCheck, AppsAreWhatTheyAndTheirProductsSold) {
             add(total.paid,
                 sample::payoutTotals(account_, daysOf(ReportKind::finance, period), payout.app.id).paid);
         }
-        EXPECT_EQ(testing::money(payout.allTime), [&] {
-            std::string text = breakdown(total.paid);
-            for (auto at = text.find(';'); at != std::string::npos; at = text.find(';', at)) {
-                text[at] = ',';
-            }
-            return text;
-        }()) << payout.app.title;
+        EXPECT_EQ(payout.allTime, amounts(total.paid)) << payout.app.title;
     }
 }
 

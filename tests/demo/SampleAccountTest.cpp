@@ -1,6 +1,10 @@
+#include "sample/Publication.h"
 #include "sample/SalesBody.h"
 #include "sample/SampleAccount.h"
 #include "sample/SampleTotals.h"
+#include "testing/Cases.h"
+
+#include <QDateTime>
 
 #include <gtest/gtest.h>
 
@@ -26,6 +30,20 @@ TEST(SampleAccount, StaysTheSameFromBuildToBuild) {
     EXPECT_EQ(totals.appUnits, 58);
     EXPECT_EQ(totals.inAppUnits, 130);
     EXPECT_EQ(totals.proceeds.at("JPY"), (Money{26868, 0}));
+}
+
+TEST(Publication, IsWhenTheRealOneIsAndEndsInTime) {
+    using Text = const std::string&;
+    testing::expectCases<3>(VANTRELL_TEST_DATA "/publication.tsv", [](Text report, Text date, Text time) {
+        const auto now = QDateTime::fromString(QString::fromStdString(time + "Z"), Qt::ISODate);
+        const ReportKind kind = salesReportKind(report).value_or(ReportKind::finance);
+        const auto answer =
+            Publication().availability(kind, reportDays(kind, date).value(),
+                                       Instant(std::chrono::milliseconds(now.toMSecsSinceEpoch())));
+        return std::string(answer == Availability::published ? "published"
+                           : answer == Availability::notYet  ? "not yet"
+                                                             : "no longer");
+    });
 }
 
 }  // namespace
