@@ -1,8 +1,4 @@
-#include "../platform/Keyring.h"
 #include "core/ProgramFolders.h"
-#include "core/PublicServices.h"
-#include "data/CredentialsKeychain.h"
-#include "platform/KeychainSecretStore.h"
 #include "testing/Golden.h"
 #include "testing/TemporaryFolder.h"
 
@@ -18,16 +14,7 @@
 namespace vantrell {
 namespace {
 
-using testing::Keyring;
 using testing::TemporaryFolder;
-
-TEST(PublicServices, AreTheRealOnesAndEncrypted) {
-    const ServiceOrigins services = publicServices();
-    EXPECT_EQ(services.reportService, "https://api.appstoreconnect.apple.com");
-    EXPECT_EQ(services.rateService, "https://open.er-api.com");
-    EXPECT_EQ(services.lookupService, "https://itunes.apple.com");
-    EXPECT_EQ(services.keyWebSite, "https://appstoreconnect.apple.com");
-}
 
 TEST(ProgramFolders, AreThoseOfTheDesktopAndOtherwiseOfTheAccount) {
     const std::string bytes = "/caf\xE9";
