@@ -1,6 +1,9 @@
 #include "platform/Sqlite.h"
 #include "testing/StoreFixture.h"
 
+#include <iterator>
+#include <sstream>
+
 #include <gtest/gtest.h>
 
 namespace vantrell {
@@ -78,17 +81,11 @@ TEST(Store, ReadsBackEveryPropertyAfterReopening) {
 }
 
 TEST(Store, KeepsDecimalsExactInEveryForm) {
-    const std::vector<std::string> texts = {"0",
-                                            "-0.01",
-                                            "1000000",
-                                            "0.000000000000001",
-                                            "0.0000000000000001",
-                                            "36028797018963967.5",
-                                            "576460752303423487",
-                                            "-576460752303423488",
-                                            "9223372036854775807",
-                                            "12345678901234567890123456789012345678",
-                                            "1" + std::string(400, '0')};
+    std::istringstream words(
+        "0 -0.01 1000000 0.000000000000001 0.0000000000000001 36028797018963967.5 576460752303423487 "
+        "-576460752303423488 9223372036854775807 12345678901234567890123456789012345678 1" +
+        std::string(400, '0'));
+    const std::vector<std::string> texts{std::istream_iterator<std::string>(words), {}};
     StoreFixture store;
     ModelContext* context = store.open();
     std::vector<SalesRowView> rows;

@@ -1,6 +1,7 @@
 #include "earnings/CSVLine.h"
 #include "earnings/Exports.h"
 #include "testing/AccountFile.h"
+#include "testing/Cases.h"
 #include "testing/Golden.h"
 
 #include <gtest/gtest.h>
@@ -11,22 +12,13 @@ namespace {
 using testing::EarningsFixture;
 
 TEST(CSVLine, QuotesOnlyWhatWouldBeReadWrongly) {
-    const struct {
-        const char* name;
+    testing::expectCases<1>(VANTRELL_TEST_DATA "/csv-lines.tsv", [](const std::string& joined) {
         std::vector<std::string> fields;
-        const char* line;
-    } cases[] = {
-        {"plain", {"a", "1", "-0.5"}, "a,1,-0.5"},
-        {"empty fields", {"", "", ""}, ",,"},
-        {"a comma", {"Notes, Pro", "b"}, "\"Notes, Pro\",b"},
-        {"a quote", {"The \"Best\""}, "\"The \"\"Best\"\"\""},
-        {"a line feed", {"a\nb"}, "\"a\nb\""},
-        {"a carriage return alone", {"a\rb"}, "a\rb"},
-        {"blanks stay", {" a "}, " a "},
-    };
-    for (const auto& row : cases) {
-        EXPECT_EQ(csvLine(row.fields), row.line) << row.name;
-    }
+        for (const QString& field : QString::fromStdString(joined).split(u'|')) {
+            fields.push_back(field.toStdString());
+        }
+        return csvLine(fields);
+    });
 }
 
 TEST(BreakdownText, IsExactAndInTheOrderOfTheCodes) {

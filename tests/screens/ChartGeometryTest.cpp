@@ -1,4 +1,5 @@
 #include "screens/charts/ChartMarks.h"
+#include "testing/Cases.h"
 
 #include <gmock/gmock.h>
 
@@ -22,26 +23,14 @@ CivilDate date(int year, unsigned month, unsigned day) {
 }
 
 TEST(ChartScale, HasFewRoundStepsWithZeroAmongThem) {
-    const struct {
-        const char* name;
-        double lowest;
-        double highest;
-        std::vector<double> marks;
-    } cases[] = {
-        {"thousands", 0, 1563, {0, 500, 1000, 1500, 2000}},
-        {"exactly a step", 0, 5, {0, 1, 2, 3, 4, 5}},
-        {"cents", 0, 0.3, {0, 0.1, 0.2, 0.3}},
-        {"few refunds have no step", -42, 900, {0, 200, 400, 600, 800, 1000}},
-        {"many refunds", -400, 380, {-400, -200, 0, 200, 400}},
-        {"refunds only", -62, 0, {-60, -40, -20, 0}},
-        {"nothing", 0, 0, {0}},
-        {"beyond all sums", 0, 1e308 * 10, {0}},
-    };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.name);
-        EXPECT_THAT(niceScale(row.lowest, row.highest).marks(),
-                    ::testing::Pointwise(::testing::DoubleNear(1e-9), row.marks));
-    }
+    using Text = const std::string&;
+    testing::expectCases<2>(VANTRELL_TEST_DATA "/scales.tsv", [](Text lowest, Text highest) {
+        std::string marks;
+        for (const double mark : niceScale(std::stod(lowest), std::stod(highest)).marks()) {
+            marks += (marks.empty() ? "" : " ") + QString::number(mark, 'g', 9).toStdString();
+        }
+        return marks;
+    });
 }
 
 TEST(TimeTicks, NameShortRangesByDateAndLongOnesByMonth) {
