@@ -37,7 +37,7 @@ class RunScript {
     void perform(std::istringstream& words) {
         const std::string verb = word(words);
         if (verb == "engine") {
-            fixture_ = std::make_unique<EngineFixture>();
+            fixture_ = std::make_unique<EngineFixture>("", rest(words));
             start_ = fixture_->clock.now();
         } else if (verb == "stored") {
             store(words);

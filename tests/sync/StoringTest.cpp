@@ -42,17 +42,6 @@ TEST(StoringAReport, FailsByItselfWhereItCostsTooMuchAndLeavesNothingBehind) {
     }
 }
 
-TEST(StoringAReport, TellsOfCountsThatAreTooLarge) {
-    EngineFixture fixture;
-    fixture.answers[std::string("DAILY ") + day] = HttpResponse{
-        200,
-        "Provider\tSKU\tTitle\tUnits\tBegin Date\tEnd Date\n"
-        "\ta\t\t9223372036854775807\t1/1/2026\t\n\ta\t\t9223372036854775807\t1/1/2026\t\nTotal\n"};
-    fixture.run(fixture.engine().refetchDay(*dateFromDayKey(day)));
-    EXPECT_EQ(fixture.daily(day).message,
-              "The counts add up to more than can be shown; the largest that can be stands for them.\nTotal");
-}
-
 TEST(StoringAReport, LooksAgainForAFresherCopyWhenItsTextWasRead) {
     for (const bool isFresher : {true, false}) {
         EngineFixture fixture;
@@ -133,28 +122,6 @@ TEST(StoringAReport, GoesOnWhenASaveFailsAndSavesEverythingWithTheNextOne) {
     fixture.run(fixture.engine().runSync());
     EXPECT_FALSE(fixture.context().hasChanges());
     EXPECT_EQ(fixture.context().fetchSalesRows().size(), 17U) << "14 days, 2 months and a year";
-}
-
-TEST(StoringAReport, WhoseLinesAreRefusedMakesItAloneAnError) {
-    EngineFixture fixture({},
-                          "CREATE TRIGGER refuse BEFORE INSERT ON sales_batch WHEN new.lineCount = 3"
-                          " BEGIN SELECT RAISE(ABORT, 'no three'); END");
-    fixture.answers[std::string("DAILY ") + day] = EngineFixture::sales(3);
-    fixture.otherwise = EngineFixture::sales(1);
-    fixture.run(fixture.engine().runSync());
-    EXPECT_EQ(fixture.daily(day).statusRaw, "error");
-    EXPECT_EQ(fixture.daily(day).message, "The report could not be stored: no three");
-    EXPECT_EQ(fixture.daily(day).rowCount, 0);
-    EXPECT_FALSE(fixture.context().hasChanges());
-    EXPECT_EQ(fixture.context().health().unsaved(), std::nullopt);
-}
-
-TEST(StoringAReport, IsNotBegunWhereTheStoreIsDamaged) {
-    EngineFixture fixture({}, "INSERT INTO sales_batch VALUES (1, 'default', 'DAILY', '2026-11-20', 1, 5)");
-    EXPECT_TRUE(fixture.context().fetchSalesRows().empty());
-    fixture.run(fixture.engine().runSync());
-    EXPECT_EQ(fixture.engine().lastError(), "The store is damaged, so nothing is fetched into it.");
-    EXPECT_TRUE(fixture.requests().empty());
 }
 
 }  // namespace
