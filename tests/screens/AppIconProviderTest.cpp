@@ -1,3 +1,4 @@
+#include "../window/WindowDriver.h"
 #include "screens/AppIconProvider.h"
 #include "testing/ScriptedHttp.h"
 #include "testing/SlowHttp.h"
@@ -6,7 +7,6 @@
 #include <memory>
 
 #include <QBuffer>
-#include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickView>
@@ -27,23 +27,18 @@ std::string picture() {
     return buffer.data().toStdString();
 }
 
-void fail(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
-    ADD_FAILURE() << text.toStdString();
-}
-
-/// A window with one icon. Whatever is logged meanwhile is a failure.
+/// A window with one icon. Whatever is complained of meanwhile is a failure.
 class IconWindow {
   public:
     IconWindow(HttpClient& http, const testing::TemporaryFolder& folder)
-        : earlier_(qInstallMessageHandler(fail)),
-          loader(std::make_unique<ImageLoader>(http, ImageLoaderSettings{.folder = folder.path()})),
+        : loader(std::make_unique<ImageLoader>(http, ImageLoaderSettings{.folder = folder.path()})),
           engine(std::make_unique<QQmlEngine>()),
           view(std::make_unique<QQuickView>(engine.get(), nullptr)) {
         engine->addImageProvider(QLatin1StringView(AppIconProvider::name), new AppIconProvider(*loader));
         view->setResizeMode(QQuickView::SizeRootObjectToView);
         view->resize(100, 100);
     }
-    ~IconWindow() { qInstallMessageHandler(earlier_); }
+    ~IconWindow() { EXPECT_EQ(complaints_.take(), ""); }
     IconWindow(const IconWindow&) = delete;
     IconWindow& operator=(const IconWindow&) = delete;
 
@@ -58,7 +53,7 @@ class IconWindow {
     [[nodiscard]] bool isReady() const { return item->property("status").toInt() == 1; }
 
   private:
-    QtMessageHandler earlier_;
+    testing::Complaints complaints_;
 
   public:
     std::unique_ptr<ImageLoader> loader;
@@ -117,9 +112,3 @@ TEST(AppIconProvider, ClosesInAnyOrderWhileAPictureIsUnderWay) {
 
 }  // namespace
 }  // namespace vantrell
-
-int main(int argc, char** argv) {
-    const QGuiApplication application(argc, argv);
-    ::testing::InitGoogleMock(&argc, argv);
-    return RUN_ALL_TESTS();
-}
