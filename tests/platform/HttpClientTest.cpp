@@ -193,29 +193,22 @@ TEST(HttpClient, SendsNothingForARequestThatCannotBeBuilt) {
     }
 }
 
-TEST(HttpClient, EndsACancelledRequestAtOnce) {
-    bool disconnected = false;
-    RawServer server([&disconnected](QTcpSocket& socket) {
-        QObject::connect(&socket, &QTcpSocket::disconnected, [&disconnected] { disconnected = true; });
-    });
-    QtHttpClient client;
-    CancelSource source;
-    auto waiting = client.get(requestTo(server), source.token());
-    ASSERT_TRUE(QTest::qWaitFor([&server] { return !server.requests.empty(); }, 10'000));
-    source.cancel();
-    ASSERT_TRUE(waiting.isReady());
-    EXPECT_EQ(failureOf(QCoro::waitFor(std::move(waiting))), "The request was cancelled.");
-    ASSERT_TRUE(QTest::qWaitFor([&disconnected] { return disconnected; }, 10'000));
-}
-
-TEST(HttpClient, EndsWhatIsUnderWayWhenItIsDestroyed) {
-    RawServer server(sending("HTTP/1.1 200 OK\r\n\r\nhel"));
-    auto client = std::make_unique<QtHttpClient>();
-    auto waiting = client->get(requestTo(server), {});
-    ASSERT_TRUE(QTest::qWaitFor([&server] { return !server.requests.empty(); }, 10'000));
-    client.reset();
-    ASSERT_TRUE(waiting.isReady());
-    EXPECT_EQ(failureOf(QCoro::waitFor(std::move(waiting))), "The request was cancelled.");
+TEST(HttpClient, EndsWhatIsUnderWayAtOnceWhenItIsCancelledOrTheClientDestroyed) {
+    for (const bool isCancelled : {true, false}) {
+        bool disconnected = false;
+        RawServer server([&disconnected](QTcpSocket& socket) {
+            sending("HTTP/1.1 200 OK\r\n\r\nhel")(socket);
+            QObject::connect(&socket, &QTcpSocket::disconnected, [&disconnected] { disconnected = true; });
+        });
+        auto client = std::make_unique<QtHttpClient>();
+        CancelSource source;
+        auto waiting = client->get(requestTo(server), source.token());
+        ASSERT_TRUE(QTest::qWaitFor([&server] { return !server.requests.empty(); }, 10'000));
+        isCancelled ? source.cancel() : client.reset();
+        ASSERT_TRUE(waiting.isReady());
+        EXPECT_EQ(failureOf(QCoro::waitFor(std::move(waiting))), "The request was cancelled.");
+        ASSERT_TRUE(QTest::qWaitFor([&disconnected] { return disconnected; }, 10'000));
+    }
 }
 
 }  // namespace

@@ -40,12 +40,8 @@ bool isGenuine(const std::string& token, const std::string& publicPEM) {
 
 /// What stands between the armour lines, joined by `lineEnd`.
 std::string inside(const std::string& pem, const std::string& lineEnd) {
-    const auto start = pem.find('\n') + 1;
-    std::string text = pem.substr(start, pem.find("\n-----END") - start);
-    for (auto at = text.find('\n'); at != std::string::npos; at = text.find('\n', at + lineEnd.size())) {
-        text.replace(at, 1, lineEnd);
-    }
-    return text;
+    auto lines = QByteArray::fromStdString(pem).trimmed().split('\n');
+    return lines.mid(1, lines.size() - 2).join(lineEnd.c_str()).toStdString();
 }
 
 std::string written(const OwnedKey& key, const EVP_CIPHER* cipher, bool traditional) {
