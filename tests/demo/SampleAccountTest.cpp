@@ -4,8 +4,6 @@
 #include "sample/SampleTotals.h"
 #include "testing/Cases.h"
 
-#include <QDateTime>
-
 #include <gtest/gtest.h>
 
 namespace vantrell::sample {
@@ -35,11 +33,9 @@ TEST(SampleAccount, StaysTheSameFromBuildToBuild) {
 TEST(Publication, IsWhenTheRealOneIsAndEndsInTime) {
     using Text = const std::string&;
     testing::expectCases<3>(VANTRELL_TEST_DATA "/publication.tsv", [](Text report, Text date, Text time) {
-        const auto now = QDateTime::fromString(QString::fromStdString(time + "Z"), Qt::ISODate);
         const ReportKind kind = salesReportKind(report).value_or(ReportKind::finance);
         const auto answer =
-            Publication().availability(kind, reportDays(kind, date).value(),
-                                       Instant(std::chrono::milliseconds(now.toMSecsSinceEpoch())));
+            Publication().availability(kind, reportDays(kind, date).value(), testing::instantOf(time));
         return std::string(answer == Availability::published ? "published"
                            : answer == Availability::notYet  ? "not yet"
                                                              : "no longer");

@@ -4,8 +4,6 @@
 
 #include <map>
 
-#include <QDateTime>
-
 namespace vantrell {
 namespace {
 
@@ -17,11 +15,6 @@ const std::string tables = VANTRELL_TEST_DATA "/locale/";
 
 Locale localeNamed(const std::string& name) {
     return Locale({name, name, name, name, name});
-}
-
-Instant instant(Text text) {
-    const auto time = QDateTime::fromString(QString::fromStdString(text), Qt::ISODateWithMs);
-    return Instant(std::chrono::milliseconds(time.toMSecsSinceEpoch()));
 }
 
 TEST(Locale, MoneyHasTheDigitsOfItsCurrencyAndTheSignsOfTheLocale) {
@@ -76,7 +69,7 @@ TEST(Locale, DatesAreGregorianInTheMannerOfTheLocale) {
 TEST(Locale, DistancesInTimeAreNamedWhereTheCalendarAgrees) {
     expectCases<3>(tables + "distances.tsv", [](Text locale, Text now, Text then) {
         const auto berlin = TimeZone::named("Europe/Berlin").value();
-        return localeNamed(locale).relativeTime(instant(then), instant(now), berlin);
+        return localeNamed(locale).relativeTime(testing::instantOf(then), testing::instantOf(now), berlin);
     });
 }
 

@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QList>
 
 namespace vantrell::testing {
@@ -23,6 +24,16 @@ std::vector<std::vector<std::string>> linesOfCases(const std::filesystem::path& 
     }
     EXPECT_FALSE(lines.empty()) << table;
     return lines;
+}
+
+Instant instantOf(const std::string& text) {
+    const auto time = QDateTime::fromString(QString::fromStdString(text), Qt::ISODateWithMs);
+    return Instant(std::chrono::milliseconds(time.toMSecsSinceEpoch()));
+}
+
+std::string textOf(Instant instant) {
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(instant).time_since_epoch().count();
+    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate).toStdString();
 }
 
 }  // namespace vantrell::testing

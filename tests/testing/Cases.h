@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Instant.h"
+
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -14,6 +16,10 @@ namespace vantrell::testing {
 /// test.
 [[nodiscard]] std::vector<std::vector<std::string>> linesOfCases(const std::filesystem::path& table,
                                                                  std::size_t cells);
+
+/// A time as it stands in a table, such as 2026-11-22T13:00:00Z, and back.
+[[nodiscard]] Instant instantOf(const std::string& text);
+[[nodiscard]] std::string textOf(Instant instant);
 
 /// Expects of each case that `result`, given all cells but the last, is what the last one says.
 template <std::size_t given, typename Result>
