@@ -1,8 +1,6 @@
 #include "testing/EarningsFixture.h"
 #include "testing/FaultyVfs.h"
 
-#include <random>
-
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -45,42 +43,6 @@ TEST(Reload, PublishesOnlyWhatDiffers) {
     store.setAppFilter(std::set<std::int64_t>{1});
     EXPECT_EQ(filters.count(), 1);
     EXPECT_EQ(revisions.count(), 1);
-}
-
-TEST(Reload, OfWhatChangedGivesTheSameAsReadingEverything) {
-    const std::uint32_t seed = 20261122;
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
-    EarningsFixture fixture;
-    for (int round = 0; round < 60; ++round) {
-        const std::string date =
-            dayKey(*movedByDays(*dateFromDayKey("2026-11-22"), -1 - static_cast<int>(random() % 20)));
-        std::vector<Line> lines;
-        for (std::uint32_t count = random() % 4; count > 0; --count) {
-            lines.push_back(
-                {.appleID = 1 + static_cast<std::int64_t>(random() % 5),
-                 .productType = random() % 3 == 0 ? "IA1" : "1F",
-                 .units = static_cast<std::int64_t>(random() % 7) - 3,
-                 .proceeds = std::to_string(random() % 100) + "." + std::to_string(random() % 100),
-                 .title = "T" + std::to_string(random() % 3)});
-        }
-        fixture.daily(date, lines);
-        fixture.payments("2026-1" + std::to_string(random() % 3), {{.share = std::to_string(round)}});
-        if (round % 3 == 0) {
-            // The next round may replace what was read ahead.
-            EXPECT_FALSE(fixture.store().readAhead(fixture.context()));
-            continue;
-        }
-        EarningsStore& incremental = fixture.reload();
-        const auto whole = fixture.another();
-        whole->reload(fixture.context());
-        ASSERT_EQ(incremental.catalog(), whole->catalog()) << "round " << round;
-        ASSERT_EQ(incremental.dayTable("2026-11-01", "2026-11-21", {}),
-                  whole->dayTable("2026-11-01", "2026-11-21", {}))
-            << "round " << round;
-        ASSERT_EQ(incremental.salesRows().size(), whole->salesRows().size());
-        ASSERT_EQ(incremental.financePeriods({}), whole->financePeriods({})) << "round " << round;
-    }
 }
 
 TEST(Reload, OfAStoreThatCanNotBeReadShowsTheRestAndSaysSo) {
