@@ -1,17 +1,17 @@
 #include "RawServer.h"
-#include "platform/OpenSslOwners.h"
 #include "platform/QtHttpClient.h"
+#include "testing/WrittenBy.h"
 
 #include <filesystem>
 #include <iterator>
 #include <thread>
 
 #include <QDeadlineTimer>
+#include <QNetworkProxyFactory>
 #include <QSslKey>
 #include <QSslServer>
 
 #include <gmock/gmock.h>
-#include <openssl/pem.h>
 #include <openssl/x509v3.h>
 
 namespace vantrell {
@@ -23,16 +23,6 @@ using testing::sending;
 constexpr auto untrusted = "The server's certificate is not trusted.";
 constexpr long day = 24L * 60 * 60;
 using Certificate = std::unique_ptr<X509, OpenSslRelease<X509_free>>;
-
-/// What one of OpenSSL's writers puts out.
-template <typename Write>
-QByteArray writtenBy(Write write) {
-    const OwnedBio bio(BIO_new(BIO_s_mem()));
-    EXPECT_EQ(write(bio.get()), 1);
-    char* data = nullptr;
-    const auto size = BIO_get_mem_data(bio.get(), &data);
-    return {data, static_cast<qsizetype>(size)};
-}
 
 void addExtension(X509* certificate, int kind, const char* value) {
     const std::unique_ptr<X509_EXTENSION, OpenSslRelease<X509_EXTENSION_free>> extension(
@@ -63,17 +53,14 @@ struct Identity {
         EXPECT_GT(X509_sign(x509, issuer ? issuer->key.get() : key.get(), EVP_sha256()), 0);
     }
 
-    [[nodiscard]] QByteArray pem() const {
-        return writtenBy([this](BIO* bio) { return PEM_write_bio_X509(bio, certificate.get()); });
+    [[nodiscard]] std::string pem() const {
+        return testing::writtenBy([this](BIO* bio) { return PEM_write_bio_X509(bio, certificate.get()); });
     }
 
     [[nodiscard]] std::unique_ptr<QSslServer> server() const {
-        const auto keyText = writtenBy([this](BIO* bio) {
-            return PEM_write_bio_PKCS8PrivateKey(bio, key.get(), nullptr, nullptr, 0, nullptr, nullptr);
-        });
         auto configuration = QSslConfiguration::defaultConfiguration();
-        configuration.setLocalCertificate(QSslCertificate(pem()));
-        configuration.setPrivateKey(QSslKey(keyText, QSsl::Ec));
+        configuration.setLocalCertificate(QSslCertificate(QByteArray::fromStdString(pem())));
+        configuration.setPrivateKey(QSslKey(QByteArray::fromStdString(testing::privatePEM(key)), QSsl::Ec));
         auto server = std::make_unique<QSslServer>();
         server->setSslConfiguration(configuration);
         return server;
@@ -89,7 +76,11 @@ std::ptrdiff_t threads() {
 
 class Tls : public ::testing::Test {
   protected:
-    static void SetUpTestSuite() { threadsBefore = threads(); }
+    static void SetUpTestSuite() {
+        // The one that knows the proxies of the system stays.
+        QNetworkProxyFactory::systemProxyForQuery(QNetworkProxyQuery(QUrl(QStringLiteral("https://a.test"))));
+        threadsBefore = threads();
+    }
     /// A client's network thread outlives it for a moment, and what OpenSSL keeps for that thread would count
     /// as leaked if the process ended first.
     static void TearDownTestSuite() {
@@ -112,7 +103,7 @@ class Tls : public ::testing::Test {
     const Identity stranger{"Trusted Authority", nullptr, nullptr};
     const Identity good{"Reports", "IP:127.0.0.1", &authority};
     const RawServer::Answer hello = sending("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello");
-    QtHttpClient client{authority.pem().toStdString()};
+    QtHttpClient client{authority.pem()};
 };
 
 TEST_F(Tls, OnlyATrustedAuthoritysCertificateIsAccepted) {

@@ -1,7 +1,7 @@
 #include "platform/KeyPair.h"
-#include "platform/OpenSslOwners.h"
 #include "platform/VerifyingKey.h"
 #include "reports/APIToken.h"
+#include "testing/WrittenBy.h"
 
 #include <QByteArray>
 #include <QJsonDocument>
@@ -9,11 +9,11 @@
 #include <QList>
 
 #include <gtest/gtest.h>
-#include <openssl/evp.h>
-#include <openssl/pem.h>
 
 namespace vantrell {
 namespace {
+
+using testing::privatePEM;
 
 constexpr Instant issueTime{std::chrono::microseconds{1'795'348'800'999'999}};
 
@@ -44,16 +44,10 @@ std::string inside(const std::string& pem, const std::string& lineEnd) {
     return lines.mid(1, lines.size() - 2).join(lineEnd.c_str()).toStdString();
 }
 
-std::string written(const OwnedKey& key, const EVP_CIPHER* cipher, bool traditional) {
-    const OwnedBio bio(BIO_new(BIO_s_mem()));
-    EXPECT_EQ(traditional ? PEM_write_bio_PrivateKey_traditional(bio.get(), key.get(), nullptr, nullptr, 0,
-                                                                 nullptr, nullptr)
-                          : PEM_write_bio_PKCS8PrivateKey(bio.get(), key.get(), cipher, "secret", 6, nullptr,
-                                                          nullptr),
-              1);
-    char* data = nullptr;
-    const auto size = BIO_get_mem_data(bio.get(), &data);
-    return {data, static_cast<std::size_t>(size)};
+std::string sec1Of(const OwnedKey& key) {
+    return testing::writtenBy([&](BIO* bio) {
+        return PEM_write_bio_PrivateKey_traditional(bio, key.get(), nullptr, nullptr, 0, nullptr, nullptr);
+    });
 }
 
 std::string refusal(const std::string& pem) {
@@ -104,7 +98,7 @@ TEST(APIToken, IsSignedWithAKeyInAnyOfItsUsualForms) {
     for (const auto& [name, text] : cases) {
         EXPECT_TRUE(isGenuine(makeAPIToken(credentialsWith(text), issueTime), keys.publicPEM)) << name;
     }
-    const std::string sec1 = written(OwnedKey(EVP_EC_gen("P-256")), nullptr, true);
+    const std::string sec1 = sec1Of(OwnedKey(EVP_EC_gen("P-256")));
     EXPECT_EQ(refusal(sec1), "accepted");
     EXPECT_EQ(refusal(inside(sec1, "")), "accepted") << "without its armour";
 }
@@ -114,9 +108,7 @@ TEST(APIToken, AnUnreadableKeyIsToldInWordsThatHoldNothingOfIt) {
     const std::string notText = prefix + "the file is not valid PEM or base64";
     const OwnedKey p256(EVP_EC_gen("P-256"));
     const OwnedKey p384(EVP_EC_gen("P-384"));
-    const std::string bare = inside(written(p256, nullptr, false), "");
-    auto foreignScalar =
-        QByteArray::fromBase64(QByteArray::fromStdString(inside(written(p256, nullptr, true), "")));
+    auto foreignScalar = QByteArray::fromBase64(QByteArray::fromStdString(inside(sec1Of(p256), "")));
     foreignScalar[20] = static_cast<char>(foreignScalar[20] ^ 1);
     const struct {
         const char* name;
@@ -128,12 +120,10 @@ TEST(APIToken, AnUnreadableKeyIsToldInWordsThatHoldNothingOfIt) {
         {"a page", "<!DOCTYPE html>\n<html><body>Sign in</body></html>\n", notText},
         {"a name", "AuthKey_7QK2MZ8T5W.p8", notText},
         {"padding left out", "SGVsbG8sIHdvcmxkIQ", notText},
-        {"another curve", written(p384, nullptr, false),
-         prefix + "the key is not an elliptic-curve key on P-256"},
+        {"another curve", privatePEM(p384), prefix + "the key is not an elliptic-curve key on P-256"},
         {"a public key", generateKeyPair().publicPEM, prefix + "the data is not a private key"},
         {"halves of two keys", foreignScalar.toBase64().toStdString(), prefix + "the key is damaged"},
-        {"a password", written(p256, EVP_aes_128_cbc(), false),
-         prefix + "the key is protected by a password"},
+        {"a password", privatePEM(p256, EVP_aes_128_cbc()), prefix + "the key is protected by a password"},
     };
     for (const auto& [name, text, words] : cases) {
         EXPECT_EQ(refusal(text), words) << name;
