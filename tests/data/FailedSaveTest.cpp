@@ -10,6 +10,7 @@ namespace {
 using testing::FaultyVfs;
 using testing::sale;
 using testing::StoreFixture;
+using testing::unitsOf;
 
 // A second report beside a first one that is replaced, with a status and a log line: what a run does.
 void changeEverything(ModelContext& context) {
@@ -26,14 +27,6 @@ void fillFirst(ModelContext& context) {
     context.salesReports().insert({.reportDate = "2026-08-14", .statusRaw = "ok", .rowCount = 1});
     context.replaceSalesRows("DAILY", "2026-08-14", {sale(1, "1.1")});
     ASSERT_EQ(context.save(), std::nullopt);
-}
-
-std::vector<std::int64_t> unitsOf(ModelContext& context) {
-    std::vector<std::int64_t> units;
-    for (const SalesRow& row : context.fetchSalesRows()) {
-        units.push_back(row.line.units);
-    }
-    return units;
 }
 
 struct Fault {

@@ -13,6 +13,7 @@ using testing::fullSalesRow;
 using testing::noon;
 using testing::sale;
 using testing::StoreFixture;
+using testing::unitsOf;
 
 ParsedFinanceRow fullFinanceRow() {
     return {.startDate = noon(2026, 6, 28),
@@ -113,17 +114,10 @@ TEST(Store, GivesRowsByFrequencyThenDateThenFile) {
     context->replaceSalesRows("DAILY", "2026-08-15", {sale(2, "1"), sale(3, "1")});
     context->replaceSalesRows("MONTHLY", "2026-08", {sale(4, "1")});
     context->replaceSalesRows("DAILY", "2026-08-14", {sale(5, "1")});
-    std::vector<std::int64_t> pending;
-    for (const SalesRow& row : context->fetchSalesRows()) {
-        pending.push_back(row.line.units);
-    }
-    EXPECT_EQ(pending, (std::vector<std::int64_t>{5, 2, 3, 4, 1}));
+    const std::vector<std::int64_t> ordered{5, 2, 3, 4, 1};
+    EXPECT_EQ(unitsOf(*context), ordered);
     ASSERT_EQ(context->save(), std::nullopt);
-    std::vector<std::int64_t> saved;
-    for (const SalesRow& row : store.open()->fetchSalesRows()) {
-        saved.push_back(row.line.units);
-    }
-    EXPECT_EQ(saved, pending);
+    EXPECT_EQ(unitsOf(*store.open()), ordered);
 }
 
 TEST(Store, ReplacesOnlyTheRowsOfThatReport) {
@@ -136,9 +130,7 @@ TEST(Store, ReplacesOnlyTheRowsOfThatReport) {
     context->replaceSalesRows("DAILY", "2026-08-14", {sale(5, "1")});
     context->replaceSalesRows("DAILY", "2026-08-15", {});
     ASSERT_EQ(context->save(), std::nullopt);
-    const auto rows = store.open()->fetchSalesRows();
-    ASSERT_EQ(rows.size(), 1U);
-    EXPECT_EQ(rows.front().line.units, 5);
+    EXPECT_EQ(unitsOf(*store.open()), std::vector<std::int64_t>{5});
 }
 
 TEST(Store, RemovesARecordForGood) {

@@ -56,7 +56,6 @@ class EngineFixture {
     /// A sales report of as many lines, and a finance report.
     static HttpResult sales(int lines);
     static HttpResult finance(const std::string& lines);
-    static HttpResult rates(const std::string& body = R"({"result":"success","rates":{"USD":1,"EUR":0.9}})");
 
     ManualClock clock;
     HeldWorker worker;

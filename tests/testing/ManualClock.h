@@ -12,9 +12,8 @@ namespace vantrell::testing {
 /// once, so that a run with pauses takes no time; with `autoAdvance` off a sleeper waits for `advance`.
 class ManualClock final : public Clock {
   public:
-    explicit ManualClock(Instant start = std::chrono::sys_days{CivilDate{std::chrono::year{2026} /
-                                                                         std::chrono::November /
-                                                                         std::chrono::day{22}}} +
+    /// On 22 November 2026 at noon UTC unless told otherwise.
+    explicit ManualClock(Instant start = std::chrono::sys_days{std::chrono::year{2026} / 11 / 22} +
                                          std::chrono::hours{12})
         : now_(start) {}
 

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace vantrell::testing {
 
@@ -75,6 +76,15 @@ template <typename Text = std::string_view>
     row.units = units;
     row.proceedsPerUnit = *Decimal::parse(proceeds);
     return row;
+}
+
+/// Of all stored lines, in order.
+[[nodiscard]] inline std::vector<std::int64_t> unitsOf(ModelContext& context) {
+    std::vector<std::int64_t> units;
+    for (const SalesRow& row : context.fetchSalesRows()) {
+        units.push_back(row.line.units);
+    }
+    return units;
 }
 
 }  // namespace vantrell::testing
