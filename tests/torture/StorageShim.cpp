@@ -37,9 +37,9 @@ struct Call {
     std::size_t size = 0;
 };
 
-std::string_view setting(const char* name) {
+const char* setting(const char* name) {
     const char* value = std::getenv(name);
-    return value == nullptr ? std::string_view() : std::string_view(value);
+    return value == nullptr ? "" : value;
 }
 
 template <typename Function>
@@ -64,15 +64,13 @@ std::string pathOf(int file) {
 }
 
 void writeDown(const Call& call) {
-    static const int log =
-        setting("STORAGE_LOG").empty()
-            ? -1
-            : static_cast<int>(syscall(SYS_open, std::getenv("STORAGE_LOG"),
-                                       O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    // There is no file of an empty name.
+    static const long log = syscall(SYS_open, setting("STORAGE_LOG"),
+                                    O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (log < 0) {
         return;
     }
-    const std::size_t root = setting("STORAGE_FOLDER").size();
+    const std::size_t root = std::string_view(setting("STORAGE_FOLDER")).size();
     const auto inFolder = [root](const std::string& path) {
         return path.size() > root ? path.substr(root + 1) : std::string();
     };
@@ -88,8 +86,8 @@ void writeDown(const Call& call) {
 int faultAt(std::string_view kind, const std::function<void()>& half) {
     static std::atomic<long> calls = 0;
     const long number = ++calls;
-    const long chosen = std::atol(setting("STORAGE_AT").empty() ? "0" : std::getenv("STORAGE_AT"));
-    const bool isLasting = !setting("STORAGE_LASTING").empty();
+    const long chosen = std::atol(setting("STORAGE_AT"));
+    const bool isLasting = *setting("STORAGE_LASTING") != '\0';
     if (chosen == 0 || (isLasting ? number < chosen : number != chosen)) {
         return 0;
     }
@@ -141,7 +139,7 @@ int open64(const char* path, int flags, ...) {
     va_start(rest, flags);
     const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(rest, mode_t) : 0;
     va_end(rest);
-    const auto run = [=] { return original<int(const char*, int, ...)>("open64")(path, flags, mode); };
+    const auto run = [=] { return original<decltype(::open64)>("open64")(path, flags, mode); };
     if ((flags & O_ACCMODE) == O_RDONLY) {
         return run();
     }
@@ -158,20 +156,19 @@ ssize_t write(int file, const void* bytes, std::size_t size) {
     std::string path = pathOf(file);
     const off_t offset = isInside(path) ? ::lseek(file, 0, SEEK_CUR) : 0;
     return writeSome({"write", std::move(path), offset, {}, bytes, size}, [=](std::size_t count) {
-        return original<ssize_t(int, const void*, std::size_t)>("write")(file, bytes, count);
+        return original<decltype(::write)>("write")(file, bytes, count);
     });
 }
 
 ssize_t pwrite64(int file, const void* bytes, std::size_t size, off_t offset) {
     return writeSome({"write", pathOf(file), offset, {}, bytes, size}, [=](std::size_t count) {
-        return original<ssize_t(int, const void*, std::size_t, off_t)>("pwrite64")(file, bytes, count,
-                                                                                   offset);
+        return original<decltype(::pwrite64)>("pwrite64")(file, bytes, count, offset);
     });
 }
 
 int ftruncate64(int file, off_t length) noexcept {
     return counted({"resize", pathOf(file), length},
-                   [=] { return original<int(int, off_t)>("ftruncate64")(file, length); });
+                   [=] { return original<decltype(::ftruncate64)>("ftruncate64")(file, length); });
 }
 
 int fsync(int file) {
@@ -187,15 +184,13 @@ int unlink(const char* path) noexcept {
 }
 
 int rename(const char* from, const char* to) noexcept {
-    return counted({"rename", from, 0, to},
-                   [=] { return original<int(const char*, const char*)>("rename")(from, to); });
+    return counted({"rename", from, 0, to}, [=] { return original<decltype(::rename)>("rename")(from, to); });
 }
 
 // How a file gets its name that was written without one.
 int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept {
     return counted({"rename", linkedPath(from), 0, to}, [=] {
-        return original<int(int, const char*, int, const char*, int)>("linkat")(fromFolder, from, toFolder,
-                                                                                to, flags);
+        return original<decltype(::linkat)>("linkat")(fromFolder, from, toFolder, to, flags);
     });
 }
 

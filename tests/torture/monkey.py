@@ -10,21 +10,13 @@ import pathlib
 import subprocess
 import sys
 
-HERE = pathlib.Path(__file__).resolve().parent
-
-
-def main():
-    options = argparse.ArgumentParser()
-    options.add_argument("--tests", type=pathlib.Path, required=True)
-    options.add_argument("--short", action="store_true")
-    chosen = options.parse_args()
-    leaks = HERE.parent / "window" / "leaks.txt"
-    surroundings = {"TZ": "Europe/Berlin", "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "offscreen",
-                    "LSAN_OPTIONS": f"suppressions={leaks}:print_suppressions=0"}
-    program = chosen.tests.resolve().parent.parent / "bin" / "monkey_tests"
-    plan = [] if chosen.short else ["--actions", "2000", "--quits", "100"]
-    return subprocess.run([program, *plan], env=os.environ | surroundings, check=False).returncode
-
-
-if __name__ == "__main__":
-    sys.exit(main())
+options = argparse.ArgumentParser()
+options.add_argument("--tests", type=pathlib.Path, required=True)
+options.add_argument("--short", action="store_true")
+chosen = options.parse_args()
+leaks = pathlib.Path(__file__).resolve().parents[1] / "window/leaks.txt"
+environment = {**os.environ, "TZ": "Europe/Berlin", "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "offscreen",
+               "LSAN_OPTIONS": f"suppressions={leaks}:print_suppressions=0"}
+program = chosen.tests.resolve().parents[1] / "bin/monkey_tests"
+plan = [] if chosen.short else ["2000", "100"]
+sys.exit(subprocess.run([program, *plan], env=environment, check=False).returncode)

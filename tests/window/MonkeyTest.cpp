@@ -6,7 +6,6 @@
 #include <iostream>
 #include <random>
 
-#include <QCommandLineParser>
 #include <QGuiApplication>
 #include <QKeySequence>
 #include <QTest>
@@ -147,15 +146,10 @@ int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
     ::testing::InitGoogleMock(&argc, argv);
-    const QString plan[] = {QStringLiteral("actions"), QStringLiteral("quits"), QStringLiteral("seed")};
-    QCommandLineParser options;
-    options.addOptions({{plan[0], {}, plan[0], QStringLiteral("200")},
-                        {plan[1], {}, plan[1], QStringLiteral("5")},
-                        {plan[2], {}, plan[2], QStringLiteral("1")}});
-    options.process(QGuiApplication::arguments());
-    const auto number = [&](const QString& name) { return options.value(name).toInt(); };
+    QStringList plan = QGuiApplication::arguments().mid(1);
+    plan += QStringList{QStringLiteral("200"), QStringLiteral("5"), QStringLiteral("1")}.mid(plan.size());
     try {
-        return vantrell::run(number(plan[0]), number(plan[1]), static_cast<unsigned>(number(plan[2])));
+        return vantrell::run(plan[0].toInt(), plan[1].toInt(), plan[2].toUInt());
     } catch (const std::exception& error) {
         std::cerr << error.what() << std::endl;
         return EXIT_FAILURE;

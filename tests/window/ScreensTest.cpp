@@ -63,17 +63,6 @@ INSTANTIATE_TEST_SUITE_P(Looks, EveryScreen,
                                            Look{"Arabic", true, true, "ar_EG", {800, 600}}),
                          [](const auto& look) { return look.param.name; });
 
-TEST(Screens, TellEachFigureToAScreenReader) {
-    WindowHouse house;
-    house.daily("2026-11-21", "Notebook", "USD", 3);
-    house.show();
-    const std::string heard = walkThrough(house);
-    for (const char* figure : {"Most recent day with data, 3.00 US dollars\t$3.00", "Yesterday",
-                               "All time, 3.00 US dollars\t$3.00", "Proceeds, 3.00 US dollars\t$3.00"}) {
-        EXPECT_NE(heard.find(figure), std::string::npos) << figure;
-    }
-}
-
 // Every text of a report, a service or a file may be anything: it is shown as it stands, cut to a bearable
 // length, and nothing that it names is fetched.
 TEST(Screens, ShowHostileTextsAsPlainText) {

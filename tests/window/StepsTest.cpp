@@ -3,8 +3,9 @@
 #include "testing/Golden.h"
 #include "trial/SpokenText.h"
 
+#include <functional>
+#include <map>
 #include <sstream>
-#include <stdexcept>
 #include <string>
 
 #include <QClipboard>
@@ -43,35 +44,36 @@ class Steps : public ::testing::Test {
         const QString text = object.section(QStringLiteral(": "), 1);
         const auto role = static_cast<QAccessible::Role>(
             QMetaEnum::fromType<QAccessible::Role>().keyToValue(target.toLatin1()));
-        if (verb == QStringLiteral("click")) {
-            driver.click(role, text);
-        } else if (verb == QStringLiteral("tab")) {
-            driver.tabTo(role, text);
-        } else if (verb == QStringLiteral("see")) {
-            driver.expectToSee(role, text);
-        } else if (verb == QStringLiteral("miss")) {
-            EXPECT_FALSE(driver.sees(role, text));
-        } else if (verb == QStringLiteral("keys")) {
-            for (const QString& key : object.split(u' ')) {
-                const QKeyCombination pressed = QKeySequence(key)[0];
-                driver.key(pressed.key(), pressed.keyboardModifiers());
-            }
-        } else if (verb == QStringLiteral("has")) {
-            const QQmlProperty property(&house.windows().root(), target);
-            driver.waitUntil([&] { return property.read().toString() == text; }, step.toStdString());
-        } else if (verb == QStringLiteral("copied")) {
-            EXPECT_EQ(QGuiApplication::clipboard()->text(), QUrl::fromPercentEncoding(object.toUtf8()));
-        } else if (verb == QStringLiteral("put")) {
-            QGuiApplication::clipboard()->setText(object);
-        } else if (verb == QStringLiteral("filter")) {
-            house.app().store().setAppFilter(std::set<std::int64_t>{object.toLongLong()});
-        } else {
-            throw std::runtime_error("no step: " + step.toStdString());
-        }
+        const std::map<QString, std::function<void()>> verbs{
+            {QStringLiteral("click"), [&] { driver.click(role, text); }},
+            {QStringLiteral("tab"), [&] { driver.tabTo(role, text); }},
+            {QStringLiteral("see"), [&] { driver.expectToSee(role, text); }},
+            {QStringLiteral("miss"), [&] { EXPECT_FALSE(driver.sees(role, text)); }},
+            {QStringLiteral("keys"), [&] { press(object.split(u' ')); }},
+            {QStringLiteral("has"), [&] { expectProperty(target, text); }},
+            {QStringLiteral("put"), [&] { QGuiApplication::clipboard()->setText(object); }},
+            {QStringLiteral("copied"),
+             [&] {
+                 EXPECT_EQ(QGuiApplication::clipboard()->text(), QUrl::fromPercentEncoding(object.toUtf8()));
+             }},
+            {QStringLiteral("filter"),
+             [&] { house.app().store().setAppFilter(std::set<std::int64_t>{object.toLongLong()}); }}};
+        ASSERT_TRUE(verbs.contains(verb)) << step.toStdString();
+        verbs.at(verb)();
     }
 
   protected:
     void TestBody() override {}
+    void press(const QStringList& keys) {
+        for (const QString& key : keys) {
+            const QKeyCombination pressed = QKeySequence(key)[0];
+            driver.key(pressed.key(), pressed.keyboardModifiers());
+        }
+    }
+    void expectProperty(const QString& name, const QString& value) {
+        const QQmlProperty property(&house.windows().root(), name);
+        driver.waitUntil([&] { return property.read().toString() == value; }, "for " + name.toStdString());
+    }
 
     Complaints complaints;
     WindowHouse house;
