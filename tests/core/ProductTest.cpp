@@ -2,12 +2,11 @@
 #include "testing/Golden.h"
 #include "testing/TemporaryFolder.h"
 
-#include <chrono>
 #include <filesystem>
 #include <map>
-#include <thread>
 
 #include <QProcess>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -58,13 +57,7 @@ class Home {
         ASSERT_TRUE(program.waitForStarted());
     }
     [[nodiscard]] bool comesToHave(const std::filesystem::path& file) const {
-        for (int tries = 0; tries < 200; ++tries) {
-            if (std::filesystem::exists(folder_.path() / file)) {
-                return true;
-            }
-            std::this_thread::sleep_for(std::chrono::milliseconds(50));
-        }
-        return false;
+        return QTest::qWaitFor([&] { return std::filesystem::exists(folder_.path() / file); }, 10'000);
     }
 
   private:

@@ -1,4 +1,5 @@
 #include "platform/InstanceGuard.h"
+#include "testing/Golden.h"
 #include "testing/TemporaryFolder.h"
 
 #include <chrono>
@@ -23,13 +24,8 @@ bool wakes(const InstanceGuard& second) {
            answer.get();
 }
 
-std::filesystem::path socketIn(const std::filesystem::path& folder) {
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        if (entry.path().extension() == ".socket") {
-            return entry.path();
-        }
-    }
-    return {};
+std::filesystem::path socketIn(const testing::TemporaryFolder& folder) {
+    return testing::filesIn(folder.path(), ".socket").at(0);
 }
 
 TEST(InstanceGuard, ASecondStartWakesTheFirstHoweverTheFolderIsSpelled) {
@@ -45,7 +41,7 @@ TEST(InstanceGuard, ASecondStartWakesTheFirstHoweverTheFolderIsSpelled) {
     EXPECT_EQ(wakened.count(), 2);
     EXPECT_TRUE(InstanceGuard(data.path(), meetingPlace.path()).isFirst());
 
-    const auto permissions = std::filesystem::status(socketIn(meetingPlace.path())).permissions();
+    const auto permissions = std::filesystem::status(socketIn(meetingPlace)).permissions();
     EXPECT_EQ(permissions & (std::filesystem::perms::group_all | std::filesystem::perms::others_all),
               std::filesystem::perms::none);
 }
@@ -55,7 +51,7 @@ TEST(InstanceGuard, WhatADeadProgramLeftBehindIsTakenOver) {
     std::filesystem::path socket;
     {
         const InstanceGuard dead("/data", meetingPlace.path());
-        socket = socketIn(meetingPlace.path());
+        socket = socketIn(meetingPlace);
     }
     // The end of a process in good order removes the socket, so one without a listener takes its place.
     QLocalServer abandoned;
@@ -73,7 +69,7 @@ TEST(InstanceGuard, WhatADeadProgramLeftBehindIsTakenOver) {
 TEST(InstanceGuard, WhoAnswersInOtherWordsIsNotTheFirst) {
     const testing::TemporaryFolder meetingPlace;
     const InstanceGuard hidden("/data", meetingPlace.path());
-    const auto socket = socketIn(meetingPlace.path());
+    const auto socket = socketIn(meetingPlace);
     std::filesystem::remove(socket);
     QLocalServer squatter;
     ASSERT_TRUE(squatter.listen(QString::fromStdString(socket.string())));

@@ -1,8 +1,7 @@
 #include "Keyring.h"
 #include "platform/KeychainSecretStore.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -53,9 +52,7 @@ TEST_F(SecretService, DoesNotWaitLongerThanItMay) {
     told.whenAnsweredLate([&late](const SecretRead& read) { late = read; });
     EXPECT_EQ(told.read(service, "held"), SecretRead(SecretUnreadable{words}));
     keyring->letGo();
-    for (const QDeadlineTimer deadline(10'000); !late && !deadline.hasExpired();) {
-        QCoreApplication::processEvents();
-    }
+    ASSERT_TRUE(QTest::qWaitFor([&late] { return late.has_value(); }, 10'000));
     EXPECT_EQ(late, SecretRead("secret"));
     // What could not be started in time is not done later.
     EXPECT_EQ(keychain.read(service, "held"), SecretRead("secret"));

@@ -1,10 +1,8 @@
+#include "calendar/DayKey.h"
 #include "platform/Utf8.h"
 #include "reports/FinanceParser.h"
 #include "reports/SalesParser.h"
 #include "testing/Golden.h"
-
-#include <array>
-#include <cstdio>
 
 #include <gtest/gtest.h>
 
@@ -31,12 +29,8 @@ std::string shown(Instant instant) {
         return "";
     }
     const auto day = std::chrono::floor<std::chrono::days>(instant);
-    const CivilDate date(day);
-    std::array<char, 40> text{};
-    std::snprintf(text.data(), text.size(), "%d-%02u-%02u", static_cast<int>(date.year()),
-                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
-    const auto hour = instant - day;
-    return text.data() + (hour == std::chrono::hours(12) ? std::string() : " and not noon");
+    const bool isNoon = instant - day == std::chrono::hours(12);
+    return dayKey(CivilDate(day)) + (isNoon ? "" : " and not noon");
 }
 
 template <typename Value>

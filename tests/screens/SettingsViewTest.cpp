@@ -1,10 +1,9 @@
 #include "ScreenFixture.h"
 #include "earnings/Exports.h"
 #include "screens/settings/SettingsView.h"
+#include "testing/Golden.h"
 #include "testing/TemporaryFolder.h"
 
-#include <fstream>
-#include <sstream>
 #include <tuple>
 
 #include <QTest>
@@ -34,9 +33,7 @@ TEST_F(SettingsViewTest, WritesTheExportAsItWasWhenTheButtonWasPressed) {
     exports.save(QUrl(QStringLiteral("https://elsewhere.test/years.csv")));
     exports.save(QUrl::fromLocalFile(QString::fromStdString((folder / "years.csv").string())));
     settings.reset();
-    std::ostringstream written;
-    written << std::ifstream(folder / "years.csv").rdbuf();
-    EXPECT_EQ(written.str(), expected);
+    EXPECT_EQ(testing::fileText(folder / "years.csv"), expected);
 }
 
 TEST_F(SettingsViewTest, TellsWhyAFileIsntExported) {

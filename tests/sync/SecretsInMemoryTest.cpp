@@ -10,8 +10,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -105,9 +104,7 @@ TEST(Secrets, NothingOfKeyAndTokenIsLeftInMemoryOnceTheKeyIsRemoved) {
     server.reset();
     EXPECT_GT(timesInMemory(*key), 0) << "the engine signs with it";
     engine.removeCredentials();
-    for (const QDeadlineTimer deadline(300); !deadline.hasExpired();) {
-        QCoreApplication::processEvents();
-    }
+    QTest::qWait(300);
     EXPECT_EQ(timesInMemory(*key), 0);
     EXPECT_EQ(timesInMemory(*token), 0);
 }
