@@ -1,8 +1,12 @@
 #include "data/FileCheck.h"
 
+#include "data/Schema.h"
 #include "data/StoreFailures.h"
+#include "platform/Utf8.h"
 
+#include <algorithm>
 #include <array>
+#include <map>
 #include <string_view>
 
 namespace vantrell {
@@ -57,6 +61,40 @@ constexpr std::array questions{
              "SELECT 1 FROM SalesReport, SalesRow, FinanceReport, FinanceRow, RateSet, SyncLogEntry LIMIT 0"},
 };
 
+// SQLite takes any bytes for text.
+bool holdsBrokenText(SqliteDatabase& database) {
+    auto texts = database.prepare(
+        "SELECT value FROM text UNION ALL SELECT message FROM sales_report"
+        " UNION ALL SELECT message FROM finance_report UNION ALL SELECT message FROM sync_log");
+    while (texts.step()) {
+        if (!isUtf8(texts.text(0))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::map<std::string, std::string> views(SqliteDatabase& database) {
+    std::map<std::string, std::string> texts;
+    auto schema = database.prepare("SELECT name, sql FROM sqlite_schema WHERE type = 'view'");
+    while (schema.step()) {
+        texts.emplace(schema.text(0), schema.text(1));
+    }
+    return texts;
+}
+
+// A damaged text can still be a view, and one that says something else. The person's own may stand beside
+// ours.
+bool hasForeignView(SqliteDatabase& database) {
+    SqliteDatabase blank(":memory:", SqliteDatabase::Mode::readWrite);
+    createSchema(blank);
+    const auto found = views(database);
+    return !std::ranges::all_of(views(blank), [&found](const auto& view) {
+        const auto same = found.find(view.first);
+        return same != found.end() && same->second == view.second;
+    });
+}
+
 }  // namespace
 
 std::optional<std::string> FileCheck::run() {
@@ -72,6 +110,12 @@ std::optional<std::string> FileCheck::run() {
             if (database_->prepare(question.sql).step()) {
                 return question.damage;
             }
+        }
+        if (holdsBrokenText(*database_)) {
+            return "a text is no text";
+        }
+        if (hasForeignView(*database_)) {
+            return "a view isn't as it was made";
         }
     } catch (const SqliteError& error) {
         return storeError(error).description;

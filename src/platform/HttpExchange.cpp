@@ -166,11 +166,16 @@ void HttpExchange::takeBytes() {
 
 void HttpExchange::appendBytes() {
     const auto bytes = reply_->readAll();
-    if (static_cast<std::size_t>(bytes.size()) > maxBodyBytes() - body_.size()) {
+    const auto count = static_cast<std::size_t>(bytes.size());
+    if (count > maxBodyBytes() - body_.size()) {
         finish(HttpFailure{"The server's answer is too large."});
         return;
     }
-    body_.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    // By itself it would double, and for a moment take three times what is read.
+    if (const std::size_t size = body_.size() + count; size > body_.capacity()) {
+        body_.reserve(std::min(std::max(size, body_.size() + body_.size() / 4), maxBodyBytes()));
+    }
+    body_.append(bytes.constData(), count);
 }
 
 void HttpExchange::conclude() {

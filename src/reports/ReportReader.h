@@ -17,7 +17,9 @@ template <typename Row>
 struct RowBlock {
     std::vector<Row> rows;
     bool isLast = false;
-    std::string message;  ///< with the last: what the report leaves to be told
+    // With the last.
+    bool hasHeader = false;  ///< without one the body was no report
+    std::string message;     ///< what the report leaves to be told
 };
 
 /// Goes through the body of one report as it was sent, a block of rows at a time, so that neither its text
@@ -42,7 +44,10 @@ class BodyReader final : public ReportReader<typename RowReader::Row> {
         if (lines_.empty()) {
             const auto more = text_.nextLines();
             if (!more) {
-                return {.rows = {}, .isLast = true, .message = parser_.message()};
+                return {.rows = {},
+                        .isLast = true,
+                        .hasHeader = parser_.hasHeader(),
+                        .message = parser_.message()};
             }
             lines_ = *more;
         }

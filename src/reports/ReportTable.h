@@ -91,6 +91,8 @@ class TableParser {
         return line == std::default_sentinel ? std::string_view() : line.rest();
     }
 
+    [[nodiscard]] bool hasHeader() const { return columns_.has_value(); }
+
     /// What is to be told of the lines so far.
     [[nodiscard]] std::string message() const {
         std::string note = reader_ ? reader_->counts().note() : std::string();

@@ -12,6 +12,7 @@ namespace vantrell {
 namespace {
 
 constexpr std::size_t pieceBytes = std::size_t{1} << 20U;
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 static_assert(pieceBytes > mostLineBytes);
 
 ReportError::Reason reason(InflateError error) {
@@ -25,10 +26,14 @@ ReportText::ReportText(std::string body, std::size_t maxBytes, std::size_t mostA
     : body_(std::move(body)), maxBytes_(maxBytes), mostAtOnce_(mostAtOnce), rest_(body_) {}
 
 std::optional<std::string_view> ReportText::nextLines() {
-    if (!std::exchange(isStarted_, true)) {
+    const bool isFirst = !std::exchange(isStarted_, true);
+    if (isFirst) {
         unpack();
     }
     while (readMore()) {
+    }
+    if (isFirst && rest_.starts_with(byteOrderMark)) {
+        rest_.remove_prefix(byteOrderMark.size());
     }
     if (rest_.empty()) {
         return std::nullopt;

@@ -14,8 +14,9 @@ inline constexpr std::size_t maxInflatedBytes = std::size_t{512} << 20U;
 /// The texts of a day, even of a large account, are unpacked at once, which is three times as fast.
 inline constexpr std::size_t mostUnpackedAtOnce = std::size_t{8} << 20U;
 
-/// The text of a report's body as it was sent: unpacked if it is a gzip member, and valid UTF-8. It is given
-/// in pieces of whole lines and never held as a whole, since half a megabyte can unpack to 512.
+/// The text of a report's body as it was sent: unpacked if it is a gzip member, valid UTF-8, and without
+/// a byte order mark. It is given in pieces of whole lines and never held as a whole, since half a megabyte
+/// can unpack to 512.
 class ReportText {
   public:
     explicit ReportText(std::string body, std::size_t maxBytes = maxInflatedBytes,

@@ -71,7 +71,7 @@ QString damageOf(const StoreHealth& health) {
                    : named > 1            ? names.takeLast()
                                           : QString();
     const QString list = names.join(Words::tr(", ", "between names"));
-    return Words::tr("This store is damaged: %1 can't be read.")
+    return Words::tr("This store is damaged: %1 can't be read in full.")
         .arg(last.isEmpty() ? list : Words::tr("%1 and %2").arg(list, last));
 }
 

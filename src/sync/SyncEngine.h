@@ -164,6 +164,7 @@ class SyncEngine : public QObject {
     template <typename Request>
     struct Content {
         std::vector<typename Request::Line> lines;
+        bool isReport = false;
         std::string message;
     };
 

@@ -24,6 +24,7 @@ constexpr std::size_t rowsOfLongReport = 100'000;
 // then taken twice, by the store and by the figures.
 constexpr std::size_t mostReportBytes = std::size_t{160} << 20U;
 constexpr std::size_t mostNewBytes = std::size_t{48} << 20U;
+constexpr const char* notAReport = "Apple's answer was not a report.";
 constexpr const char* notEnoughMemory = "There is not enough memory for the report.";
 
 }  // namespace
@@ -119,6 +120,7 @@ QCoro::Task<SyncEngine::Content<Request>> SyncEngine::read(std::string body) {
             }
             co_await encode<Request>(block->rows, content.lines);
             isLast = block->isLast;
+            content.isReport = block->hasHeader;
             content.message = std::move(block->message);
         }
     } catch (...) {
@@ -189,8 +191,12 @@ void SyncEngine::settle(const Request& request, const ReportResponse& answer, Co
     std::visit(
         Overloaded{
             [&](const response::Success&) {
+                if (!content.isReport && request.lineCount(context_) > 0) {
+                    attempted(ReportStatus::error, notAReport);
+                    return;
+                }
                 request.storeRows(context_, report, std::move(content.lines));
-                attempted(ReportStatus::ok, content.message);
+                attempted(ReportStatus::ok, content.isReport ? content.message : notAReport);
             },
             [&](const response::NoSales& none) {
                 request.removeRows(context_);

@@ -121,14 +121,14 @@ class Program:
             "UBSAN_OPTIONS": "exitcode=99",
         }
 
-    def start(self, data, arguments, edition=0, fault=None):
+    def start(self, data, arguments, edition=0, fault=None, origin=None):
         environment = dict(self.environment)
         if fault is not None:
             environment["LD_PRELOAD"] = ":".join([*self.sanitizer, self.shim])
             environment["STORAGE_FOLDER"] = str(data)
             environment.update({"STORAGE_" + name.upper(): str(value) for name, value in fault.items()})
         command = [self.binary, "--once", "--data", str(data), "--pause", "0"]
-        command += ["--service", self.services[edition].origin, *arguments]
+        command += ["--service", origin or self.services[edition].origin, *arguments]
         return subprocess.Popen(
             command, env=environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE
         )

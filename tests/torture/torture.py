@@ -18,6 +18,7 @@ HARNESSES = {
     "storage": [*STORAGE, "kills", "faults", "power", "random", "disks", "races", "shown"],
     "fuzzing": ["fuzzing.py"],
     "bad-stores": [*STORAGE, "bad"],
+    "hostile": ["hostile.py", "--program", "{program}", "--shim", SHIM],
     "monkey": ["monkey.py", "--tests", "{tests}"],
     "secrets": ["secrets.py", "--program", "{program}"],
     "labels": ["labels.py", "--tests", "{tests}"],
