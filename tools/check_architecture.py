@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Holds the arrows of docs/architecture.md against CMake and against the includes in the sources.
+"""Holds the arrows of docs/architecture.md against CMake and against the includes in the sources, and finds
+coroutines whose result may be forgotten: they would end, unseen, at their first wait.
 
 The table of the document has a row per layer: its name in the first cell, the layers that it may use in the
 second. A layer may include itself and everything that can be reached along the arrows.
@@ -13,6 +14,8 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 ROW = re.compile(r"^\| `(\w+)` \| ([^|]*) \|")
 LAYER_CALL = re.compile(r"vantrell_layer\(\s*(\w+)(.*?)\)", re.DOTALL)
 INCLUDE = re.compile(r'^\s*#\s*include\s+"(?:(\w+)/)?([^"]+)"', re.MULTILINE)
+
+FORGETTABLE = re.compile(r"^\s+(?:static |virtual )*QCoro::Task<.*>\s+\w+\(.*", re.MULTILINE)
 
 
 def documented_arrows():
@@ -51,6 +54,12 @@ def wrong_includes(arrows):
                     yield f"{file.relative_to(ROOT)} includes {included or '(no layer)'}/{name}"
 
 
+def forgettable_tasks():
+    for file in sorted((ROOT / "src").rglob("*.h")):
+        for task in FORGETTABLE.findall(file.read_text(encoding="utf-8")):
+            yield f"{file.relative_to(ROOT)} lacks [[nodiscard]]: {task.strip()}"
+
+
 def main():
     documented, built = documented_arrows(), built_arrows()
     problems = [
@@ -59,6 +68,7 @@ def main():
         if documented.get(layer) != built.get(layer)
     ]
     problems += wrong_includes(documented)
+    problems += forgettable_tasks()
     for layer in documented:
         if layer in set().union(*(reachable(below, documented) for below in documented[layer]), set()):
             problems.append(f"{layer} reaches itself")

@@ -27,12 +27,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-QCoro::Task<> write(QCoro::Task<std::string> result, std::ostream& output) {
+[[nodiscard]] QCoro::Task<> write(QCoro::Task<std::string> result, std::ostream& output) {
     const std::string text = co_await std::move(result);
     output << text << std::endl;
 }
 
-QCoro::Task<> started(SyncEngine& engine, const TrialOperation& operation, std::ostream& output) {
+[[nodiscard]] QCoro::Task<> started(SyncEngine& engine, const TrialOperation& operation,
+                                    std::ostream& output) {
     return std::visit(
         Overloaded{[&](const DoAutomaticRun&) { return engine.autoSync(); },
                    [&](const DoSync&) { return engine.runSync(); },
@@ -46,7 +47,7 @@ QCoro::Task<> started(SyncEngine& engine, const TrialOperation& operation, std::
 }
 
 // The store is looked through before anything is fetched into it, as in the window.
-QCoro::Task<> checked(MyApp& app, const TrialOperation& operation, std::ostream& output) {
+[[nodiscard]] QCoro::Task<> checked(MyApp& app, const TrialOperation& operation, std::ostream& output) {
     co_await app.engine().checkStore();
     co_await started(app.engine(), operation, output);
 }

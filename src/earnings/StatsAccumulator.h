@@ -36,7 +36,7 @@ class StatsAccumulator {
         if (offer.currency >= sums_.size()) {
             sums_.resize(offer.currency + 1U);
         }
-        sums_[offer.currency].add(bringsMoney[row] ? lines.units : 0, offer.proceeds);
+        sums_[offer.currency].add(moneyFactors[row] * lines.units, offer.proceeds);
     }
     void add(const std::vector<OfferSum>& sums) {
         for (const OfferSum& sum : sums) {
@@ -59,9 +59,15 @@ class StatsAccumulator {
         return units_[static_cast<std::size_t>(kind)][1];
     }
 
-    // In the order of ProductKind.
-    static constexpr std::size_t kinds = 5;
-    static constexpr std::array<bool, kinds> bringsMoney{true, true, false, false, true};
+    static constexpr std::size_t kinds = static_cast<std::size_t>(ProductKind::last) + 1;
+    /// In the order of ProductKind.
+    static constexpr auto moneyFactors = [] {
+        std::array<std::int64_t, kinds> factors{};
+        for (std::size_t kind = 0; kind < kinds; ++kind) {
+            factors[kind] = bringsMoney(static_cast<ProductKind>(kind)) ? 1 : 0;
+        }
+        return factors;
+    }();
     std::array<std::array<std::int64_t, 2>, kinds> units_{};  // of 0 or more, and below 0
     std::vector<ExactSum> sums_;
 };

@@ -27,7 +27,8 @@ void TaskScope::finish(std::chrono::milliseconds patience) {
 
 void TaskScope::spawn(QCoro::Task<> task) {
     ++pending_;
-    run(std::move(task));
+    // Goes on by itself; `pending_` tells when it has ended.
+    static_cast<void>(run(std::move(task)));
 }
 
 QCoro::Task<> TaskScope::run(QCoro::Task<> task) {

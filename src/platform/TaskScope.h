@@ -25,7 +25,7 @@ class TaskScope {
     void finish(std::chrono::milliseconds patience);
 
   private:
-    QCoro::Task<> run(QCoro::Task<> task);
+    [[nodiscard]] QCoro::Task<> run(QCoro::Task<> task);
 
     int pending_ = 0;
 };

@@ -37,11 +37,11 @@ class DriveLoop : public QObject {
     void becameActive();
 
   private:
-    static QCoro::Task<> reload(Parts parts, CancelToken cancel);
-    static QCoro::Task<> reloadNext(Parts parts, CancelToken cancel);
-    static QCoro::Task<> begin(Parts parts, CancelToken cancel);
-    static QCoro::Task<> goRound(Parts parts, CancelToken cancel);
-    static QCoro::Task<> repeat(Parts parts, CancelToken cancel);
+    [[nodiscard]] static QCoro::Task<> reload(Parts parts, CancelToken cancel);
+    [[nodiscard]] static QCoro::Task<> reloadNext(Parts parts, CancelToken cancel);
+    [[nodiscard]] static QCoro::Task<> begin(Parts parts, CancelToken cancel);
+    [[nodiscard]] static QCoro::Task<> goRound(Parts parts, CancelToken cancel);
+    [[nodiscard]] static QCoro::Task<> repeat(Parts parts, CancelToken cancel);
 
     Parts parts_;
     CancelSource life_;

@@ -172,37 +172,38 @@ class SyncEngine : public QObject {
     Stored<typename Request::Record> findOrCreate(const Request& request);
     Stored<SalesReport> findOrCreateSalesReport(ReportFrequency frequency, std::string reportDate);
     template <typename Request>
-    QCoro::Task<ReportStatus> syncReport(Request request, bool force);
+    [[nodiscard]] QCoro::Task<ReportStatus> syncReport(Request request, bool force);
     template <typename Request>
-    QCoro::Task<Content<Request>> read(std::string body);
+    [[nodiscard]] QCoro::Task<Content<Request>> read(std::string body);
     template <typename Request>
-    QCoro::Task<> encode(std::span<typename Request::Row> rows, std::vector<typename Request::Line>& lines);
+    [[nodiscard]] QCoro::Task<> encode(std::span<typename Request::Row> rows,
+                                       std::vector<typename Request::Line>& lines);
     template <typename Request>
     Applied apply(const Request& request, const ReportResponse& answer, Content<Request> content,
                   Instant started);
     template <typename Request>
     void settle(const Request& request, const ReportResponse& answer, Content<Request> content,
                 typename Request::Record& report);
-    QCoro::Task<> saveInSteps();
+    [[nodiscard]] QCoro::Task<> saveInSteps();
     void stopForRateLimit(const std::string& key, const std::string& message);
     void log(std::string key, std::string_view outcome, std::string_view message);
     void save();
     void noteRejected(const ReportName& report, const std::string& reason);
     template <typename Request>
     void settleRejected(const Request& request, const std::string& reason);
-    QCoro::Task<> pause();
+    [[nodiscard]] QCoro::Task<> pause();
     /// Lets the event loop do what waits there.
-    QCoro::Task<> breathe();
+    [[nodiscard]] QCoro::Task<> breathe();
 
-    QCoro::Task<> syncRecentDays();
-    QCoro::Task<> syncRecentMonths();
-    QCoro::Task<> syncLastYear();
-    QCoro::Task<> syncNextFinancePeriods();
-    QCoro::Task<> backfillDays();
-    QCoro::Task<> backfillYears();
-    QCoro::Task<> backfillMonths();
-    QCoro::Task<> syncFinanceRange(std::string from);
-    QCoro::Task<> refetchDaysOfMonth(std::string text, YearMonth month);
+    [[nodiscard]] QCoro::Task<> syncRecentDays();
+    [[nodiscard]] QCoro::Task<> syncRecentMonths();
+    [[nodiscard]] QCoro::Task<> syncLastYear();
+    [[nodiscard]] QCoro::Task<> syncNextFinancePeriods();
+    [[nodiscard]] QCoro::Task<> backfillDays();
+    [[nodiscard]] QCoro::Task<> backfillYears();
+    [[nodiscard]] QCoro::Task<> backfillMonths();
+    [[nodiscard]] QCoro::Task<> syncFinanceRange(std::string from);
+    [[nodiscard]] QCoro::Task<> refetchDaysOfMonth(std::string text, YearMonth month);
     [[nodiscard]] std::string newestOkFiscalPeriod() const;
     void storeRates(Rates rates);
 

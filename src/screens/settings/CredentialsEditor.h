@@ -93,7 +93,8 @@ class CredentialsEditor : public QObject {
     void outcomeChanged();
 
   private:
-    static QCoro::Task<> runTest(SyncEngine& engine, QPointer<CredentialsEditor> editor, int appearance);
+    [[nodiscard]] static QCoro::Task<> runTest(SyncEngine& engine, QPointer<CredentialsEditor> editor,
+                                               int appearance);
 
     void set(std::string& value, const QString& text);
     [[nodiscard]] bool isSaved();
