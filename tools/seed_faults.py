@@ -25,7 +25,7 @@ ENVIRONMENT = os.environ | ({"TMPDIR": "/dev/shm"} if os.access("/dev/shm", os.W
 SUITES = {
     "src/data": ["store", "sync", "earnings", "torture_storage", "torture_bad-stores"],
     "src/platform/Sqlite": ["store", "sync", "torture_storage"],
-    "src/sync": ["sync", "screens", "torture_storage"],
+    "src/sync": ["sync", "screens", "secrets_in_memory", "torture_storage"],
     "src/platform": ["json_defaults", "files", "settings", "torture_storage"],
     "src/screens": ["settings", "screens"],
 }

@@ -15,6 +15,7 @@ namespace vantrell {
 namespace {
 
 constexpr int maxHops = 20;
+constexpr qint64 readAheadBytes = qint64{256} << 10U;
 
 /// No bytes, and those only once. When a connection breaks before an answer, Qt would by itself send the
 /// request again, up to three times; before that it has the body begin anew, and gives up if that can't be.
@@ -118,6 +119,8 @@ void HttpExchange::send() {
     message.setRawHeader("Accept-Encoding", "identity");
     auto body = std::make_unique<SentOnce>();
     reply_ = network_.sendCustomRequest(message, "GET", body.get());
+    // Without a bound Qt reads ahead of whoever is busy, by gigabytes if they come.
+    reply_->setReadBufferSize(readAheadBytes);
     body.release()->setParent(reply_);
     QObject::connect(reply_, &QNetworkReply::encrypted, &context_, [this] { heard(); });
     QObject::connect(reply_, &QNetworkReply::metaDataChanged, &context_, [this] { takeHeaders(); });

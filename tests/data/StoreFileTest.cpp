@@ -121,6 +121,7 @@ TEST(StoreFile, ShowsEachRecordTypeAsAViewWithItsProperties) {
         }
         views += "\n";
     }
+    views += "version: " + std::to_string(database.integer("PRAGMA user_version")) + "\n";
     testing::expectMatchesFile(views, VANTRELL_TEST_DATA "/views.txt");
 }
 

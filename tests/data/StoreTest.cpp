@@ -84,7 +84,8 @@ TEST(Store, ReadsBackEveryPropertyAfterReopening) {
 TEST(Store, KeepsDecimalsExactInEveryForm) {
     std::istringstream words(
         "0 -0.01 1000000 0.000000000000001 0.0000000000000001 36028797018963967.5 576460752303423487 "
-        "-576460752303423488 9223372036854775807 12345678901234567890123456789012345678 1" +
+        "-576460752303423488 -576460752303423489 9223372036854775807 12345678901234567890123456789012345678 "
+        "1" +
         std::string(400, '0'));
     const std::vector<std::string> texts{std::istream_iterator<std::string>(words), {}};
     StoreFixture store;

@@ -130,6 +130,8 @@ class RunScript {
         const std::string summary = engine.lastRunSummary();
         tell("summary", summary.substr(0, summary.find(" finished ")), "");
         EXPECT_FALSE(engine.isSyncing());
+        EXPECT_EQ(std::ranges::count(fixture_->clock.slept, std::chrono::milliseconds(150)),
+                  std::ssize(fixture_->clock.slept));
     }
 
     void tell(const std::string& name, const std::string& text, const std::string& usual) {
