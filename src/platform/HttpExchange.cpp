@@ -119,8 +119,6 @@ void HttpExchange::send() {
     message.setRawHeader("Accept-Encoding", "identity");
     auto body = std::make_unique<SentOnce>();
     reply_ = network_.sendCustomRequest(message, "GET", body.get());
-    // Without a bound Qt reads ahead of whoever is busy, by gigabytes if they come.
-    reply_->setReadBufferSize(readAheadBytes);
     body.release()->setParent(reply_);
     QObject::connect(reply_, &QNetworkReply::encrypted, &context_, [this] { heard(); });
     QObject::connect(reply_, &QNetworkReply::metaDataChanged, &context_, [this] { takeHeaders(); });
@@ -147,6 +145,9 @@ std::size_t HttpExchange::maxBodyBytes() const {
 /// A body that is announced as too large is refused before any of it is read.
 void HttpExchange::takeHeaders() {
     heard();
+    // Without a bound Qt reads ahead of whoever is busy, by gigabytes if they come. Any earlier it is lost on
+    // the thread that reads.
+    reply_->setReadBufferSize(readAheadBytes);
     const auto length = reply_->rawHeader("Content-Length");
     bool isNumber = true;
     announcedBytes_ = length.isEmpty() || !mayHaveBody(status()) ? 0 : length.toULongLong(&isNumber);
