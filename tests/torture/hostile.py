@@ -188,7 +188,9 @@ class Server:
             if self.tls == "plain":
                 self.asked.set()
                 connection.sendall(self.content)
-            elif self.tls:
+                connection.close()
+                return
+            if self.tls:
                 self.asked.set()
                 connection = self.tls.wrap_socket(connection, server_side=True)
             request = b""
@@ -277,7 +279,7 @@ def main():
         scripts += of_tls(scratch)
         violations = tokens = 0
         most, longest = 0, 0.0
-        scripts = scripts[:: 4 if chosen.short else 1]
+        scripts = scripts[:: 6 if chosen.short else 1]
         for title, kind, content, tls in scripts:
             folder, server, code, memory, stall = outcome(kind, content, tls)
             most, longest, tokens = max(most, memory - idle), max(longest, stall), tokens + server.tokens
