@@ -28,7 +28,7 @@ QCoro::Task<> storeFinance(SyncEngine& engine, std::string fiscalPeriod) {
 
 }  // namespace
 
-QCoro::Task<> StandingClock::sleep(std::chrono::microseconds /*duration*/, CancelToken /*cancel*/) {
+QCoro::Task<> StandingClock::sleep(std::chrono::microseconds /*duration*/, std::stop_token /*cancel*/) {
     co_return;
 }
 

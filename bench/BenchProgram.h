@@ -17,7 +17,7 @@ class StandingClock final : public Clock {
   public:
     [[nodiscard]] Instant now() const override { return today + std::chrono::hours{12}; }
     [[nodiscard]] std::chrono::microseconds monotonic() const override { return {}; }
-    [[nodiscard]] QCoro::Task<> sleep(std::chrono::microseconds duration, CancelToken cancel) override;
+    [[nodiscard]] QCoro::Task<> sleep(std::chrono::microseconds duration, std::stop_token cancel) override;
 };
 
 /// A clock that stands at the same noon for whoever asks for the date, and otherwise goes on.
@@ -25,7 +25,7 @@ class NoonClock final : public Clock {
   public:
     [[nodiscard]] Instant now() const override { return today + std::chrono::hours{12}; }
     [[nodiscard]] std::chrono::microseconds monotonic() const override { return real_.monotonic(); }
-    [[nodiscard]] QCoro::Task<> sleep(std::chrono::microseconds duration, CancelToken cancel) override {
+    [[nodiscard]] QCoro::Task<> sleep(std::chrono::microseconds duration, std::stop_token cancel) override {
         return real_.sleep(duration, std::move(cancel));
     }
 

@@ -10,7 +10,7 @@ class LaterService final : public HttpClient {
   public:
     explicit LaterService(HttpClient& service) : service_(service) {}
 
-    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest request, CancelToken cancel) override {
+    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest request, std::stop_token cancel) override {
         co_await clock_.sleep(std::chrono::milliseconds(5), cancel);
         co_return co_await service_.get(std::move(request), cancel);
     }

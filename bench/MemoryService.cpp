@@ -44,7 +44,7 @@ void MemoryService::setSalesReport(ReportFrequency frequency, const std::string&
     bodyByReport_.insert_or_assign(reportKey(rawText(frequency), label), std::move(gzip));
 }
 
-QCoro::Task<HttpResult> MemoryService::get(HttpRequest request, CancelToken /*cancel*/) {
+QCoro::Task<HttpResult> MemoryService::get(HttpRequest request, std::stop_token /*cancel*/) {
     const QUrl url(QString::fromStdString(request.url));
     if (!url.path().startsWith(QLatin1String("/v1/"))) {
         co_return HttpResponse{200, sample::ratesBody()};

@@ -16,7 +16,7 @@ class MemoryService final : public HttpClient {
 
     void setSalesReport(ReportFrequency frequency, const std::string& label, std::string gzip);
 
-    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest request, CancelToken cancel) override;
+    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest request, std::stop_token cancel) override;
 
   private:
     std::map<std::string, std::string> bodyByReport_;  // by frequency, empty for finance, and date

@@ -13,7 +13,7 @@ class SilentHttp final : public HttpClient {
   public:
     explicit SilentHttp(Clock& clock) : clock_(clock) {}
 
-    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest /*request*/, CancelToken cancel) override {
+    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest /*request*/, std::stop_token cancel) override {
         co_await clock_.sleep(std::chrono::hours(1), cancel);
         co_return HttpFailure{"given up"};
     }
@@ -25,7 +25,7 @@ class SilentHttp final : public HttpClient {
 /// A service that has been asked too often.
 class BusyHttp final : public HttpClient {
   public:
-    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest /*request*/, CancelToken /*cancel*/) override {
+    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest /*request*/, std::stop_token /*cancel*/) override {
         co_return HttpResponse{
             429, R"({"errors":[{"status":"429","code":"RATE_LIMIT_EXCEEDED","detail":"Try again later."}]})"};
     }

@@ -25,7 +25,7 @@ HttpRequest ratesRequest(const std::string& origin) {
 
 }  // namespace
 
-QCoro::Task<RatesAnswer> RatesFetcher::fetch(HttpClient& http, std::string origin, CancelToken cancel) {
+QCoro::Task<RatesAnswer> RatesFetcher::fetch(HttpClient& http, std::string origin, std::stop_token cancel) {
     const HttpResult result = co_await http.get(ratesRequest(origin), std::move(cancel));
     if (const auto* failure = std::get_if<HttpFailure>(&result)) {
         co_return RatesError{failure->description};

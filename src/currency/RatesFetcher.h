@@ -1,9 +1,9 @@
 #pragma once
 
 #include "data/RatesText.h"
-#include "platform/Cancellation.h"
 #include "platform/HttpClient.h"
 
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -25,7 +25,7 @@ namespace RatesFetcher {
 
 /// `origin` is a scheme and a host with no path; `http` must outlive the task. Only the body decides, not the
 /// HTTP status.
-[[nodiscard]] QCoro::Task<RatesAnswer> fetch(HttpClient& http, std::string origin, CancelToken cancel);
+[[nodiscard]] QCoro::Task<RatesAnswer> fetch(HttpClient& http, std::string origin, std::stop_token cancel);
 
 /// Rates come only of a body that says "success" and holds at least one; all of them must be numbers.
 [[nodiscard]] RatesAnswer parse(std::string_view body);

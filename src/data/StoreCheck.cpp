@@ -5,12 +5,12 @@
 
 namespace vantrell {
 
-QCoro::Task<> checkStore(ModelContext& context, Worker& worker, CancelToken cancel) {
+QCoro::Task<> checkStore(ModelContext& context, Worker& worker, std::stop_token cancel) {
     using Damage = std::optional<std::string>;
     context.holdSaves(true);
     std::function<Damage()> look = [check = context.fileCheck()] { return check->run(); };
     const auto damage = co_await worker.run(std::move(look), cancel);
-    if (cancel.isCancelled()) {
+    if (cancel.stop_requested()) {
         co_return;
     }
     context.holdSaves(false);

@@ -48,15 +48,15 @@ QCoro::Task<> AppIconStore::loadIcons(std::vector<std::int64_t> appleIDs) {
 
 QCoro::Task<bool> AppIconStore::lookUp(std::vector<std::int64_t> appleIDs,
                                        std::optional<std::string> country) {
-    const CancelToken life = life_.token();
+    const std::stop_token life = life_.token();
     IconAddresses found = co_await IconLookup::fetch(parts_.http, lookupService_, std::move(appleIDs),
                                                      std::move(country), life);
-    if (life.isCancelled()) {
+    if (life.stop_requested()) {
         co_return false;
     }
     takeIn(found);
     // Whoever hears of new addresses may do away with the store as well.
-    co_return !life.isCancelled();
+    co_return !life.stop_requested();
 }
 
 /// They count as tried before a request goes out, so that a call during a lookup does not ask again.

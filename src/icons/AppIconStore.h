@@ -1,9 +1,9 @@
 #pragma once
 
 #include "icons/IconLookup.h"
-#include "platform/Cancellation.h"
 #include "platform/Defaults.h"
 #include "platform/HttpClient.h"
+#include "platform/Lifetime.h"
 #include "platform/Locale.h"
 
 #include <cstdint>
@@ -58,7 +58,7 @@ class AppIconStore : public QObject {
     const std::string lookupService_;
     IconAddresses urls_;
     std::set<std::int64_t> attempted_;
-    CancelSource life_;
+    Lifetime life_;
 };
 
 }  // namespace vantrell

@@ -81,7 +81,7 @@ bool isIconAddress(std::string_view text) {
 
 QCoro::Task<IconAddresses> IconLookup::fetch(HttpClient& http, std::string service,
                                              std::vector<std::int64_t> appleIDs,
-                                             std::optional<std::string> country, CancelToken cancel) {
+                                             std::optional<std::string> country, std::stop_token cancel) {
     auto url = requestUrl(service, "/lookup", queryItems(appleIDs, country));
     if (!url) {
         co_return IconAddresses();

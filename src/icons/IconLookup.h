@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/Cancellation.h"
 #include "platform/HttpClient.h"
 
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,7 +28,7 @@ namespace IconLookup {
 /// the HTTP status, and it may tell of apps that weren't asked for.
 [[nodiscard]] QCoro::Task<IconAddresses> fetch(HttpClient& http, std::string service,
                                                std::vector<std::int64_t> appleIDs,
-                                               std::optional<std::string> country, CancelToken cancel);
+                                               std::optional<std::string> country, std::stop_token cancel);
 
 /// A body that isn't what the service sends, in any of its entries, gives nothing.
 [[nodiscard]] IconAddresses parse(std::string_view body);

@@ -52,7 +52,7 @@ ImageLoader::ImageLoader(HttpClient& http, const ImageLoaderSettings& settings)
 }
 
 ImageLoader::~ImageLoader() {
-    life_.cancel();
+    life_.end();
     worker_.clear();
     worker_.waitForDone();
 }
@@ -108,9 +108,9 @@ bool ImageLoader::isWanted(const std::string& address) const {
 }
 
 QCoro::Task<> ImageLoader::fetch(std::string address) {
-    const CancelToken life = life_.token();
+    const std::stop_token life = life_.token();
     HttpResult result = co_await http_.get(pictureRequest(address), life);
-    if (!life.isCancelled()) {
+    if (!life.stop_requested()) {
         fetched(address, std::move(result));
     }
 }

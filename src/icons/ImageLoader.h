@@ -1,8 +1,8 @@
 #pragma once
 
 #include "icons/PictureFolder.h"
-#include "platform/Cancellation.h"
 #include "platform/HttpClient.h"
+#include "platform/Lifetime.h"
 #include "platform/TaskScope.h"
 
 #include <deque>
@@ -68,7 +68,7 @@ class ImageLoader : public QObject {
     std::deque<std::string> toFetch_;
     int requests_ = 0;
     TaskScope tasks_;
-    CancelSource life_;
+    Lifetime life_;
     PictureFolder folder_;  // used on the worker alone
     QThreadPool worker_;
 };

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/Cancellation.h"
 #include "platform/Instant.h"
 
 #include <chrono>
+#include <stop_token>
 
 #include <qcoro/qcorotask.h>
 
@@ -22,7 +22,7 @@ class Clock {
 
     /// Resumes after `duration`, or at once when `cancel` is cancelled; tell the two apart by the token. No
     /// duration at all lets the event loop do what waits there.
-    [[nodiscard]] virtual QCoro::Task<> sleep(std::chrono::microseconds duration, CancelToken cancel) = 0;
+    [[nodiscard]] virtual QCoro::Task<> sleep(std::chrono::microseconds duration, std::stop_token cancel) = 0;
 };
 
 }  // namespace vantrell

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "platform/Cancellation.h"
-
 #include <chrono>
 #include <cstddef>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <variant>
 #include <vector>
@@ -58,7 +57,7 @@ class HttpClient {
     virtual ~HttpClient() = default;
 
     /// Never throws. A cancelled request ends at once with a failure.
-    [[nodiscard]] virtual QCoro::Task<HttpResult> get(HttpRequest request, CancelToken cancel) = 0;
+    [[nodiscard]] virtual QCoro::Task<HttpResult> get(HttpRequest request, std::stop_token cancel) = 0;
 };
 
 }  // namespace vantrell

@@ -39,19 +39,19 @@ QtHttpClient::QtHttpClient(std::string_view extraAuthoritiesPEM)
     : blank_(blankRequest(extraAuthoritiesPEM)) {}
 
 QtHttpClient::~QtHttpClient() {
-    closing_.cancel();
+    closing_.end();
 }
 
-QCoro::Task<HttpResult> QtHttpClient::get(HttpRequest request, CancelToken cancel) {
+QCoro::Task<HttpResult> QtHttpClient::get(HttpRequest request, std::stop_token cancel) {
     const auto closing = closing_.token();
-    if (cancel.isCancelled() || closing.isCancelled()) {
+    if (cancel.stop_requested() || closing.stop_requested()) {
         co_return HttpFailure{"The request was cancelled."};
     }
     // From the first wait on, the client may be gone: all that follows lives in this frame.
     HttpExchange exchange(blank_, std::move(request));
     const auto endEarly = [&exchange] { exchange.end(HttpFailure{"The request was cancelled."}); };
-    const auto whenCancelled = cancel.onCancel(endEarly);
-    const auto whenClosed = closing.onCancel(endEarly);
+    const std::stop_callback whenCancelled(cancel, endEarly);
+    const std::stop_callback whenClosed(closing, endEarly);
     co_return co_await exchange.result();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/HttpClient.h"
+#include "platform/Lifetime.h"
 
 #include <string_view>
 
@@ -24,11 +25,11 @@ class QtHttpClient final : public HttpClient {
     QtHttpClient(const QtHttpClient&) = delete;
     QtHttpClient& operator=(const QtHttpClient&) = delete;
 
-    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest request, CancelToken cancel) override;
+    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest request, std::stop_token cancel) override;
 
   private:
     const QNetworkRequest blank_;
-    CancelSource closing_;
+    Lifetime closing_;
 };
 
 }  // namespace vantrell

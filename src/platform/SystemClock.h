@@ -9,7 +9,7 @@ class SystemClock final : public Clock {
   public:
     [[nodiscard]] Instant now() const override;
     [[nodiscard]] std::chrono::microseconds monotonic() const override;
-    [[nodiscard]] QCoro::Task<> sleep(std::chrono::microseconds duration, CancelToken cancel) override;
+    [[nodiscard]] QCoro::Task<> sleep(std::chrono::microseconds duration, std::stop_token cancel) override;
 };
 
 }  // namespace vantrell

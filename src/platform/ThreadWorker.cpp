@@ -32,12 +32,12 @@ ThreadWorker::ThreadWorker() {
     pool_.setMaxThreadCount(1);
 }
 
-QCoro::Task<> ThreadWorker::perform(std::function<void()> job, CancelToken cancel) {
-    if (cancel.isCancelled()) {
+QCoro::Task<> ThreadWorker::perform(std::function<void()> job, std::stop_token cancel) {
+    if (cancel.stop_requested()) {
         co_return;
     }
     auto waiter = std::make_shared<Waiter>();
-    const auto registration = cancel.onCancel([waiter] { waiter->wake(); });
+    const std::stop_callback registration(cancel, [waiter] { waiter->wake(); });
     auto promise = std::make_shared<QPromise<void>>();
     auto* const watcher = new QFutureWatcher<void>(&home_);
     QObject::connect(watcher, &QFutureWatcherBase::finished, watcher, [watcher, waiter] {

@@ -14,7 +14,7 @@ class ThreadWorker final : public Worker {
     ThreadWorker();
 
   protected:
-    [[nodiscard]] QCoro::Task<> perform(std::function<void()> job, CancelToken cancel) override;
+    [[nodiscard]] QCoro::Task<> perform(std::function<void()> job, std::stop_token cancel) override;
 
   private:
     QObject home_;  // where results are handed over; outlives the thread

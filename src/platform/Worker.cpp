@@ -2,8 +2,8 @@
 
 namespace vantrell {
 
-QCoro::Task<> ImmediateWorker::perform(std::function<void()> job, CancelToken cancel) {
-    if (!cancel.isCancelled()) {
+QCoro::Task<> ImmediateWorker::perform(std::function<void()> job, std::stop_token cancel) {
+    if (!cancel.stop_requested()) {
         job();
     }
     co_return;

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "platform/Cancellation.h"
-
 #include <exception>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <utility>
 
 #include <qcoro/qcorotask.h>
@@ -21,7 +20,8 @@ class Worker {
     /// must own all that it uses, since after a cancellation it goes on unheard. Whoever waits is ended
     /// before the worker is.
     template <typename Result>
-    [[nodiscard]] QCoro::Task<std::optional<Result>> run(std::function<Result()> work, CancelToken cancel) {
+    [[nodiscard]] QCoro::Task<std::optional<Result>> run(std::function<Result()> work,
+                                                         std::stop_token cancel) {
         auto outcome = std::make_shared<Outcome<Result>>();
         std::function<void()> job = [outcome, work = std::move(work)] {
             try {
@@ -32,7 +32,7 @@ class Worker {
         };
         co_await perform(std::move(job), cancel);
         // Only without a cancellation is nobody writing there any more.
-        if (cancel.isCancelled()) {
+        if (cancel.stop_requested()) {
             co_return std::nullopt;
         }
         if (outcome->error) {
@@ -43,7 +43,7 @@ class Worker {
 
   protected:
     /// Resumes on the calling thread when `job` has ended, or at once when `cancel` is cancelled.
-    [[nodiscard]] virtual QCoro::Task<> perform(std::function<void()> job, CancelToken cancel) = 0;
+    [[nodiscard]] virtual QCoro::Task<> perform(std::function<void()> job, std::stop_token cancel) = 0;
 
   private:
     template <typename Result>
@@ -56,7 +56,7 @@ class Worker {
 /// Does it where it is asked to, at once; where no window is to be kept moving.
 class ImmediateWorker final : public Worker {
   protected:
-    [[nodiscard]] QCoro::Task<> perform(std::function<void()> job, CancelToken cancel) override;
+    [[nodiscard]] QCoro::Task<> perform(std::function<void()> job, std::stop_token cancel) override;
 };
 
 }  // namespace vantrell

@@ -55,7 +55,8 @@ void ASCClient::setCredentials(APICredentials credentials) {
 }
 
 QCoro::Task<ReportResponse> ASCClient::fetchSales(ReportFrequency frequency, std::string reportDate,
-                                                  std::optional<std::string> version, CancelToken cancel) {
+                                                  std::optional<std::string> version,
+                                                  std::stop_token cancel) {
     const std::string path = "/v1/salesReports";
     const std::string asked = version.value_or(defaultVersion(frequency));
     ReportResponse first = co_await send(path, salesQuery(frequency, reportDate, asked), cancel);
@@ -66,7 +67,7 @@ QCoro::Task<ReportResponse> ASCClient::fetchSales(ReportFrequency frequency, std
     co_return co_await send(path, salesQuery(frequency, reportDate, refused->latest), cancel);
 }
 
-QCoro::Task<ReportResponse> ASCClient::fetchFinance(std::string fiscalPeriod, CancelToken cancel) {
+QCoro::Task<ReportResponse> ASCClient::fetchFinance(std::string fiscalPeriod, std::stop_token cancel) {
     std::vector<QueryItem> query{{"filter[vendorNumber]", credentials_.vendorNumber},
                                  {"filter[reportType]", "FINANCIAL"},
                                  {"filter[regionCode]", "ZZ"},
@@ -85,7 +86,7 @@ std::vector<QueryItem> ASCClient::salesQuery(ReportFrequency frequency, const st
 }
 
 QCoro::Task<ReportResponse> ASCClient::send(std::string path, std::vector<QueryItem> queryItems,
-                                            CancelToken cancel) {
+                                            std::stop_token cancel) {
     auto url = requestUrl(origin_, path, queryItems);
     if (!url) {
         co_return response::Failure{"could not build request URL"};

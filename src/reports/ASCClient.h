@@ -2,7 +2,6 @@
 
 #include "data/APICredentials.h"
 #include "data/ReportFrequency.h"
-#include "platform/Cancellation.h"
 #include "platform/Clock.h"
 #include "platform/HttpClient.h"
 #include "platform/Instant.h"
@@ -11,6 +10,7 @@
 
 #include <chrono>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -40,9 +40,9 @@ class ASCClient {
     /// and if that is refused, once more the one that the service names. Never throws.
     [[nodiscard]] QCoro::Task<ReportResponse> fetchSales(ReportFrequency frequency, std::string reportDate,
                                                          std::optional<std::string> version,
-                                                         CancelToken cancel);
+                                                         std::stop_token cancel);
     /// The consolidated report of all regions for a fiscal period such as "2026-11". Never throws.
-    [[nodiscard]] QCoro::Task<ReportResponse> fetchFinance(std::string fiscalPeriod, CancelToken cancel);
+    [[nodiscard]] QCoro::Task<ReportResponse> fetchFinance(std::string fiscalPeriod, std::stop_token cancel);
 
     /// `text` without what the credentials and the cached token give away.
     [[nodiscard]] std::string redacted(std::string text) const;
@@ -63,7 +63,7 @@ class ASCClient {
     [[nodiscard]] std::vector<QueryItem> salesQuery(ReportFrequency frequency, const std::string& reportDate,
                                                     const std::string& version) const;
     [[nodiscard]] QCoro::Task<ReportResponse> send(std::string path, std::vector<QueryItem> queryItems,
-                                                   CancelToken cancel);
+                                                   std::stop_token cancel);
 
     HttpClient& http_;
     const Clock& clock_;

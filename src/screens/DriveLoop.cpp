@@ -24,10 +24,10 @@ void DriveLoop::becameActive() {
 
 // These take copies, since a round may outlast the window that began it.
 
-QCoro::Task<> DriveLoop::reload(Parts parts, CancelToken cancel) {
+QCoro::Task<> DriveLoop::reload(Parts parts, std::stop_token cancel) {
     while (parts.store.readAhead(parts.context)) {
         co_await parts.clock.sleep(std::chrono::microseconds::zero(), cancel);
-        if (cancel.isCancelled()) {
+        if (cancel.stop_requested()) {
             co_return;
         }
     }
@@ -35,36 +35,36 @@ QCoro::Task<> DriveLoop::reload(Parts parts, CancelToken cancel) {
 }
 
 // The engine has just saved: the window may move before the figures do.
-QCoro::Task<> DriveLoop::reloadNext(Parts parts, CancelToken cancel) {
+QCoro::Task<> DriveLoop::reloadNext(Parts parts, std::stop_token cancel) {
     co_await parts.clock.sleep(std::chrono::microseconds::zero(), cancel);
-    if (!cancel.isCancelled()) {
+    if (!cancel.stop_requested()) {
         co_await reload(parts, cancel);
     }
 }
 
 // Figures first: what they are worth is known a moment later, and before anything is fetched.
-QCoro::Task<> DriveLoop::begin(Parts parts, CancelToken cancel) {
+QCoro::Task<> DriveLoop::begin(Parts parts, std::stop_token cancel) {
     co_await reload(parts, cancel);
-    if (!cancel.isCancelled()) {
+    if (!cancel.stop_requested()) {
         co_await parts.engine.checkStore();
     }
-    if (!cancel.isCancelled()) {
+    if (!cancel.stop_requested()) {
         co_await parts.engine.autoSyncIfDue();
     }
 }
 
-QCoro::Task<> DriveLoop::goRound(Parts parts, CancelToken cancel) {
+QCoro::Task<> DriveLoop::goRound(Parts parts, std::stop_token cancel) {
     co_await reload(parts, cancel);
-    if (!cancel.isCancelled()) {
+    if (!cancel.stop_requested()) {
         parts.engine.savePending();
         co_await parts.engine.autoSyncIfDue();
     }
 }
 
-QCoro::Task<> DriveLoop::repeat(Parts parts, CancelToken cancel) {
-    while (!cancel.isCancelled()) {
+QCoro::Task<> DriveLoop::repeat(Parts parts, std::stop_token cancel) {
+    while (!cancel.stop_requested()) {
         co_await parts.clock.sleep(roundInterval, cancel);
-        if (!cancel.isCancelled()) {
+        if (!cancel.stop_requested()) {
             co_await goRound(parts, cancel);
         }
     }

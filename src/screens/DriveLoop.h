@@ -2,6 +2,7 @@
 
 #include "earnings/EarningsStore.h"
 #include "platform/Clock.h"
+#include "platform/Lifetime.h"
 #include "platform/TaskScope.h"
 #include "sync/SyncEngine.h"
 
@@ -37,14 +38,14 @@ class DriveLoop : public QObject {
     void becameActive();
 
   private:
-    [[nodiscard]] static QCoro::Task<> reload(Parts parts, CancelToken cancel);
-    [[nodiscard]] static QCoro::Task<> reloadNext(Parts parts, CancelToken cancel);
-    [[nodiscard]] static QCoro::Task<> begin(Parts parts, CancelToken cancel);
-    [[nodiscard]] static QCoro::Task<> goRound(Parts parts, CancelToken cancel);
-    [[nodiscard]] static QCoro::Task<> repeat(Parts parts, CancelToken cancel);
+    [[nodiscard]] static QCoro::Task<> reload(Parts parts, std::stop_token cancel);
+    [[nodiscard]] static QCoro::Task<> reloadNext(Parts parts, std::stop_token cancel);
+    [[nodiscard]] static QCoro::Task<> begin(Parts parts, std::stop_token cancel);
+    [[nodiscard]] static QCoro::Task<> goRound(Parts parts, std::stop_token cancel);
+    [[nodiscard]] static QCoro::Task<> repeat(Parts parts, std::stop_token cancel);
 
     Parts parts_;
-    CancelSource life_;
+    Lifetime life_;
 };
 
 }  // namespace vantrell

@@ -40,7 +40,7 @@ RecordTable<SalesReport>& SalesReportRequest::records(ModelContext& context) {
     return context.salesReports();
 }
 
-QCoro::Task<ReportResponse> SalesReportRequest::fetch(ASCClient& client, CancelToken cancel) const {
+QCoro::Task<ReportResponse> SalesReportRequest::fetch(ASCClient& client, std::stop_token cancel) const {
     return client.fetchSales(frequency, reportDate, std::nullopt, std::move(cancel));
 }
 
@@ -77,7 +77,7 @@ RecordTable<FinanceReport>& FinanceReportRequest::records(ModelContext& context)
     return context.financeReports();
 }
 
-QCoro::Task<ReportResponse> FinanceReportRequest::fetch(ASCClient& client, CancelToken cancel) const {
+QCoro::Task<ReportResponse> FinanceReportRequest::fetch(ASCClient& client, std::stop_token cancel) const {
     return client.fetchFinance(fiscalPeriod, std::move(cancel));
 }
 

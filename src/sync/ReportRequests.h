@@ -33,7 +33,7 @@ struct SalesReportRequest {
     [[nodiscard]] std::string recordKey() const;
     [[nodiscard]] SalesReport newRecord() const;
     [[nodiscard]] static RecordTable<SalesReport>& records(ModelContext& context);
-    [[nodiscard]] QCoro::Task<ReportResponse> fetch(ASCClient& client, CancelToken cancel) const;
+    [[nodiscard]] QCoro::Task<ReportResponse> fetch(ASCClient& client, std::stop_token cancel) const;
 
     /// What the body of the report says; needs nothing but the body.
     [[nodiscard]] static std::unique_ptr<ReportReader<Row>> reader(std::string body) {
@@ -60,7 +60,7 @@ struct FinanceReportRequest {
     [[nodiscard]] std::string recordKey() const;
     [[nodiscard]] FinanceReport newRecord() const;
     [[nodiscard]] static RecordTable<FinanceReport>& records(ModelContext& context);
-    [[nodiscard]] QCoro::Task<ReportResponse> fetch(ASCClient& client, CancelToken cancel) const;
+    [[nodiscard]] QCoro::Task<ReportResponse> fetch(ASCClient& client, std::stop_token cancel) const;
 
     [[nodiscard]] static std::unique_ptr<ReportReader<Row>> reader(std::string body) {
         return readFinance(std::move(body));

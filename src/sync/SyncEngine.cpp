@@ -38,7 +38,7 @@ SyncEngine::SyncEngine(const SyncEngineParts& parts, SyncEngineSettings settings
 
 SyncEngine::~SyncEngine() {
     keychain_.whenLoadedLate({});
-    life_.cancel();
+    life_.end();
 }
 
 bool SyncEngine::beginRun() {

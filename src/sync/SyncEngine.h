@@ -8,6 +8,7 @@
 #include "platform/Clock.h"
 #include "platform/Defaults.h"
 #include "platform/HttpClient.h"
+#include "platform/Lifetime.h"
 #include "platform/LocalTime.h"
 #include "platform/Locale.h"
 #include "platform/SecretStore.h"
@@ -65,7 +66,7 @@ class SyncEngine : public QObject {
 
     /// Ends what is under way at the next moment it waits; nothing starts any more. To be called before the
     /// engine goes, so that those who wait can leave while it is still there.
-    void close() { life_.cancel(); }
+    void close() { life_.end(); }
 
     /// The stored credentials are complete.
     [[nodiscard]] bool hasCredentials() const { return hasCredentials_; }
@@ -210,7 +211,7 @@ class SyncEngine : public QObject {
     void take(LoadedCredentials loaded);
     void setProgress(std::string text, std::optional<double> fraction);
     /// The engine is being destroyed: whoever was waiting leaves without touching anything.
-    [[nodiscard]] bool isClosing() const { return life_.token().isCancelled(); }
+    [[nodiscard]] bool isClosing() const { return life_.token().stop_requested(); }
 
     ModelContext& context_;
     HttpClient& http_;
@@ -240,7 +241,7 @@ class SyncEngine : public QObject {
                                          &SyncEngine::stopRequestedChanged)
 
     // Last, so that whatever still waits is ended while everything above is alive.
-    CancelSource life_;
+    Lifetime life_;
 };
 
 }  // namespace vantrell

@@ -1,4 +1,5 @@
 #include "RawServer.h"
+#include "platform/Lifetime.h"
 #include "platform/QtHttpClient.h"
 #include "testing/Cases.h"
 
@@ -201,10 +202,10 @@ TEST(HttpClient, EndsWhatIsUnderWayAtOnceWhenItIsCancelledOrTheClientDestroyed) 
             QObject::connect(&socket, &QTcpSocket::disconnected, [&disconnected] { disconnected = true; });
         });
         auto client = std::make_unique<QtHttpClient>();
-        CancelSource source;
-        auto waiting = client->get(requestTo(server), source.token());
+        Lifetime lifetime;
+        auto waiting = client->get(requestTo(server), lifetime.token());
         ASSERT_TRUE(QTest::qWaitFor([&server] { return !server.requests.empty(); }, 10'000));
-        isCancelled ? source.cancel() : client.reset();
+        isCancelled ? lifetime.end() : client.reset();
         ASSERT_TRUE(waiting.isReady());
         EXPECT_EQ(failureOf(QCoro::waitFor(std::move(waiting))), "The request was cancelled.");
         ASSERT_TRUE(QTest::qWaitFor([&disconnected] { return disconnected; }, 10'000));

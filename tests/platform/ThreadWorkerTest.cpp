@@ -1,3 +1,4 @@
+#include "platform/Lifetime.h"
 #include "platform/TaskScope.h"
 #include "platform/ThreadWorker.h"
 
@@ -15,7 +16,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-QCoro::Task<> note(Worker& worker, std::function<std::string()> work, CancelToken cancel, Texts& texts) {
+QCoro::Task<> note(Worker& worker, std::function<std::string()> work, std::stop_token cancel, Texts& texts) {
     const auto home = std::this_thread::get_id();
     const auto result = co_await worker.run(std::move(work), std::move(cancel));
     EXPECT_EQ(std::this_thread::get_id(), home);
@@ -42,18 +43,18 @@ TEST(ThreadWorker, WhoeverIsCancelledGoesAtOnceAndTheWorkEndsUnheard) {
     bool hasEnded = false;
     {
         ThreadWorker worker;
-        CancelSource source;
+        Lifetime lifetime;
         std::promise<void> go;
         const auto work = [gate = go.get_future().share(), &hasEnded] {
             gate.wait();
             hasEnded = true;
             return std::string("too late");
         };
-        tasks.spawn(note(worker, work, source.token(), texts));
-        source.cancel();
+        tasks.spawn(note(worker, work, lifetime.token(), texts));
+        lifetime.end();
         EXPECT_EQ(texts, Texts{"absent"});
         EXPECT_EQ(tasks.pending(), 0);
-        tasks.spawn(note(worker, work, source.token(), texts));
+        tasks.spawn(note(worker, work, lifetime.token(), texts));
         EXPECT_EQ(texts, (Texts{"absent", "absent"}));
         go.set_value();
     }

@@ -1,4 +1,5 @@
 #include "platform/KeyPair.h"
+#include "platform/Lifetime.h"
 #include "reports/ASCClient.h"
 #include "testing/ManualClock.h"
 #include "testing/ScriptedHttp.h"
@@ -20,7 +21,7 @@ class ASCClientTest : public ::testing::Test {
     ASCClientTest() { client.setCredentials(credentials); }
 
     ReportResponse sales(ReportFrequency frequency, std::string date,
-                         std::optional<std::string> version = std::nullopt, CancelToken cancel = {}) {
+                         std::optional<std::string> version = std::nullopt, std::stop_token cancel = {}) {
         return QCoro::waitFor(
             client.fetchSales(frequency, std::move(date), std::move(version), std::move(cancel)));
     }
@@ -201,9 +202,9 @@ TEST_F(ASCClientTest, NewCredentialsNeverTravelWithAnOldToken) {
 }
 
 TEST_F(ASCClientTest, CancellingEndsTheFetchAsAFailure) {
-    CancelSource source;
-    http.whileWaiting = [&source](const HttpRequest&) { source.cancel(); };
-    EXPECT_TRUE(sales(ReportFrequency::daily, "2026-11-21", std::nullopt, source.token()) ==
+    Lifetime lifetime;
+    http.whileWaiting = [&lifetime](const HttpRequest&) { lifetime.end(); };
+    EXPECT_TRUE(sales(ReportFrequency::daily, "2026-11-21", std::nullopt, lifetime.token()) ==
                 ReportResponse(response::Failure{"cancelled"}));
 }
 

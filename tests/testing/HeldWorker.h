@@ -18,7 +18,7 @@ class HeldWorker final : public Worker {
     void release() { gate_.advance(std::chrono::seconds(1)); }
 
   protected:
-    [[nodiscard]] QCoro::Task<> perform(std::function<void()> job, CancelToken cancel) override {
+    [[nodiscard]] QCoro::Task<> perform(std::function<void()> job, std::stop_token cancel) override {
         if (isHeld) {
             ++waiting_;
             co_await gate_.sleep(std::chrono::seconds(1), cancel);
@@ -27,7 +27,7 @@ class HeldWorker final : public Worker {
         if (isOutOfMemory) {
             throw std::bad_alloc();
         }
-        if (!cancel.isCancelled()) {
+        if (!cancel.stop_requested()) {
             job();
         }
     }

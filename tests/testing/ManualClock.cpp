@@ -29,9 +29,9 @@ struct Wait {
 
 }  // namespace
 
-QCoro::Task<> ManualClock::sleep(std::chrono::microseconds duration, CancelToken cancel) {
+QCoro::Task<> ManualClock::sleep(std::chrono::microseconds duration, std::stop_token cancel) {
     slept.push_back(duration);
-    if (cancel.isCancelled()) {
+    if (cancel.stop_requested()) {
         co_return;
     }
     if (autoAdvance) {
@@ -41,7 +41,7 @@ QCoro::Task<> ManualClock::sleep(std::chrono::microseconds duration, CancelToken
     }
     auto sleeper = std::make_shared<Sleeper>(Sleeper{monotonic_ + duration, {}});
     sleepers_.push_back(sleeper);
-    const auto registration = cancel.onCancel([sleeper] { sleeper->wake(); });
+    const std::stop_callback registration(cancel, [sleeper] { sleeper->wake(); });
     // A named awaiter: GCC 12 destroys a temporary aggregate twice.
     const Wait<Sleeper> wait{sleeper};
     co_await wait;

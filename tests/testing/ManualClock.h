@@ -19,7 +19,7 @@ class ManualClock final : public Clock {
 
     [[nodiscard]] Instant now() const override { return now_; }
     [[nodiscard]] std::chrono::microseconds monotonic() const override { return monotonic_; }
-    [[nodiscard]] QCoro::Task<> sleep(std::chrono::microseconds duration, CancelToken cancel) override;
+    [[nodiscard]] QCoro::Task<> sleep(std::chrono::microseconds duration, std::stop_token cancel) override;
 
     /// Moves both clocks and wakes, in order of their time, the sleepers whose time has come.
     void advance(std::chrono::microseconds duration);

@@ -4,12 +4,12 @@
 
 namespace vantrell::testing {
 
-QCoro::Task<HttpResult> ScriptedHttp::get(HttpRequest request, CancelToken cancel) {
+QCoro::Task<HttpResult> ScriptedHttp::get(HttpRequest request, std::stop_token cancel) {
     requests.push_back(request);
     if (whileWaiting) {
         whileWaiting(request);
     }
-    if (cancel.isCancelled()) {
+    if (cancel.stop_requested()) {
         co_return HttpFailure{"cancelled"};
     }
     if (respond) {

@@ -12,7 +12,7 @@ namespace vantrell::testing {
 /// test. With `respond` set, that function answers instead of the queue.
 class ScriptedHttp final : public HttpClient {
   public:
-    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest request, CancelToken cancel) override;
+    [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest request, std::stop_token cancel) override;
 
     void answer(int status, std::string body) { answers.emplace_back(HttpResponse{status, std::move(body)}); }
 

@@ -12,7 +12,7 @@ class SlowHttp final : public HttpClient {
   public:
     explicit SlowHttp(HttpResponse answer) : answer_(std::move(answer)) { clock.autoAdvance = false; }
 
-    QCoro::Task<HttpResult> get(HttpRequest request, CancelToken cancel) override {
+    QCoro::Task<HttpResult> get(HttpRequest request, std::stop_token cancel) override {
         requests.push_back(std::move(request));
         co_await clock.sleep(std::chrono::seconds(1), std::move(cancel));
         co_return answer_;
