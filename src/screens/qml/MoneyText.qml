@@ -46,6 +46,7 @@ T.AbstractButton {
     }
     PlainText {
         id: amount
+        anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         width: figure.width - figure.markWidth
         horizontalAlignment: Text.AlignRight
