@@ -89,12 +89,6 @@ Answer noLongerAvailable() {
     return notFound(410, "Report is no longer available.");
 }
 
-Answer tooManyRequests() {
-    return error(429, "RATE_LIMIT_EXCEEDED", "The request rate limit has been reached.",
-                 "We've received too many requests for this API. Please wait and try again or slow down your "
-                 "request rate.");
-}
-
 Answer noSuchPath() {
     return error(404, "PATH_ERROR", "The URL path is not valid",
                  "The resource that was asked for does not match a defined path");

@@ -17,7 +17,6 @@ namespace vantrell::sample {
 [[nodiscard]] Answer noSales();
 [[nodiscard]] Answer notYetAvailable(ReportKind kind);
 [[nodiscard]] Answer noLongerAvailable();
-[[nodiscard]] Answer tooManyRequests();
 [[nodiscard]] Answer noSuchPath();
 
 }  // namespace vantrell::sample

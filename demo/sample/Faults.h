@@ -1,7 +1,6 @@
 #pragma once
 
 #include "sample/Answer.h"
-#include "sample/ErrorAnswers.h"
 
 #include <deque>
 #include <optional>
@@ -18,7 +17,6 @@ class Faults {
     void answerNext(int status, std::string body) {
         answerNext({status, "application/json", std::move(body)});
     }
-    void rateLimitNext() { answerNext(tooManyRequests()); }
 
     /// For the service: the answer to the present request, if one was ordered.
     [[nodiscard]] std::optional<Answer> take() {

@@ -1,10 +1,7 @@
 #pragma once
 
-#include "sample/TokenCheck.h"
-
 #include <cstddef>
 #include <deque>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,8 +11,7 @@ namespace vantrell::sample {
 struct ServedRequest {
     std::string target;  ///< path and query as sent
     bool hasAuthorization = false;
-    std::optional<TokenFault> tokenFault;  ///< only of a report request
-    int status = 0;                        ///< of the answer
+    int status = 0;  ///< of the answer
 };
 
 /// What the service was asked, oldest first. Of a long run only the newest requests are kept.

@@ -93,20 +93,19 @@ Answer SampleService::serve(const Question& question, std::string target) {
     served.target = std::move(target);
     served.hasAuthorization = !question.authorization.empty();
     auto ordered = faults_.take();
-    auto given = ordered ? *std::move(ordered) : answer(question, served.tokenFault);
+    auto given = ordered ? *std::move(ordered) : answer(question);
     served.status = given.status;
     log_.record(std::move(served));
     return given;
 }
 
-Answer SampleService::answer(const Question& question, std::optional<TokenFault>& tokenFault) {
+Answer SampleService::answer(const Question& question) {
     const bool asksForSales = question.path == salesPath;
     if (!asksForSales && question.path != financePath) {
         return publicAnswer(question);
     }
     const auto now = clock_.now();
-    tokenFault = tokens_.fault(question.authorization, now);
-    if (tokenFault) {
+    if (tokens_.fault(question.authorization, now)) {
         return notAuthorized();
     }
     return asksForSales ? desk_.sales(question, now) : desk_.finance(question, now);

@@ -39,7 +39,7 @@ class SampleService {
     class Listener;
 
     [[nodiscard]] Answer serve(const Question& question, std::string target);
-    [[nodiscard]] Answer answer(const Question& question, std::optional<TokenFault>& tokenFault);
+    [[nodiscard]] Answer answer(const Question& question);
     [[nodiscard]] Answer publicAnswer(const Question& question);
 
     const SampleAccount& account_;
