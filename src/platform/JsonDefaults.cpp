@@ -114,11 +114,13 @@ void JsonDefaults::setTextMap(std::string_view key, const TextMap& value) {
 
 void JsonDefaults::remove(std::string_view key) {
     values_.remove(toQt(key));
+    // What isn't saved is kept and tried again; the last save tells.
     std::ignore = saveAll();
 }
 
 void JsonDefaults::set(std::string_view key, const QJsonValue& value) {
     values_.insert(toQt(key), value);
+    // As above.
     std::ignore = saveAll();
 }
 

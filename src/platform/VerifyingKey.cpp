@@ -20,6 +20,7 @@ std::vector<std::uint8_t> derSignature(std::span<const std::uint8_t> raw) {
     if (!r || !s || !signature || ECDSA_SIG_set0(signature.get(), r.get(), s.get()) != 1) {
         return {};
     }
+    // They belong to the signature now.
     static_cast<void>(r.release());
     static_cast<void>(s.release());
     const auto size = i2d_ECDSA_SIG(signature.get(), nullptr);
