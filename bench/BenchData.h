@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/Instant.h"
 #include "data/ReportFrequency.h"
-#include "platform/Instant.h"
 #include "sample/SampleAccount.h"
 
 #include <cstdint>

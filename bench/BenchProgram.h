@@ -1,11 +1,11 @@
 #pragma once
 
 #include "MemoryService.h"
+#include "base/SystemClock.h"
 #include "core/MyApp.h"
-#include "platform/JsonDefaults.h"
-#include "platform/Locale.h"
-#include "platform/MemorySecretStore.h"
-#include "platform/SystemClock.h"
+#include "files/JsonDefaults.h"
+#include "locale/Locale.h"
+#include "secrets/MemorySecretStore.h"
 
 #include <filesystem>
 #include <memory>

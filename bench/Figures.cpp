@@ -1,7 +1,7 @@
 #include "Figures.h"
 
 #include "FirstFigures.h"
-#include "earnings/Exports.h"
+#include "figures/Exports.h"
 
 #include <functional>
 #include <stdexcept>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "MemoryService.h"
-#include "platform/SystemClock.h"
+#include "base/SystemClock.h"
 
 namespace vantrell::bench {
 

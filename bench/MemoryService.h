@@ -1,7 +1,7 @@
 #pragma once
 
 #include "BenchData.h"
-#include "platform/HttpClient.h"
+#include "net/HttpClient.h"
 
 #include <map>
 #include <string>

@@ -3,9 +3,9 @@
 #include "BenchProgram.h"
 #include "LaterService.h"
 #include "Measure.h"
+#include "base/ThreadWorker.h"
 #include "core/AppWindows.h"
-#include "platform/Appearance.h"
-#include "platform/ThreadWorker.h"
+#include "screens/Appearance.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "platform/ProcessGuards.h"
+#include "core/ProcessGuards.h"
 #include "trial/TrialOptions.h"
 #include "trial/TrialProgram.h"
 

@@ -1,10 +1,10 @@
 #include "Require.h"
 #include "Targets.h"
+#include "base/Characters.h"
+#include "base/Utf8.h"
 #include "currency/RatesFetcher.h"
 #include "data/Reports.h"
 #include "icons/IconLookup.h"
-#include "platform/Characters.h"
-#include "platform/Utf8.h"
 #include "reports/APIToken.h"
 #include "reports/ClassifyResponse.h"
 

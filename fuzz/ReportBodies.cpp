@@ -1,6 +1,6 @@
 #include "Require.h"
 #include "Targets.h"
-#include "platform/Utf8.h"
+#include "base/Utf8.h"
 #include "reports/FinanceParser.h"
 #include "reports/SalesParser.h"
 

@@ -1,7 +1,7 @@
 #include "Require.h"
 #include "Targets.h"
 #include "data/ModelContainer.h"
-#include "earnings/SalesSnapshot.h"
+#include "figures/SalesSnapshot.h"
 #include "testing/TemporaryFolder.h"
 
 #include <fstream>

@@ -28,7 +28,7 @@ def built_arrows():
     arrows = {}
     for file in sorted((ROOT / "src").glob("*/CMakeLists.txt")):
         for name, body in LAYER_CALL.findall(file.read_text(encoding="utf-8")):
-            uses = re.search(r"\bUSES\b(.*?)(?:\bLIBRARIES\b|\bMOC\b|$)", body, re.DOTALL)
+            uses = re.search(r"\bUSES\b(.*?)(?:\bLIBRARIES\b|\bINSIDE\b|\bMOC\b|$)", body, re.DOTALL)
             arrows[name] = set(uses[1].split()) if uses else set()
     return arrows
 
@@ -50,6 +50,8 @@ def wrong_includes(arrows):
             if file.suffix not in {".h", ".cpp"}:
                 continue
             for included, name in INCLUDE.findall(file.read_text(encoding="utf-8")):
+                if not included and (ROOT / "src" / layer / name).exists():
+                    continue
                 if included not in allowed:
                     yield f"{file.relative_to(ROOT)} includes {included or '(no layer)'}/{name}"
 

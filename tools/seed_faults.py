@@ -24,9 +24,9 @@ ENVIRONMENT = os.environ | ({"TMPDIR": "/dev/shm"} if os.access("/dev/shm", os.W
 # The suites that are asked about a fault below a folder, the quickest first.
 SUITES = {
     "src/data": ["store", "sync", "earnings", "torture_storage", "torture_bad-stores"],
-    "src/platform/Sqlite": ["store", "sync", "torture_storage"],
+    "src/data/Sqlite": ["store", "sync", "torture_storage"],
     "src/sync": ["sync", "screens", "secrets_in_memory", "torture_storage"],
-    "src/platform": ["json_defaults", "files", "settings", "torture_storage"],
+    "src/files": ["json_defaults", "files", "settings", "torture_storage"],
     "src/screens": ["settings", "screens"],
 }
 TORTURE = ["vantrell-demo", "vantrell_storage_shim"]

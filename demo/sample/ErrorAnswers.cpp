@@ -8,15 +8,11 @@ namespace vantrell::sample {
 
 namespace {
 
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 Answer error(int status, std::string_view code, std::string_view title, std::string_view detail) {
     const QJsonObject entry{{QStringLiteral("status"), QString::number(status)},
-                            {QStringLiteral("code"), text(code)},
-                            {QStringLiteral("title"), text(title)},
-                            {QStringLiteral("detail"), text(detail)}};
+                            {QStringLiteral("code"), QString::fromUtf8(code)},
+                            {QStringLiteral("title"), QString::fromUtf8(title)},
+                            {QStringLiteral("detail"), QString::fromUtf8(detail)}};
     const QJsonObject envelope{{QStringLiteral("errors"), QJsonArray{entry}}};
     return {status, "application/json", QJsonDocument{envelope}.toJson(QJsonDocument::Compact).toStdString()};
 }

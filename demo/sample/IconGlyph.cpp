@@ -69,7 +69,7 @@ QPainterPath sun() {
     return disc(0, 0, 42) | around(plate(-8, -95, 16, 32, 8), 8);
 }
 
-QPainterPath honeycomb() {
+QPainterPath cells() {
     QPainterPath cell;
     for (int corner = 0; corner < 6; ++corner) {
         const double angle = std::numbers::pi / 3 * corner;
@@ -136,8 +136,8 @@ QPainterPath cards() {
 }
 
 using Glyph = QPainterPath (*)();
-constexpr std::array<Glyph, 13> glyphs{waves, cup,     sun,  honeycomb, stack, mountains, stops,
-                                       tiles, blossom, grid, bars,      moon,  cards};
+constexpr std::array<Glyph, 13> glyphs{waves, cup,     sun,  cells, stack, mountains, stops,
+                                       tiles, blossom, grid, bars,  moon,  cards};
 
 }  // namespace
 

@@ -12,23 +12,21 @@ namespace vantrell::sample {
 
 namespace {
 
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 bool isSoldIn(const Item& app, std::string_view country) {
-    const auto local = text(country).toUpper();
-    return app.home.empty() || local.isEmpty() || local == QLatin1String("US") || local == text(app.home);
+    const auto local = QString::fromUtf8(country).toUpper();
+    return app.home.empty() || local.isEmpty() || local == QLatin1String("US") ||
+           local == QString::fromUtf8(app.home);
 }
 
 QJsonObject entry(const Item& app, std::string_view origin) {
     QJsonObject found{{QStringLiteral("wrapperType"), QStringLiteral("software")},
                       {QStringLiteral("trackId"), static_cast<qint64>(app.appleID)},
-                      {QStringLiteral("trackName"), text(app.titles.back().value)},
-                      {QStringLiteral("bundleId"), text(app.sku)}};
+                      {QStringLiteral("trackName"), QString::fromUtf8(app.titles.back().value)},
+                      {QStringLiteral("bundleId"), QString::fromUtf8(app.sku)}};
     for (const int side : {60, 100}) {
         if (const auto path = iconPath(app, side)) {
-            found.insert(QStringLiteral("artworkUrl%1").arg(side), text(origin) + text(*path));
+            found.insert(QStringLiteral("artworkUrl%1").arg(side),
+                         QString::fromUtf8(origin) + QString::fromUtf8(*path));
         }
     }
     return found;
@@ -38,7 +36,7 @@ QJsonObject entry(const Item& app, std::string_view origin) {
 
 std::string lookupBody(std::span<const Item> items, std::string_view ids, std::string_view country,
                        std::string_view origin) {
-    const auto asked = text(ids).split(QLatin1Char(','));
+    const auto asked = QString::fromUtf8(ids).split(QLatin1Char(','));
     QJsonArray results;
     for (const auto& item : items) {
         if (item.isApp() && !item.withdrawn && isSoldIn(item, country) &&

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Instant.h"
-#include "platform/LocalTime.h"
+#include "base/Instant.h"
+#include "base/LocalTime.h"
 #include "sample/Days.h"
 #include "sample/ReportPeriods.h"
 

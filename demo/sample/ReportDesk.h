@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Instant.h"
+#include "base/Instant.h"
 #include "sample/Answer.h"
 #include "sample/Publication.h"
 #include "sample/SampleAccount.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Clock.h"
+#include "base/Clock.h"
 #include "sample/Answer.h"
 #include "sample/Faults.h"
 #include "sample/IconDesk.h"

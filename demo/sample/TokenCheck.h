@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Instant.h"
-#include "platform/VerifyingKey.h"
+#include "base/Instant.h"
+#include "keys/VerifyingKey.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Clock.h"
-#include "platform/HttpClient.h"
+#include "base/Clock.h"
+#include "net/HttpClient.h"
 
 #include <chrono>
 #include <utility>

@@ -1,7 +1,7 @@
 #include "trial/ExportFiles.h"
 
-#include "earnings/Exports.h"
-#include "platform/AtomicFile.h"
+#include "figures/Exports.h"
+#include "files/AtomicFile.h"
 
 namespace vantrell {
 

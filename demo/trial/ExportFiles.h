@@ -1,6 +1,6 @@
 #pragma once
 
-#include "earnings/EarningsStore.h"
+#include "figures/EarningsStore.h"
 
 #include <filesystem>
 #include <optional>

@@ -11,7 +11,7 @@ namespace vantrell {
 namespace {
 
 using enum ReportStatus;
-constexpr std::array statuses{ok, empty, pending, unavailable, error, missing};
+constexpr std::array allStatuses{ok, empty, pending, unavailable, error, missing};
 using CountsByStatus = std::map<ReportStatus, int>;
 
 constexpr int kindWidth = 10;
@@ -19,7 +19,7 @@ constexpr int countWidth = 12;
 
 void writeCounts(const std::string& kind, const CountsByStatus& counts, std::ostream& output) {
     output << std::left << std::setw(kindWidth) << kind << std::right;
-    for (const ReportStatus status : statuses) {
+    for (const ReportStatus status : allStatuses) {
         const auto count = counts.find(status);
         output << std::setw(countWidth) << (count == counts.end() ? 0 : count->second);
     }
@@ -36,7 +36,7 @@ void writeReports(ModelContext& context, std::ostream& output) {
         ++finance[report.status()];
     }
     output << std::left << std::setw(kindWidth) << "Reports" << std::right;
-    for (const ReportStatus status : statuses) {
+    for (const ReportStatus status : allStatuses) {
         output << std::setw(countWidth) << rawText(status);
     }
     output << "\n";

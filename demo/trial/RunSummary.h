@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/MyApp.h"
-#include "platform/Locale.h"
+#include "locale/Locale.h"
 
 #include <ostream>
 

@@ -1,6 +1,6 @@
 #include "trial/ScreenCamera.h"
 
-#include "platform/AtomicFile.h"
+#include "files/AtomicFile.h"
 #include "trial/SpokenText.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/AppWindows.h"
-#include "platform/Appearance.h"
+#include "screens/Appearance.h"
 
 #include <filesystem>
 #include <optional>

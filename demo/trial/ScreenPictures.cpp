@@ -1,7 +1,7 @@
 #include "trial/ScreenPictures.h"
 
 #include "core/AppWindows.h"
-#include "platform/Appearance.h"
+#include "screens/Appearance.h"
 #include "trial/CannedHttp.h"
 #include "trial/ScreenCamera.h"
 #include "trial/SideProgram.h"

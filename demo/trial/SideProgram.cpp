@@ -1,7 +1,7 @@
 #include "trial/SideProgram.h"
 
 #include "data/CredentialsKeychain.h"
-#include "platform/KeyPair.h"
+#include "keys/KeyPair.h"
 
 #include <stdexcept>
 #include <utility>

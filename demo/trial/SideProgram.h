@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/AppWindows.h"
-#include "platform/Appearance.h"
-#include "platform/JsonDefaults.h"
-#include "platform/MemorySecretStore.h"
+#include "files/JsonDefaults.h"
+#include "screens/Appearance.h"
+#include "secrets/MemorySecretStore.h"
 
 #include <filesystem>
 #include <memory>

@@ -1,7 +1,7 @@
 #include "trial/TrialOptions.h"
 
+#include "base/Decimal.h"
 #include "calendar/DayKey.h"
-#include "platform/Decimal.h"
 
 #include <algorithm>
 #include <fstream>

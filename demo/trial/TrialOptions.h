@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Instant.h"
+#include "base/Instant.h"
 
 #include <chrono>
 #include <filesystem>

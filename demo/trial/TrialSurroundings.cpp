@@ -2,7 +2,7 @@
 
 #include "core/PublicServices.h"
 #include "data/CredentialsKeychain.h"
-#include "platform/KeyPair.h"
+#include "keys/KeyPair.h"
 #include "reports/APIToken.h"
 
 #include <cstdlib>

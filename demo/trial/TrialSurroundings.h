@@ -1,13 +1,13 @@
 #pragma once
 
+#include "base/SystemClock.h"
+#include "base/ThreadWorker.h"
 #include "core/AppWindows.h"
 #include "core/MyApp.h"
-#include "platform/JsonDefaults.h"
-#include "platform/MemorySecretStore.h"
-#include "platform/QtHttpClient.h"
-#include "platform/SystemClock.h"
-#include "platform/ThreadWorker.h"
+#include "files/JsonDefaults.h"
+#include "net/QtHttpClient.h"
 #include "sample/SampleService.h"
+#include "secrets/MemorySecretStore.h"
 #include "trial/TrialOptions.h"
 
 #include <filesystem>

@@ -1,7 +1,7 @@
 #include "calendar/DayKey.h"
 
+#include "base/WholeNumber.h"
 #include "calendar/YearMonth.h"
-#include "platform/WholeNumber.h"
 
 #include <algorithm>
 #include <array>

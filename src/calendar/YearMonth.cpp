@@ -1,6 +1,6 @@
 #include "calendar/YearMonth.h"
 
-#include "platform/WholeNumber.h"
+#include "base/WholeNumber.h"
 
 #include <algorithm>
 

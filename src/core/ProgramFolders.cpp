@@ -1,4 +1,4 @@
-#include "core/ProgramFolders.h"
+#include "ProgramFolders.h"
 
 #include <cstdlib>
 #include <pwd.h>

@@ -1,6 +1,6 @@
 #include "data/CredentialsKeychain.h"
 
-#include "platform/Overloaded.h"
+#include "base/Overloaded.h"
 
 #include <array>
 #include <string_view>

@@ -1,8 +1,8 @@
 #include "data/FileCheck.h"
 
-#include "data/Schema.h"
-#include "data/StoreFailures.h"
-#include "platform/Utf8.h"
+#include "Schema.h"
+#include "StoreFailures.h"
+#include "base/Utf8.h"
 
 #include <algorithm>
 #include <array>

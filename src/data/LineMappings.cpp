@@ -1,6 +1,6 @@
 #include "data/LineMappings.h"
 
-#include "data/PackedDecimal.h"
+#include "PackedDecimal.h"
 #include "data/ReportFrequency.h"
 
 namespace vantrell {

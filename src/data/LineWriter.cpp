@@ -1,6 +1,6 @@
 #include "data/LineWriter.h"
 
-#include "data/PackedDecimal.h"
+#include "PackedDecimal.h"
 
 namespace vantrell {
 

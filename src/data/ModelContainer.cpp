@@ -1,8 +1,8 @@
 #include "data/ModelContainer.h"
 
-#include "data/Schema.h"
-#include "data/StoreFailures.h"
-#include "data/StoreFile.h"
+#include "Schema.h"
+#include "StoreFailures.h"
+#include "StoreFile.h"
 
 #include <optional>
 

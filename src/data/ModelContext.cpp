@@ -1,6 +1,6 @@
 #include "data/ModelContext.h"
 
-#include "data/StoreFailures.h"
+#include "StoreFailures.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #include "data/OfferDictionary.h"
 
+#include "PackedDecimal.h"
 #include "data/LineWriter.h"
-#include "data/PackedDecimal.h"
 
 #include <algorithm>
 #include <functional>

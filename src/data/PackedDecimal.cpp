@@ -1,4 +1,4 @@
-#include "data/PackedDecimal.h"
+#include "PackedDecimal.h"
 
 #include <limits>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Decimal.h"
-#include "platform/Sqlite.h"
+#include "base/Decimal.h"
+#include "data/Sqlite.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "data/RecordMappings.h"
 
+#include "base/Utf8.h"
 #include "data/RatesText.h"
-#include "platform/Utf8.h"
 
 #include <string_view>
 

@@ -12,23 +12,23 @@ struct Texts {
 };
 
 using enum ReportFrequency;
-constexpr std::array<Texts, 4> texts{{{daily, "DAILY", "daily"},
-                                      {weekly, "WEEKLY", "weekly"},
-                                      {monthly, "MONTHLY", "monthly"},
-                                      {yearly, "YEARLY", "yearly"}}};
+constexpr std::array<Texts, 4> frequencyTexts{{{daily, "DAILY", "daily"},
+                                               {weekly, "WEEKLY", "weekly"},
+                                               {monthly, "MONTHLY", "monthly"},
+                                               {yearly, "YEARLY", "yearly"}}};
 
 }  // namespace
 
 std::string_view rawText(ReportFrequency frequency) {
-    return texts.at(static_cast<std::size_t>(frequency)).raw;
+    return frequencyTexts.at(static_cast<std::size_t>(frequency)).raw;
 }
 
 std::string_view lowerCaseText(ReportFrequency frequency) {
-    return texts.at(static_cast<std::size_t>(frequency)).lower;
+    return frequencyTexts.at(static_cast<std::size_t>(frequency)).lower;
 }
 
 std::optional<ReportFrequency> reportFrequency(std::string_view rawText) {
-    for (const auto& known : texts) {
+    for (const auto& known : frequencyTexts) {
         if (known.raw == rawText) {
             return known.frequency;
         }

@@ -7,21 +7,21 @@ namespace vantrell {
 namespace {
 
 using enum ReportStatus;
-constexpr std::array<std::pair<ReportStatus, std::string_view>, 6> texts{{{ok, "ok"},
-                                                                          {empty, "empty"},
-                                                                          {pending, "pending"},
-                                                                          {unavailable, "unavailable"},
-                                                                          {error, "error"},
-                                                                          {missing, "missing"}}};
+constexpr std::array<std::pair<ReportStatus, std::string_view>, 6> statusTexts{{{ok, "ok"},
+                                                                                {empty, "empty"},
+                                                                                {pending, "pending"},
+                                                                                {unavailable, "unavailable"},
+                                                                                {error, "error"},
+                                                                                {missing, "missing"}}};
 
 }  // namespace
 
 std::string_view rawText(ReportStatus status) {
-    return texts.at(static_cast<std::size_t>(status)).second;
+    return statusTexts.at(static_cast<std::size_t>(status)).second;
 }
 
 ReportStatus reportStatus(std::string_view rawText) {
-    for (const auto& [status, text] : texts) {
+    for (const auto& [status, text] : statusTexts) {
         if (text == rawText) {
             return status;
         }

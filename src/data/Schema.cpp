@@ -1,6 +1,6 @@
-#include "data/Schema.h"
+#include "Schema.h"
 
-#include "data/PackedDecimal.h"
+#include "PackedDecimal.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Sqlite.h"
+#include "data/Sqlite.h"
 
 #include <cstdint>
 

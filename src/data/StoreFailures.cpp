@@ -1,4 +1,4 @@
-#include "data/StoreFailures.h"
+#include "StoreFailures.h"
 
 #include <algorithm>
 #include <cerrno>

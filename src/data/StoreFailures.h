@@ -1,7 +1,7 @@
 #pragma once
 
+#include "data/Sqlite.h"
 #include "data/StoreError.h"
-#include "platform/Sqlite.h"
 
 namespace vantrell {
 

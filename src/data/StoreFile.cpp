@@ -1,7 +1,7 @@
-#include "data/StoreFile.h"
+#include "StoreFile.h"
 
-#include "data/Schema.h"
-#include "data/StoreFailures.h"
+#include "Schema.h"
+#include "StoreFailures.h"
 
 #include <algorithm>
 #include <array>

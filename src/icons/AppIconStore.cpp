@@ -1,6 +1,6 @@
 #include "icons/AppIconStore.h"
 
-#include "platform/WholeNumber.h"
+#include "base/WholeNumber.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "icons/IconLookup.h"
 
-#include "platform/RequestUrl.h"
+#include "net/RequestUrl.h"
 
 #include <chrono>
 #include <utility>
@@ -13,8 +13,8 @@
 namespace vantrell {
 namespace {
 
-constexpr auto idleTimeout = std::chrono::seconds(60);
-constexpr auto totalTimeout = std::chrono::minutes(2);
+constexpr auto lookupIdleTimeout = std::chrono::seconds(60);
+constexpr auto lookupTotalTimeout = std::chrono::minutes(2);
 constexpr std::size_t maxBodyBytes = std::size_t{8} << 20U;
 
 std::string joined(const std::vector<std::int64_t>& appleIDs) {
@@ -88,8 +88,8 @@ QCoro::Task<IconAddresses> IconLookup::fetch(HttpClient& http, std::string servi
     }
     HttpRequest request{.url = *std::move(url),
                         .redirects = Redirects::follow,
-                        .idleTimeout = idleTimeout,
-                        .totalTimeout = totalTimeout,
+                        .idleTimeout = lookupIdleTimeout,
+                        .totalTimeout = lookupTotalTimeout,
                         .maxBodyBytes = maxBodyBytes,
                         .maxErrorBodyBytes = maxBodyBytes};
     const HttpResult result = co_await http.get(std::move(request), std::move(cancel));

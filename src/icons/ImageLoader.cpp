@@ -12,8 +12,8 @@ namespace {
 constexpr qsizetype memoryBytes = qsizetype{16} << 20U;
 constexpr int maxRequests = 4;
 constexpr std::size_t maxAddressLength = 2048;
-constexpr auto idleTimeout = std::chrono::seconds(30);
-constexpr auto totalTimeout = std::chrono::minutes(2);
+constexpr auto pictureIdleTimeout = std::chrono::seconds(30);
+constexpr auto pictureTotalTimeout = std::chrono::minutes(2);
 constexpr std::size_t maxPictureBytes = std::size_t{5} << 20U;
 constexpr std::size_t maxErrorBytes = std::size_t{64} << 10U;
 
@@ -26,8 +26,8 @@ HttpRequest pictureRequest(const std::string& address) {
     // A redirect never leads to an address without encryption: not from https, and from plain http nowhere.
     return {.url = address,
             .redirects = isEncrypted(address) ? Redirects::follow : Redirects::refuse,
-            .idleTimeout = idleTimeout,
-            .totalTimeout = totalTimeout,
+            .idleTimeout = pictureIdleTimeout,
+            .totalTimeout = pictureTotalTimeout,
             .maxBodyBytes = maxPictureBytes,
             .maxErrorBodyBytes = maxErrorBytes};
 }

@@ -1,6 +1,6 @@
 #include "reports/APIToken.h"
 
-#include "platform/Whitespace.h"
+#include "base/Whitespace.h"
 
 #include <optional>
 #include <utility>
@@ -12,10 +12,6 @@
 
 namespace vantrell {
 namespace {
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 std::string base64Url(const QByteArray& bytes) {
     return bytes.toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals).toStdString();
@@ -71,9 +67,9 @@ std::string makeAPIToken(const APICredentials& credentials, Instant now) {
     const SigningKey key = loadSigningKey(credentials.privateKeyPEM);
     const auto issued = std::chrono::duration_cast<std::chrono::seconds>(now.time_since_epoch());
     const QJsonObject header{{QStringLiteral("alg"), QStringLiteral("ES256")},
-                             {QStringLiteral("kid"), text(credentials.keyID)},
+                             {QStringLiteral("kid"), QString::fromUtf8(credentials.keyID)},
                              {QStringLiteral("typ"), QStringLiteral("JWT")}};
-    const QJsonObject claims{{QStringLiteral("iss"), text(credentials.issuerID)},
+    const QJsonObject claims{{QStringLiteral("iss"), QString::fromUtf8(credentials.issuerID)},
                              {QStringLiteral("iat"), qint64{issued.count()}},
                              {QStringLiteral("exp"), qint64{(issued + tokenLifetime).count()}},
                              {QStringLiteral("aud"), QStringLiteral("appstoreconnect-v1")}};

@@ -1,8 +1,8 @@
 #include "reports/ASCClient.h"
 
+#include "Redaction.h"
 #include "reports/APIToken.h"
 #include "reports/ClassifyResponse.h"
-#include "reports/Redaction.h"
 
 #include <exception>
 #include <utility>

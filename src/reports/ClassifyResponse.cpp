@@ -1,8 +1,8 @@
 #include "reports/ClassifyResponse.h"
 
+#include "base/LowerCase.h"
+#include "base/Utf8.h"
 #include "data/Reports.h"
-#include "platform/LowerCase.h"
-#include "platform/Utf8.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "reports/FinanceParser.h"
 
-#include "reports/ReportCounts.h"
-#include "reports/ReportValues.h"
+#include "ReportCounts.h"
+#include "ReportValues.h"
 
 namespace vantrell {
 namespace {

@@ -1,4 +1,4 @@
-#include "reports/GzipMember.h"
+#include "GzipMember.h"
 
 #include "reports/ReportError.h"
 

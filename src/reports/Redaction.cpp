@@ -1,6 +1,6 @@
-#include "reports/Redaction.h"
+#include "Redaction.h"
 
-#include "platform/Whitespace.h"
+#include "base/Whitespace.h"
 
 #include <algorithm>
 

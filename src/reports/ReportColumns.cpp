@@ -1,7 +1,7 @@
 #include "reports/ReportColumns.h"
 
-#include "platform/LowerCase.h"
-#include "platform/Whitespace.h"
+#include "base/LowerCase.h"
+#include "base/Whitespace.h"
 
 namespace vantrell {
 namespace {

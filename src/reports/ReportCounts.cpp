@@ -1,6 +1,6 @@
-#include "reports/ReportCounts.h"
+#include "ReportCounts.h"
 
-#include "reports/ReportValues.h"
+#include "ReportValues.h"
 
 namespace vantrell {
 

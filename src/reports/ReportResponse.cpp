@@ -1,6 +1,6 @@
 #include "reports/ReportResponse.h"
 
-#include "platform/Overloaded.h"
+#include "base/Overloaded.h"
 #include "reports/ReportError.h"
 #include "reports/ReportLines.h"
 #include "reports/ReportText.h"

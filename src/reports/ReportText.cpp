@@ -1,7 +1,7 @@
 #include "reports/ReportText.h"
 
-#include "platform/Utf8.h"
-#include "reports/GzipMember.h"
+#include "GzipMember.h"
+#include "base/Utf8.h"
 #include "reports/ReportError.h"
 #include "reports/ReportLines.h"
 

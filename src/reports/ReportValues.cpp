@@ -1,6 +1,6 @@
-#include "reports/ReportValues.h"
+#include "ReportValues.h"
 
-#include "platform/Whitespace.h"
+#include "base/Whitespace.h"
 
 #include <charconv>
 #include <chrono>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Decimal.h"
-#include "platform/Instant.h"
+#include "base/Decimal.h"
+#include "base/Instant.h"
 
 #include <cstdint>
 #include <optional>

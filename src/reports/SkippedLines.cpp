@@ -1,7 +1,7 @@
 #include "reports/SkippedLines.h"
 
-#include "platform/Characters.h"
-#include "platform/Utf8.h"
+#include "base/Characters.h"
+#include "base/Utf8.h"
 
 #include <cstddef>
 

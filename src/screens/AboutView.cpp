@@ -1,6 +1,6 @@
 #include "screens/AboutView.h"
 
-#include "platform/ProgramVersion.h"
+#include "base/ProgramVersion.h"
 #include "screens/components/ShownText.h"
 
 namespace vantrell {

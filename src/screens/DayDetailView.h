@@ -1,6 +1,6 @@
 #pragma once
 
-#include "earnings/AppFilter.h"
+#include "figures/AppFilter.h"
 #include "screens/BlockList.h"
 #include "screens/Screen.h"
 #include "screens/components/MoneyValue.h"

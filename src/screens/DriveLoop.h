@@ -1,9 +1,9 @@
 #pragma once
 
-#include "earnings/EarningsStore.h"
-#include "platform/Clock.h"
-#include "platform/Lifetime.h"
-#include "platform/TaskScope.h"
+#include "base/Clock.h"
+#include "base/Lifetime.h"
+#include "base/TaskScope.h"
+#include "figures/EarningsStore.h"
 #include "sync/SyncEngine.h"
 
 #include <QObject>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "earnings/EarningsStore.h"
-#include "platform/Locale.h"
+#include "figures/EarningsStore.h"
+#include "locale/Locale.h"
 
 #include <optional>
 #include <string>

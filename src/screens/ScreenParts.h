@@ -1,13 +1,13 @@
 #pragma once
 
-#include "earnings/EarningsStore.h"
-#include "platform/Appearance.h"
-#include "platform/Clock.h"
-#include "platform/Defaults.h"
-#include "platform/HttpClient.h"
-#include "platform/LocalTime.h"
-#include "platform/Locale.h"
-#include "platform/TaskScope.h"
+#include "base/Clock.h"
+#include "base/LocalTime.h"
+#include "base/TaskScope.h"
+#include "figures/EarningsStore.h"
+#include "files/Defaults.h"
+#include "locale/Locale.h"
+#include "net/HttpClient.h"
+#include "screens/Appearance.h"
 #include "sync/SyncEngine.h"
 
 #include <string>

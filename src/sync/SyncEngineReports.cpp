@@ -1,6 +1,6 @@
+#include "base/Characters.h"
+#include "base/Overloaded.h"
 #include "calendar/ReportSchedule.h"
-#include "platform/Characters.h"
-#include "platform/Overloaded.h"
 #include "reports/ReportError.h"
 #include "sync/SyncEngine.h"
 

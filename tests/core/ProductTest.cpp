@@ -1,4 +1,4 @@
-#include "core/ProgramFolders.h"
+#include "ProgramFolders.h"
 #include "core/PublicServices.h"
 #include "testing/Golden.h"
 #include "testing/TemporaryFolder.h"

@@ -1,5 +1,5 @@
 #include "data/CredentialsKeychain.h"
-#include "platform/MemorySecretStore.h"
+#include "secrets/MemorySecretStore.h"
 
 #include <gtest/gtest.h>
 

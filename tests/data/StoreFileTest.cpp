@@ -1,4 +1,4 @@
-#include "platform/Sqlite.h"
+#include "data/Sqlite.h"
 #include "testing/Cases.h"
 #include "testing/Golden.h"
 #include "testing/StoreFixture.h"

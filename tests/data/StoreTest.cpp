@@ -1,4 +1,4 @@
-#include "platform/Sqlite.h"
+#include "data/Sqlite.h"
 #include "testing/StoreFixture.h"
 
 #include <iterator>

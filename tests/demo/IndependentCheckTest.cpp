@@ -1,5 +1,5 @@
-#include "earnings/CSVLine.h"
-#include "earnings/Exports.h"
+#include "figures/CSVLine.h"
+#include "figures/Exports.h"
 #include "reports/FinanceParser.h"
 #include "reports/SalesParser.h"
 #include "sample/FinanceBody.h"

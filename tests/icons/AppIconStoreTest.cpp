@@ -1,5 +1,5 @@
+#include "base/TaskScope.h"
 #include "icons/AppIconStore.h"
-#include "platform/TaskScope.h"
 #include "testing/Cases.h"
 #include "testing/MemoryDefaults.h"
 #include "testing/ScriptedHttp.h"

@@ -1,5 +1,5 @@
-#include "platform/KeyPair.h"
-#include "platform/VerifyingKey.h"
+#include "keys/KeyPair.h"
+#include "keys/VerifyingKey.h"
 #include "reports/APIToken.h"
 #include "testing/WrittenBy.h"
 

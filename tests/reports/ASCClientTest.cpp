@@ -1,5 +1,5 @@
-#include "platform/KeyPair.h"
-#include "platform/Lifetime.h"
+#include "base/Lifetime.h"
+#include "keys/KeyPair.h"
 #include "reports/ASCClient.h"
 #include "testing/ManualClock.h"
 #include "testing/ScriptedHttp.h"

@@ -1,5 +1,5 @@
+#include "base/Utf8.h"
 #include "calendar/DayKey.h"
-#include "platform/Utf8.h"
 #include "reports/FinanceParser.h"
 #include "reports/SalesParser.h"
 #include "testing/Golden.h"

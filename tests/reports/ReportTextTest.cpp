@@ -1,4 +1,4 @@
-#include "platform/Utf8.h"
+#include "base/Utf8.h"
 #include "reports/ReportError.h"
 #include "reports/ReportText.h"
 #include "reports/SalesParser.h"

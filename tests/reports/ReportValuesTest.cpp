@@ -1,4 +1,4 @@
-#include "reports/ReportValues.h"
+#include "ReportValues.h"
 #include "testing/Cases.h"
 
 namespace vantrell {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Appearance.h"
+#include "screens/Appearance.h"
 #include "screens/ScreenParts.h"
 #include "testing/EarningsFixture.h"
 #include "testing/EngineFixture.h"

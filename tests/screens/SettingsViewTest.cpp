@@ -1,5 +1,5 @@
 #include "ScreenFixture.h"
-#include "earnings/Exports.h"
+#include "figures/Exports.h"
 #include "screens/settings/SettingsView.h"
 #include "testing/Golden.h"
 #include "testing/TemporaryFolder.h"

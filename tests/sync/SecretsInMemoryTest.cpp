@@ -1,8 +1,8 @@
-#include "../platform/Keyring.h"
-#include "../platform/RawServer.h"
-#include "platform/KeychainSecretStore.h"
-#include "platform/QtHttpClient.h"
+#include "net/QtHttpClient.h"
+#include "secrets/KeychainSecretStore.h"
 #include "testing/EngineFixture.h"
+#include "testing/Keyring.h"
+#include "testing/RawServer.h"
 
 #include <cstring>
 #include <fcntl.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Decimal.h"
-#include "platform/OpenSslOwners.h"
+#include "OpenSslOwners.h"
+#include "base/Decimal.h"
 
 #include <algorithm>
 #include <cstddef>

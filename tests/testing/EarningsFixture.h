@@ -1,7 +1,7 @@
 #pragma once
 
 #include "calendar/DayKey.h"
-#include "earnings/EarningsStore.h"
+#include "figures/EarningsStore.h"
 #include "testing/FixedLocalTime.h"
 #include "testing/ManualClock.h"
 #include "testing/MemoryDefaults.h"

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/TaskScope.h"
 #include "calendar/DayKey.h"
-#include "platform/KeyPair.h"
-#include "platform/MemorySecretStore.h"
-#include "platform/TaskScope.h"
+#include "keys/KeyPair.h"
+#include "secrets/MemorySecretStore.h"
 #include "sync/SyncEngine.h"
 #include "testing/FixedLocalTime.h"
 #include "testing/HeldWorker.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/LocalTime.h"
+#include "base/LocalTime.h"
 
 #include <string_view>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Worker.h"
+#include "base/Worker.h"
 #include "testing/ManualClock.h"
 
 #include <new>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Defaults.h"
+#include "files/Defaults.h"
 
 #include <map>
 #include <variant>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/OpenSslOwners.h"
+#include "OpenSslOwners.h"
 
 #include <string>
 

@@ -1,9 +1,9 @@
-#include "../platform/Keyring.h"
 #include "TrialHouse.h"
 #include "WindowDriver.h"
-#include "platform/KeychainSecretStore.h"
 #include "screens/components/DayText.h"
+#include "secrets/KeychainSecretStore.h"
 #include "testing/Golden.h"
+#include "testing/Keyring.h"
 
 #include <filesystem>
 #include <fstream>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "data/CredentialsKeychain.h"
-#include "platform/Appearance.h"
-#include "platform/KeyPair.h"
+#include "keys/KeyPair.h"
+#include "screens/Appearance.h"
 #include "testing/TemporaryFolder.h"
 #include "trial/TrialSurroundings.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/Worker.h"
 #include "core/AppWindows.h"
-#include "platform/Appearance.h"
-#include "platform/MemorySecretStore.h"
-#include "platform/Worker.h"
+#include "screens/Appearance.h"
+#include "secrets/MemorySecretStore.h"
 #include "testing/FixedLocalTime.h"
 #include "testing/ManualClock.h"
 #include "testing/MemoryDefaults.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "earnings/DayFigures.h"
+#include "figures/DayFigures.h"
 #include "screens/charts/Chart.h"
 
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "earnings/Trend.h"
-#include "platform/Locale.h"
+#include "figures/Trend.h"
+#include "locale/Locale.h"
 
 #include <cstddef>
 #include <vector>

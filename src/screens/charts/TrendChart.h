@@ -1,6 +1,6 @@
 #pragma once
 
-#include "earnings/Trend.h"
+#include "figures/Trend.h"
 #include "screens/charts/Chart.h"
 
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "earnings/Trend.h"
+#include "figures/Trend.h"
 #include "icons/AppIconStore.h"
 #include "screens/RowList.h"
 #include "screens/ScreenParts.h"

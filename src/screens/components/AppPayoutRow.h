@@ -1,6 +1,6 @@
 #pragma once
 
-#include "earnings/Payouts.h"
+#include "figures/Payouts.h"
 #include "screens/components/ColumnTitles.h"
 #include "screens/components/MoneyValue.h"
 

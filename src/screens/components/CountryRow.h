@@ -1,6 +1,6 @@
 #pragma once
 
-#include "earnings/ProductFigures.h"
+#include "figures/ProductFigures.h"
 #include "screens/components/FigureContext.h"
 
 #include <QObject>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "calendar/ReportCalendar.h"
-#include "platform/Locale.h"
+#include "locale/Locale.h"
 
 #include <string>
 #include <string_view>

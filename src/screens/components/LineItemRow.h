@@ -1,7 +1,7 @@
 #pragma once
 
-#include "earnings/SalesRowLite.h"
-#include "platform/Locale.h"
+#include "figures/SalesRowLite.h"
+#include "locale/Locale.h"
 
 #include <QObject>
 #include <QString>

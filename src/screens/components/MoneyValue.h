@@ -1,6 +1,6 @@
 #pragma once
 
-#include "earnings/AggregateStats.h"
+#include "figures/AggregateStats.h"
 #include "screens/components/FigureContext.h"
 
 #include <memory>

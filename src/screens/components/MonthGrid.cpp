@@ -1,7 +1,7 @@
 #include "screens/components/MonthGrid.h"
 
 #include "calendar/DayKey.h"
-#include "earnings/Trend.h"
+#include "figures/Trend.h"
 #include "screens/components/ShownText.h"
 
 #include <algorithm>

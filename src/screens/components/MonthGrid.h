@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Locale.h"
+#include "locale/Locale.h"
 #include "screens/RowList.h"
 
 #include <optional>

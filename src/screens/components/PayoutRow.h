@@ -1,7 +1,7 @@
 #pragma once
 
 #include "calendar/ReportCalendar.h"
-#include "earnings/Payouts.h"
+#include "figures/Payouts.h"
 #include "screens/components/MoneyValue.h"
 
 #include <QVariantList>

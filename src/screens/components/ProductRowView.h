@@ -1,6 +1,6 @@
 #pragma once
 
-#include "earnings/ProductFigures.h"
+#include "figures/ProductFigures.h"
 #include "screens/components/MoneyValue.h"
 
 namespace vantrell {

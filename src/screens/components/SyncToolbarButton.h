@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/TaskScope.h"
+#include "base/TaskScope.h"
 #include "sync/SyncEngine.h"
 
 #include <QObject>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "earnings/AggregateStats.h"
-#include "platform/Locale.h"
+#include "figures/AggregateStats.h"
+#include "locale/Locale.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "earnings/AppFigures.h"
+#include "figures/AppFigures.h"
 #include "screens/components/ColumnTitles.h"
 #include "screens/components/MoneyCell.h"
 

@@ -1,8 +1,8 @@
 #include "screens/settings/CredentialsEditor.h"
 
+#include "base/Whitespace.h"
 #include "data/CredentialsKeychain.h"
-#include "platform/TextFile.h"
-#include "platform/Whitespace.h"
+#include "files/TextFile.h"
 #include "screens/components/ShownText.h"
 #include "screens/settings/UserFolder.h"
 

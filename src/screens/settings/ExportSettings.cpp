@@ -1,6 +1,6 @@
 #include "screens/settings/ExportSettings.h"
 
-#include "platform/AtomicFile.h"
+#include "files/AtomicFile.h"
 #include "screens/components/ShownText.h"
 #include "screens/settings/UserFolder.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "earnings/Exports.h"
+#include "figures/Exports.h"
 #include "screens/ScreenParts.h"
 
 #include <string>

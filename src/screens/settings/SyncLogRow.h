@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/LocalTime.h"
 #include "data/SyncLogEntry.h"
-#include "platform/LocalTime.h"
-#include "platform/Locale.h"
+#include "locale/Locale.h"
 #include "screens/components/StatusLabel.h"
 
 #include <QObject>

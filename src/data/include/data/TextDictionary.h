@@ -1,0 +1,54 @@
+#pragma once
+
+#include "data/Sqlite.h"
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace vantrell {
+
+/// The number of a text in the store's dictionary; 0 is the empty text.
+using TextID = std::uint32_t;
+
+/// A column with the number of something in a dictionary. What can't be one, which only a damaged store
+/// holds, reads as 0.
+[[nodiscard]] std::uint32_t readID(const SqliteStatement& row, int column);
+
+/// The distinct texts of all stored lines, by number. A text that was given a number keeps it for ever; new
+/// ones are written with the save that first uses them. Held whole in memory.
+class TextDictionary {
+  public:
+    /// Reads what is stored; throws SqliteError.
+    explicit TextDictionary(SqliteDatabase& database);
+    TextDictionary(const TextDictionary&) = delete;
+    TextDictionary& operator=(const TextDictionary&) = delete;
+
+    [[nodiscard]] TextID intern(std::string_view text);
+    /// The empty text for a number that was never given. Valid as long as the dictionary.
+    [[nodiscard]] std::string_view text(TextID id) const;
+    [[nodiscard]] std::size_t size() const { return texts_.size(); }
+
+    /// About the memory that the texts take.
+    [[nodiscard]] std::size_t bytes() const { return bytes_; }
+    /// Takes back the newest texts down to `size`, but none that is stored.
+    void shrink(std::size_t size);
+
+    /// Inserts the texts that aren't stored yet, inside the caller's transaction; throws SqliteError.
+    void write();
+    /// Removes what a save has left whose commit failed; likewise.
+    void removeUnsaved();
+    /// To be called when that transaction was committed.
+    void committed() { saved_ = texts_.size(); }
+
+  private:
+    SqliteDatabase& database_;
+    std::deque<std::string> texts_;
+    std::unordered_map<std::string_view, TextID> ids_;
+    std::size_t saved_ = 0;
+    std::size_t bytes_ = 0;
+};
+
+}  // namespace vantrell

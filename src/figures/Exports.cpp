@@ -1,0 +1,158 @@
+#include "figures/Exports.h"
+
+#include "base/LowerCase.h"
+#include "calendar/DayKey.h"
+#include "figures/CSVLine.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace vantrell {
+namespace {
+
+constexpr int exportedDays = 365;
+
+using Fields = std::vector<std::string>;
+
+Fields joined(Fields first, const Fields& rest) {
+    first.insert(first.end(), rest.begin(), rest.end());
+    return first;
+}
+
+/// A file that begins with its headings.
+class CSVText {
+  public:
+    explicit CSVText(const Fields& header) { add(header); }
+    void add(const Fields& fields) { text_ += csvLine(fields) + "\n"; }
+    [[nodiscard]] std::string take() && { return std::move(text_); }
+
+  private:
+    std::string text_;
+};
+
+std::string withSpaces(const Fields& words) {
+    std::string text;
+    for (const std::string& word : words) {
+        text += (text.empty() ? "" : " ") + word;
+    }
+    return text;
+}
+
+// The three columns in which each export tells money. `what` says which money it is.
+Fields moneyHeader(const CurrencyConverter& converter, const std::string& what) {
+    return {what + "_" + lowerCase(converter.displayCurrency), "currencies_without_rate",
+            what + "_by_currency"};
+}
+
+Fields moneyFields(const CurrencyConverter& converter, const AmountsByCurrency& amounts) {
+    const ConvertedTotal total = converter.total(amounts);
+    return {total.amount.text(), withSpaces(total.withoutRate), breakdownText(amounts)};
+}
+
+}  // namespace
+
+std::string_view exportLabel(ExportKind kind) {
+    switch (kind) {
+        case ExportKind::days:
+            return "Daily (last 365 days)";
+        case ExportKind::months:
+            return "Months";
+        case ExportKind::years:
+            return "Years";
+        case ExportKind::payouts:
+            return "Payouts";
+        case ExportKind::products:
+            return "Products";
+    }
+    return {};
+}
+
+std::string_view exportFileName(ExportKind kind) {
+    switch (kind) {
+        case ExportKind::days:
+            return "vantrell-daily";
+        case ExportKind::months:
+            return "vantrell-months";
+        case ExportKind::years:
+            return "vantrell-years";
+        case ExportKind::payouts:
+            return "vantrell-payouts";
+        case ExportKind::products:
+            return "vantrell-products";
+    }
+    return {};
+}
+
+std::string exportText(const EarningsStore& store, ExportKind kind) {
+    switch (kind) {
+        case ExportKind::days:
+            return exportDays(store, exportedDays);
+        case ExportKind::months:
+            return exportPeriods(store, store.monthStats({}));
+        case ExportKind::years:
+            return exportPeriods(store, store.yearStats({}));
+        case ExportKind::payouts:
+            return exportPayouts(store);
+        case ExportKind::products:
+            return exportProducts(store);
+    }
+    return {};
+}
+
+std::string exportDays(const EarningsStore& store, int days) {
+    const CurrencyConverter& converter = store.converter();
+    CSVText text(joined({"date", "report_status"}, statsHeader(converter)));
+    const std::string from = store.calendar().dayKey(std::max(days, 1));
+    for (const DayTableRow& day : store.dayTable(from, store.calendar().dayKey(1), {})) {
+        text.add(joined({day.key, std::string(rawText(day.status))}, statsFields(converter, day.stats)));
+    }
+    return std::move(text).take();
+}
+
+std::string exportPeriods(const EarningsStore& store, const std::vector<PeriodStat>& periods) {
+    const CurrencyConverter& converter = store.converter();
+    CSVText text(joined({"period", "source"}, statsHeader(converter)));
+    for (const PeriodStat& period : periods) {
+        text.add(joined({period.label, period.note}, statsFields(converter, period.stats)));
+    }
+    return std::move(text).take();
+}
+
+std::string exportPayouts(const EarningsStore& store) {
+    const CurrencyConverter& converter = store.converter();
+    const auto key = [&store](const std::optional<Instant>& date) {
+        return date ? dayKey(store.calendar().dateAt(*date)) : std::string();
+    };
+    CSVText text(joined({"fiscal_period", "start_date", "end_date", "units", "returns"},
+                        moneyHeader(converter, "paid")));
+    for (const FinancePeriodStat& period : store.financePeriods({})) {
+        text.add(joined({period.label, key(period.start), key(period.end), std::to_string(period.units),
+                         std::to_string(period.returns)},
+                        moneyFields(converter, period.byCurrency)));
+    }
+    return std::move(text).take();
+}
+
+std::string exportProducts(const EarningsStore& store) {
+    const CurrencyConverter& converter = store.converter();
+    CSVText text(joined({"title", "kind", "apple_identifier"}, statsHeader(converter)));
+    for (const ProductStat& product : store.productStats({})) {
+        text.add(joined({product.title, product.subtitle, std::to_string(product.productID)},
+                        statsFields(converter, product.stats)));
+    }
+    return std::move(text).take();
+}
+
+std::vector<std::string> statsHeader(const CurrencyConverter& converter) {
+    return joined({"app_units", "iap_units", "update_units", "redownload_units", "refunded_units"},
+                  moneyHeader(converter, "proceeds"));
+}
+
+std::vector<std::string> statsFields(const CurrencyConverter& converter, const AggregateStats& stats) {
+    return joined(
+        {std::to_string(stats.appUnits), std::to_string(stats.iapUnits), std::to_string(stats.updateUnits),
+         std::to_string(stats.redownloadUnits), std::to_string(stats.refundedUnits)},
+        moneyFields(converter, stats.proceedsByCurrency));
+}
+
+}  // namespace vantrell

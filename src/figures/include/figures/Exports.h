@@ -1,0 +1,40 @@
+#pragma once
+
+#include "currency/CurrencyConverter.h"
+#include "figures/EarningsStore.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantrell {
+
+// Figures as comma-separated text for a spreadsheet: a line of headings, then a line a record, each ended by
+// a line feed. All cover all apps. The converted figures are in the display currency of the moment; the last
+// column of each has the exact amounts. The locale plays no part.
+
+enum class ExportKind { days, months, years, payouts, products };
+inline constexpr std::array exportKinds{ExportKind::days, ExportKind::months, ExportKind::years,
+                                        ExportKind::payouts, ExportKind::products};
+
+/// What the user chooses by, such as "Daily (last 365 days)".
+[[nodiscard]] std::string_view exportLabel(ExportKind kind);
+/// Without an extension.
+[[nodiscard]] std::string_view exportFileName(ExportKind kind);
+/// The whole file.
+[[nodiscard]] std::string exportText(const EarningsStore& store, ExportKind kind);
+
+/// The last `days` days up to yesterday, at least that one; newest first, also those without lines.
+[[nodiscard]] std::string exportDays(const EarningsStore& store, int days);
+/// In the order of `periods`.
+[[nodiscard]] std::string exportPeriods(const EarningsStore& store, const std::vector<PeriodStat>& periods);
+[[nodiscard]] std::string exportPayouts(const EarningsStore& store);
+[[nodiscard]] std::string exportProducts(const EarningsStore& store);
+
+/// The columns that all exports but the payouts share.
+[[nodiscard]] std::vector<std::string> statsHeader(const CurrencyConverter& converter);
+[[nodiscard]] std::vector<std::string> statsFields(const CurrencyConverter& converter,
+                                                   const AggregateStats& stats);
+
+}  // namespace vantrell
