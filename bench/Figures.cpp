@@ -11,7 +11,7 @@
 namespace vantrell::bench {
 namespace {
 
-constexpr int repeats = 9;
+constexpr int figureRepeats = 9;
 
 struct Figure {
     const char* name;
@@ -67,7 +67,7 @@ std::vector<Result> measureFigures(BenchProgram& program) {
     const auto rows = static_cast<std::int64_t>(program.store().salesRows().size());
     for (const Figure& figure : figures(program.locale())) {
         std::vector<double> times;
-        for (int repeat = 0; repeat < repeats; ++repeat) {
+        for (int repeat = 0; repeat < figureRepeats; ++repeat) {
             program.store().reload(program.context());
             times.push_back(millisecondsOf([&] {
                 if (figure.work(program.store()) == 0) {

@@ -6,7 +6,7 @@
 namespace vantrell {
 namespace {
 
-constexpr std::string_view marker = "start_date";
+constexpr std::string_view financeMarker = "start_date";
 
 constexpr std::array<TextField<ParsedFinanceRow>, 7> textFields{{
     {"vendor_identifier", &ParsedFinanceRow::vendorIdentifier},
@@ -75,11 +75,11 @@ class FinanceRowReader {
 }  // namespace
 
 ParsedFinance parseFinance(std::string_view text) {
-    return readTable<FinanceRowReader>(text, marker);
+    return readTable<FinanceRowReader>(text, financeMarker);
 }
 
 std::unique_ptr<ReportReader<ParsedFinanceRow>> readFinance(std::string body) {
-    return std::make_unique<BodyReader<FinanceRowReader>>(std::move(body), marker);
+    return std::make_unique<BodyReader<FinanceRowReader>>(std::move(body), financeMarker);
 }
 
 }  // namespace vantrell

@@ -6,7 +6,7 @@
 namespace vantrell {
 namespace {
 
-constexpr std::string_view marker = "provider";
+constexpr std::string_view salesMarker = "provider";
 
 constexpr std::array<TextField<SalesRowView>, 16> textFields{{
     {"sku", &SalesRowView::sku},
@@ -93,11 +93,11 @@ class SalesRowReader {
 }  // namespace
 
 ParsedSales parseSales(std::string_view text) {
-    return readTable<SalesRowReader>(text, marker);
+    return readTable<SalesRowReader>(text, salesMarker);
 }
 
 std::unique_ptr<ReportReader<SalesRowView>> readSales(std::string body) {
-    return std::make_unique<BodyReader<SalesRowReader>>(std::move(body), marker);
+    return std::make_unique<BodyReader<SalesRowReader>>(std::move(body), salesMarker);
 }
 
 }  // namespace vantrell
