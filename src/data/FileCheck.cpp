@@ -100,11 +100,8 @@ bool hasForeignView(SqliteDatabase& database) {
 std::optional<std::string> FileCheck::run() {
     try {
         database_ = std::make_unique<SqliteDatabase>(path_, SqliteDatabase::Mode::peek);
-        auto check = database_->prepare("PRAGMA quick_check(1)");
-        if (check.step() && check.text(0) != "ok") {
-            // The lines above the last only say which database it is.
-            const std::string_view found = check.text(0);
-            return std::string(found.substr(found.rfind('\n') + 1));
+        if (auto damage = quickCheck(*database_)) {
+            return damage;
         }
         for (const Question& question : questions) {
             if (database_->prepare(question.sql).step()) {

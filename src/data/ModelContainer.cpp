@@ -1,6 +1,8 @@
 #include "data/ModelContainer.h"
 
+#include "Migrations.h"
 #include "Schema.h"
+#include "StoreCopy.h"
 #include "StoreFailures.h"
 #include "StoreFile.h"
 
@@ -20,10 +22,11 @@ std::optional<StoreError> checkOwner(SqliteDatabase& database) {
     if (application != storeApplicationID) {
         return StoreError{"the file belongs to another application"};
     }
-    if (database.integer("PRAGMA user_version") > storeVersion) {
+    const std::int64_t version = database.integer("PRAGMA user_version");
+    if (version > storeVersion) {
         return StoreError{"the store was written by a newer version of Vantrell"};
     }
-    return std::nullopt;
+    return version < 1 ? std::optional(damagedStore()) : std::nullopt;
 }
 
 // What marks a new store as ours comes with its tables, in one transaction: a file without either is a new
@@ -38,6 +41,21 @@ std::optional<StoreError> createIfNew(SqliteDatabase& database) {
         createSchema(database);
     }
     database.execute("COMMIT");
+    return std::nullopt;
+}
+
+// A store of an older version is copied into the folder beside it before it is changed.
+std::optional<StoreError> bringUpToDate(SqliteDatabase& database, const ModelConfiguration& configuration) {
+    const std::int64_t version = database.integer("PRAGMA user_version");
+    if (version == storeVersion) {
+        return std::nullopt;
+    }
+    const std::filesystem::path& file = configuration.file;
+    const std::string name = file.stem().string() + "-" + std::to_string(version) + file.extension().string();
+    if (auto error = copyStore(database, file.parent_path() / "backup" / name, configuration.vfs)) {
+        return error;
+    }
+    migrate(database, version);
     return std::nullopt;
 }
 
@@ -72,6 +90,9 @@ std::variant<std::unique_ptr<ModelContainer>, StoreError> ModelContainer::open(
         auto database = std::make_unique<SqliteDatabase>(configuration.file.string(),
                                                          SqliteDatabase::Mode::readWrite, configuration.vfs);
         if (auto error = configure(*database)) {
+            return *error;
+        }
+        if (auto error = bringUpToDate(*database, configuration)) {
             return *error;
         }
         return std::unique_ptr<ModelContainer>(new ModelContainer(std::move(database)));

@@ -132,9 +132,8 @@ std::optional<StoreError> ModelContext::save() {
         return std::nullopt;
     }
     if (health_.isDamaged()) {
-        const StoreError refused{"the store is damaged", StoreFailure::damaged};
-        health_.setUnsaved(refused);
-        return refused;
+        health_.setUnsaved(damagedStore());
+        return health_.unsaved();
     }
     bool isCommitting = false;
     try {

@@ -14,8 +14,8 @@ CREATE TABLE sales_report (
     id INTEGER PRIMARY KEY, accountID TEXT NOT NULL, frequencyRaw TEXT NOT NULL, reportDate TEXT NOT NULL,
     statusRaw TEXT NOT NULL, rowCount INTEGER NOT NULL, message TEXT NOT NULL, fetchedAt INTEGER NOT NULL);
 CREATE TABLE sales_batch (
-    id INTEGER PRIMARY KEY, accountID TEXT NOT NULL DEFAULT 'default', frequencyRaw TEXT NOT NULL,
-    reportDate TEXT NOT NULL, firstLine INTEGER NOT NULL, lineCount INTEGER NOT NULL);
+    id INTEGER PRIMARY KEY, frequencyRaw TEXT NOT NULL, reportDate TEXT NOT NULL,
+    firstLine INTEGER NOT NULL, lineCount INTEGER NOT NULL);
 CREATE TABLE sales_offer (
     id INTEGER PRIMARY KEY, sku, title, productType, parentSKU, proceedsPerUnit, proceedsCurrency,
     customerPrice, customerCurrency, appleID);
@@ -28,8 +28,8 @@ CREATE TABLE finance_report (
     statusRaw TEXT NOT NULL, rowCount INTEGER NOT NULL, message TEXT NOT NULL, fetchedAt INTEGER NOT NULL,
     startDate INTEGER, endDate INTEGER);
 CREATE TABLE finance_batch (
-    id INTEGER PRIMARY KEY, accountID TEXT NOT NULL DEFAULT 'default', region TEXT NOT NULL,
-    fiscalPeriod TEXT NOT NULL, firstLine INTEGER NOT NULL, lineCount INTEGER NOT NULL);
+    id INTEGER PRIMARY KEY, region TEXT NOT NULL, fiscalPeriod TEXT NOT NULL,
+    firstLine INTEGER NOT NULL, lineCount INTEGER NOT NULL);
 CREATE TABLE finance_line (
     id INTEGER PRIMARY KEY, startDate, endDate, vendorIdentifier, title, productType, quantity, partnerShare,
     extendedPartnerShare, partnerShareCurrency, saleOrReturn, appleID, country, promoCode, customerPrice,
@@ -79,7 +79,7 @@ std::string reportViews() {
 }
 
 std::string salesRowView() {
-    return "CREATE VIEW SalesRow AS SELECT batch.accountID, batch.frequencyRaw, batch.reportDate, " +
+    return "CREATE VIEW SalesRow AS SELECT 'default' AS accountID, batch.frequencyRaw, batch.reportDate, " +
            secondsDate("beginDate") + ", " + secondsDate("endDate") + ", " + text("sku", "offer") + ", " +
            text("title", "offer") + ", " + text("version") + ", " + text("productType", "offer") + ", " +
            text("parentSKU", "offer") + ", line.units AS units, " + amount("proceedsPerUnit", "offer") +
@@ -94,7 +94,7 @@ std::string salesRowView() {
 }
 
 std::string financeRowView() {
-    return "CREATE VIEW FinanceRow AS SELECT batch.accountID, batch.region, batch.fiscalPeriod, " +
+    return "CREATE VIEW FinanceRow AS SELECT 'default' AS accountID, batch.region, batch.fiscalPeriod, " +
            secondsDate("startDate") + ", " + secondsDate("endDate") + ", " + text("vendorIdentifier") + ", " +
            text("title") + ", " + text("productType") + ", line.quantity AS quantity, " +
            amount("partnerShare") + ", " + amount("extendedPartnerShare") + ", " +
@@ -107,9 +107,20 @@ std::string financeRowView() {
 
 }  // namespace
 
+void createViews(SqliteDatabase& database) {
+    database.execute(reportViews() + salesRowView() + financeRowView());
+}
+
+void dropViews(SqliteDatabase& database) {
+    for (const std::string view :
+         {"SalesReport", "FinanceReport", "RateSet", "SyncLogEntry", "SalesRow", "FinanceRow"}) {
+        database.execute("DROP VIEW IF EXISTS " + view);
+    }
+}
+
 void createSchema(SqliteDatabase& database) {
     database.execute(tables);
-    database.execute(reportViews() + salesRowView() + financeRowView());
+    createViews(database);
     database.execute("PRAGMA application_id = " + std::to_string(storeApplicationID));
     database.execute("PRAGMA user_version = " + std::to_string(storeVersion));
 }

@@ -150,6 +150,17 @@ std::int64_t SqliteDatabase::integer(std::string_view sql) {
     return statement.step() ? statement.integer(0) : 0;
 }
 
+void SqliteDatabase::takeOver(SqliteDatabase& other) {
+    sqlite3_backup* const copying =
+        sqlite3_backup_init(database_.get(), "main", other.database_.get(), "main");
+    if (copying != nullptr) {
+        sqlite3_backup_step(copying, -1);
+    }
+    // Tells what the step met, too.
+    check(copying == nullptr ? sqlite3_errcode(database_.get()) : sqlite3_backup_finish(copying),
+          database_.get());
+}
+
 bool SqliteDatabase::inTransaction() const {
     return sqlite3_get_autocommit(database_.get()) == 0;
 }
@@ -161,6 +172,16 @@ bool SqliteDatabase::isReadOnly() const {
 std::string SqliteDatabase::path() const {
     const char* const path = sqlite3_db_filename(database_.get(), "main");
     return path == nullptr ? std::string() : std::string(path);
+}
+
+std::optional<std::string> quickCheck(SqliteDatabase& database) {
+    auto check = database.prepare("PRAGMA quick_check(1)");
+    if (!check.step() || check.text(0) == "ok") {
+        return std::nullopt;
+    }
+    // The lines above the last only say which database it is.
+    const std::string_view found = check.text(0);
+    return std::string(found.substr(found.rfind('\n') + 1));
 }
 
 SqliteTransaction::SqliteTransaction(SqliteDatabase& database) : database_(database) {

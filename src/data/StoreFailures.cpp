@@ -67,6 +67,10 @@ StoreError storeInUse() {
     return {"the store is in use by another process", StoreFailure::inUse};
 }
 
+StoreError damagedStore() {
+    return {"the store is damaged", StoreFailure::damaged};
+}
+
 StoreError storeError(const SqliteError& error) {
     const StoreFailure failure = failureOf(error);
     return failure == StoreFailure::inUse ? storeInUse() : StoreError{readable(error.what()), failure};

@@ -9,5 +9,6 @@ namespace vantrell {
 [[nodiscard]] StoreFailure storeFailure(int systemError);
 [[nodiscard]] StoreError storeError(const SqliteError& error);
 [[nodiscard]] StoreError storeInUse();
+[[nodiscard]] StoreError damagedStore();
 
 }  // namespace vantrell

@@ -114,17 +114,6 @@ std::optional<StoreError> makeFolder(const fs::path& folder) {
                  : std::nullopt;
 }
 
-// An empty file is made first, so that the store never exists with wider permissions.
-std::optional<StoreError> makeFile(const fs::path& file) {
-    if (auto error = makeFolder(file.parent_path())) {
-        return error;
-    }
-    const Descriptor made(file, O_RDWR | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
-    // Another start may have been quicker.
-    return made.isOpen() || errno == EEXIST ? std::nullopt
-                                            : std::optional(systemFailure("the store can't be made", errno));
-}
-
 std::optional<StoreError> readBeginning(const fs::path& file, Beginning& beginning) {
     // Whatever it was a moment ago, opening must not wait for somebody at its other end.
     const Descriptor opened(file, O_RDONLY | O_NONBLOCK);
@@ -186,6 +175,31 @@ std::optional<StoreError> checkFile(const fs::path& file) {
 }
 
 }  // namespace
+
+// An empty file is made first, so that the store never exists with wider permissions.
+std::optional<StoreError> makeFile(const fs::path& file) {
+    if (auto error = makeFolder(file.parent_path())) {
+        return error;
+    }
+    const Descriptor made(file, O_RDWR | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
+    // Another start may have been quicker.
+    return made.isOpen() || errno == EEXIST ? std::nullopt
+                                            : std::optional(systemFailure("the store can't be made", errno));
+}
+
+std::optional<StoreError> putInPlace(const fs::path& from, const fs::path& to) {
+    std::error_code error;
+    fs::rename(from, to, error);
+    if (error) {
+        return systemFailure("the copy of the store can't be made", error.value());
+    }
+    // The folder itself may be new. One that can't be synced is as safe as its file system makes it.
+    for (const fs::path& folder : {to.parent_path(), to.parent_path().parent_path()}) {
+        const Descriptor opened(folder, O_RDONLY | O_DIRECTORY);
+        ::fsync(opened.number());
+    }
+    return std::nullopt;
+}
 
 bool isHeldElsewhere(const fs::path& file) {
     // SQLite's locks are on bytes of their own, a gigabyte into the file.

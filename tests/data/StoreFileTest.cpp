@@ -106,25 +106,6 @@ TEST(StoreFile, IsNotMirroredOnThisPlatform) {
     EXPECT_FALSE(fs::exists(folder / "a.sqlite"));
 }
 
-TEST(StoreFile, ShowsEachRecordTypeAsAViewWithItsProperties) {
-    StoreFixture store;
-    store.open();
-    store.close();
-    SqliteDatabase database(store.file(), SqliteDatabase::Mode::peek);
-    std::string views;
-    for (const std::string view :
-         {"SalesReport", "SalesRow", "FinanceReport", "FinanceRow", "RateSet", "SyncLogEntry"}) {
-        views += view + ":";
-        auto names = database.prepare("SELECT name FROM pragma_table_info('" + view + "')");
-        while (names.step()) {
-            views.append(" ").append(names.text(0));
-        }
-        views += "\n";
-    }
-    views += "version: " + std::to_string(database.integer("PRAGMA user_version")) + "\n";
-    testing::expectMatchesFile(views, VANTRELL_TEST_DATA "/views.txt");
-}
-
 TEST(StoreFile, ShowsDatesAndTextsReadably) {
     StoreFixture store;
     ModelContext* context = store.open();

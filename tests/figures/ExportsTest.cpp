@@ -50,6 +50,19 @@ TEST(Exports, OfEachKindAreTheFilesThatAreKept) {
     expectFile("years-in-euros.csv", exportText(store, ExportKind::years));
 }
 
+// Written down with the version that made the store.
+TEST(Exports, OfAStoreOfAnOlderVersionAreWhatTheyWere) {
+    const std::filesystem::path kept(VANTRELL_TEST_DATA "/../../data/data/stores/vantrell-1.sqlite");
+    EarningsFixture fixture(kept);
+    const EarningsStore& store = fixture.reload();
+    std::string all = exportDays(store, 90);
+    for (const ExportKind kind :
+         {ExportKind::months, ExportKind::years, ExportKind::payouts, ExportKind::products}) {
+        all += exportText(store, kind);
+    }
+    testing::expectMatchesFile(all, std::filesystem::path(VANTRELL_TEST_DATA) / "exports/of-version-1.csv");
+}
+
 TEST(Exports, OfAnEmptyStoreAreTheirHeadingsAndTheDaysAndMonthsThatThereAre) {
     EarningsFixture fixture;
     const EarningsStore& store = fixture.reload();

@@ -90,6 +90,9 @@ void ShortReports::rates(const Rates& rates) {
 
 EarningsFixture::EarningsFixture(const std::string& vfs) : context_(file_.open(vfs)), earnings_(another()) {}
 
+EarningsFixture::EarningsFixture(const std::filesystem::path& kept)
+    : file_(kept), context_(file_.open()), earnings_(another()) {}
+
 std::unique_ptr<EarningsStore> EarningsFixture::another() {
     return std::make_unique<EarningsStore>(defaults, locale_, calendar_);
 }

@@ -65,6 +65,8 @@ class ShortReports {
 class EarningsFixture final : public ShortReports {
   public:
     explicit EarningsFixture(const std::string& vfs = {});
+    /// Over a copy of a store that is kept.
+    explicit EarningsFixture(const std::filesystem::path& kept);
 
     EarningsStore& store() { return *earnings_; }
     ModelContext& context() override { return *context_; }

@@ -12,6 +12,10 @@ namespace vantrell::testing {
 /// A store in a folder of its own.
 class StoreFixture {
   public:
+    StoreFixture() = default;
+    /// Over a copy of a store that is kept.
+    explicit StoreFixture(const std::filesystem::path& kept) { std::filesystem::copy_file(kept, file()); }
+
     [[nodiscard]] std::filesystem::path file() const { return folder_ / "vantrell.sqlite"; }
 
     /// Opens the store, or reopens it after closing; null if it can't be opened.

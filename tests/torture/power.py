@@ -52,6 +52,7 @@ def disk_after(scenario, cut, chance, folder):
     share = chance.choice((0.1, 0.5, 0.9)) if chance else 1
     for name, number in on_disk.items():
         settle(files[number], (lambda: chance.random() < share) if chance else (lambda: True))
+        (folder / name).parent.mkdir(exist_ok=True)
         (folder / name).write_bytes(files[number][0])
     return folder
 

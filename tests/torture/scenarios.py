@@ -4,6 +4,7 @@ import collections
 import concurrent.futures
 import functools
 import json
+import pathlib
 import shutil
 import time
 
@@ -12,6 +13,7 @@ from verifier import contents, inconsistencies, same_content, verify
 
 KINDS = ("refused", "lost", "half stored", "unsaid", "crashed")
 WORKERS = 2
+STORES = pathlib.Path(__file__).parents[1] / "data/data/stores"
 
 
 class Scenario:
@@ -100,9 +102,19 @@ def scenarios_of(program, name, ask):
     empty = program.scratch / f"{name} empty"
     empty.mkdir()
     first = Scenario(program, f"first start{name}", empty, [*ask(2), "--currency", "EUR"], 0)
-    # A migration joins them with the first version that has one.
     return [first, Scenario(program, f"growing{name}", first.end, ask(3), 2),
-            Scenario(program, f"replacing{name}", first.end, [*ask(2), "--currency", "JPY"], 1)]
+            Scenario(program, f"replacing{name}", first.end, [*ask(2), "--currency", "JPY"], 1),
+            *(Scenario(program, f"migrating {version}{name}", older, ask(2), 0)
+              for version, older in older_stores(program))]
+
+
+def older_stores(program):
+    """A folder with the store of each older version, by its number."""
+    for kept in sorted(STORES.glob("vantrell-*.sqlite")):
+        folder = program.scratch / kept.stem
+        folder.mkdir(exist_ok=True)
+        shutil.copy(kept, folder / "vantrell.sqlite")
+        yield kept.stem.removeprefix("vantrell-"), folder
 
 
 @functools.cache

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -70,6 +71,8 @@ class SqliteDatabase {
     [[nodiscard]] SqliteStatement prepare(std::string_view sql);
     /// The first column of the first row as an integer; 0 without a row.
     [[nodiscard]] std::int64_t integer(std::string_view sql);
+    /// Becomes a copy of the other, page by page.
+    void takeOver(SqliteDatabase& other);
     [[nodiscard]] bool inTransaction() const;
     /// True where the file can be read but not written.
     [[nodiscard]] bool isReadOnly() const;
@@ -81,6 +84,9 @@ class SqliteDatabase {
     };
     std::unique_ptr<sqlite3, Closer> database_;
 };
+
+/// What SQLite finds wrong with how pages and tables fit together; absent when nothing is.
+[[nodiscard]] std::optional<std::string> quickCheck(SqliteDatabase& database);
 
 /// A transaction that is rolled back unless it was committed.
 class SqliteTransaction {
