@@ -123,7 +123,7 @@ class BenchRun {
     void checkFloors(const EarningsStore& store) const {
         TableSum sum;
         double proceeds = 0;
-        const SalesSnapshot& rows = store.salesRows();
+        const SalesRows& rows = store.snapshot()->salesRows;
         for (std::size_t chunk = 0; chunk < rows.chunks().size(); ++chunk) {
             for (std::size_t index = 0; index < rows.chunks()[chunk]->size(); ++index) {
                 const SalesRowLite row = rows.row(chunk, index);

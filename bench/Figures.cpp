@@ -1,7 +1,12 @@
 #include "Figures.h"
 
 #include "FirstFigures.h"
+#include "figures/Apps.h"
+#include "figures/Days.h"
 #include "figures/Exports.h"
+#include "figures/Payouts.h"
+#include "figures/Products.h"
+#include "figures/Trends.h"
 
 #include <functional>
 #include <stdexcept>
@@ -18,24 +23,26 @@ struct Figure {
     std::function<std::size_t(const EarningsStore&)> work;  ///< gives how much came out
 };
 
-std::size_t dayTable(const EarningsStore& store) {
+std::size_t dayTableOfYear(const EarningsStore& store) {
     const ReportCalendar& calendar = store.calendar();
-    return store.dayTable(calendar.dayKey(365), calendar.dayKey(1), store.appFilter()).size();
+    return dayTable(store.snapshot(), calendar.dayKey(365), calendar.dayKey(1), store.appFilter()).size();
 }
 
 std::size_t countries(const EarningsStore& store) {
     constexpr std::size_t shown = 10;
-    return store.countryStats(store.appFilter(), shown).size();
+    return countryStats(store.snapshot(), store.converter(), store.appFilter(), shown).size();
 }
 
-std::size_t trend(const EarningsStore& store) {
+std::size_t trendOfYear(const EarningsStore& store, const Locale& locale) {
     const ReportCalendar& calendar = store.calendar();
-    return store.trend(calendar.dayKey(365), calendar.dayKey(1), TrendGranularity::day, store.appFilter())
+    return trend(store.snapshot(), store.converter(), locale, calendar.dayKey(365), calendar.dayKey(1),
+                 TrendGranularity::day, store.appFilter())
         .points.size();
 }
 
 std::size_t payouts(const EarningsStore& store) {
-    return store.financePeriods(store.appFilter()).size() + store.appPayouts().size();
+    return financePeriods(*store.snapshot(), store.appFilter()).size() +
+           appPayouts(*store.snapshot(), store.calendar()).size();
 }
 
 std::size_t exports(const EarningsStore& store) {
@@ -48,14 +55,25 @@ std::size_t exports(const EarningsStore& store) {
 
 std::vector<Figure> figures(const Locale& locale) {
     return {{"dashboard_ms", [&locale](const EarningsStore& store) { return dashboard(store, locale); }},
-            {"day_table_365_ms", dayTable},
-            {"apps_table_ms", [](const EarningsStore& store) { return store.appTable().size(); }},
-            {"product_windows_ms", [](const EarningsStore& store) { return store.productWindows().size(); }},
+            {"day_table_365_ms", dayTableOfYear},
+            {"apps_table_ms",
+             [](const EarningsStore& store) {
+                 return appTable(store.snapshot(), store.converter(), store.calendar()).size();
+             }},
+            {"product_windows_ms",
+             [](const EarningsStore& store) {
+                 return productWindows(store.snapshot(), store.converter(), store.calendar()).size();
+             }},
             {"products_ms",
-             [](const EarningsStore& store) { return store.productStats(store.appFilter()).size(); }},
+             [](const EarningsStore& store) {
+                 return productStats(store.snapshot(), store.converter(), store.appFilter()).size();
+             }},
             {"countries_ms", countries},
-            {"year_matrix_ms", [](const EarningsStore& store) { return store.yearMatrix().byApp.size(); }},
-            {"trend_365_ms", trend},
+            {"year_matrix_ms",
+             [](const EarningsStore& store) {
+                 return yearMatrix(store.snapshot(), store.converter()).byApp.size();
+             }},
+            {"trend_365_ms", [&locale](const EarningsStore& store) { return trendOfYear(store, locale); }},
             {"payouts_ms", payouts},
             {"export_all_ms", exports}};
 }
@@ -64,7 +82,7 @@ std::vector<Figure> figures(const Locale& locale) {
 
 std::vector<Result> measureFigures(BenchProgram& program) {
     std::vector<Result> results;
-    const auto rows = static_cast<std::int64_t>(program.store().salesRows().size());
+    const auto rows = static_cast<std::int64_t>(program.store().snapshot()->salesRows.size());
     for (const Figure& figure : figures(program.locale())) {
         std::vector<double> times;
         for (int repeat = 0; repeat < figureRepeats; ++repeat) {

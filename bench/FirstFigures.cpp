@@ -1,6 +1,7 @@
 #include "FirstFigures.h"
 
 #include "Measure.h"
+#include "figures/Days.h"
 #include "screens/HeadlineFigures.h"
 
 #include <iostream>
@@ -15,7 +16,8 @@ namespace vantrell::bench {
 
 std::size_t dashboard(const EarningsStore& store, const Locale& locale) {
     const ReportCalendar& calendar = store.calendar();
-    const auto points = store.dayPoints(calendar.dayKey(30), calendar.dayKey(1), store.appFilter());
+    const auto points = dayPoints(store.snapshot(), store.converter(), calendar.dayKey(30),
+                                  calendar.dayKey(1), store.appFilter());
     return headlineFigures(store, locale).size() + points.size();
 }
 

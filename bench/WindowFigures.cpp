@@ -96,7 +96,7 @@ double slowestSwitch(AppWindows& windows) {
 
 double slowestFilterChange(AppWindows& windows, EarningsStore& store) {
     double slowest = 0;
-    const std::int64_t app = store.catalog().apps().at(0).id;
+    const std::int64_t app = store.snapshot()->catalog->apps().at(0).id;
     for (const Destination::Value destination : destinations) {
         windows.root().select(destination);
         for (const AppFilter& filter : {AppFilter({app}), AppFilter()}) {
@@ -139,7 +139,7 @@ double longestStallOfRefetch(AppWindows& windows, BenchProgram& program) {
     TaskScope& tasks = program.app().tasks();
     const Heartbeat heartbeat;
     tasks.spawn(fetchAgain(program.app().engine(), {calendar.monthKey(1), calendar.monthKey(2)},
-                           program.store().yearlyOKLabels()));
+                           program.store().snapshot()->yearlyOKLabels));
     waitUntil([&] { return tasks.pending() == openEnded; });
     return heartbeat.longestStall();
 }

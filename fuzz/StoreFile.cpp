@@ -1,7 +1,7 @@
 #include "Require.h"
 #include "Targets.h"
 #include "data/ModelContainer.h"
-#include "figures/SalesSnapshot.h"
+#include "figures/SnapshotLoader.h"
 #include "testing/TemporaryFolder.h"
 
 #include <fstream>
@@ -28,8 +28,8 @@ void storeFile(const std::string& input) {
     } catch (const SqliteError&) {
         // Lines that can't be read are told of elsewhere.
     }
-    SalesSnapshot snapshot;
-    static_cast<void>(snapshot.load(context, 1));
+    const Locale locale(LocaleNames{"C", "C", "C", "C", "C"});
+    static_cast<void>(SnapshotLoader(locale).load(context, {}));
     context.syncLog().insert({});
     static_cast<void>(context.save());
 }

@@ -1,6 +1,7 @@
 #include "trial/ScreenPictures.h"
 
 #include "core/AppWindows.h"
+#include "figures/Apps.h"
 #include "screens/Appearance.h"
 #include "trial/CannedHttp.h"
 #include "trial/ScreenCamera.h"
@@ -33,7 +34,7 @@ constexpr int roundsForIcons = 6;
 
 /// The newest day whose report holds lines.
 std::string newestDayWithRows(const EarningsStore& store) {
-    const auto& statuses = store.dailyStatuses();
+    const auto& statuses = store.snapshot()->dailyStatuses;
     const auto newest = std::find_if(statuses.rbegin(), statuses.rend(),
                                      [](const auto& day) { return day.second == ReportStatus::ok; });
     return newest == statuses.rend() ? store.calendar().dayKey(1) : newest->first;
@@ -68,7 +69,7 @@ class Session {
         store_.setAppFilter(std::set<std::int64_t>());
         camera_.take(window_, "apps-none-selected");
         store_.setAppFilter(std::nullopt);
-        const auto apps = store_.appTable();
+        const auto apps = appTable(store_.snapshot(), store_.converter(), store_.calendar());
         root_.openApp(apps.empty() ? 0 : apps.front().app.id);
         camera_.take(window_, "app-detail");
         root_.goBack();

@@ -24,7 +24,7 @@ void appendEncoded(std::span<const Row> rows, std::vector<Line>& lines, TextDict
 ModelContext::ModelContext(SqliteDatabase& database, std::shared_ptr<FileCheck> fileCheck)
     : database_(database),
       fileCheck_(std::move(fileCheck)),
-      texts_(database),
+      texts_(std::make_shared<TextDictionary>(database)),
       offers_(database),
       salesReports_(database, health_),
       financeReports_(database, health_),
@@ -54,20 +54,20 @@ void ModelContext::checkCounts() {
 }
 
 void ModelContext::encode(std::span<const SalesRowView> rows, std::vector<SalesLine>& lines) {
-    appendEncoded(rows, lines, texts_, offers_);
+    appendEncoded(rows, lines, *texts_, offers_);
 }
 
 void ModelContext::encode(std::span<const ParsedFinanceRow> rows, std::vector<FinanceLine>& lines) {
-    appendEncoded(rows, lines, texts_);
+    appendEncoded(rows, lines, *texts_);
 }
 
 DictionarySizes ModelContext::dictionarySizes() const {
-    return {texts_.size(), offers_.size(), texts_.bytes() + offers_.bytes()};
+    return {texts_->size(), offers_.size(), texts_->bytes() + offers_.bytes()};
 }
 
 void ModelContext::forgetUnsaved(const DictionarySizes& before) {
     offers_.shrink(before.offers);
-    texts_.shrink(before.texts);
+    texts_->shrink(before.texts);
 }
 
 // What was written ahead may be of the lines that are replaced, and is undone.
@@ -105,7 +105,7 @@ std::vector<SalesRow> ModelContext::fetchSalesRows() {
         salesLines_.readLines(batch, [&](const SalesLine& line) {
             rows.push_back({.frequencyRaw = batch.group,
                             .reportDate = batch.label,
-                            .line = decoded(line, texts_, offers_)});
+                            .line = decoded(line, *texts_, offers_)});
         });
     }
     return rows;
@@ -116,7 +116,7 @@ std::vector<FinanceRow> ModelContext::fetchFinanceRows() {
     for (const LineBatch& batch : financeLines_.batches()) {
         financeLines_.readLines(batch, [&](const FinanceLine& line) {
             rows.push_back(
-                {.region = batch.group, .fiscalPeriod = batch.label, .line = decoded(line, texts_)});
+                {.region = batch.group, .fiscalPeriod = batch.label, .line = decoded(line, *texts_)});
         });
     }
     return rows;
@@ -201,7 +201,7 @@ void ModelContext::begin() {
 }
 
 void ModelContext::removeUnsaved() {
-    texts_.removeUnsaved();
+    texts_->removeUnsaved();
     offers_.removeUnsaved();
     salesReports_.removeUnsaved();
     financeReports_.removeUnsaved();
@@ -218,7 +218,7 @@ void ModelContext::rollBack() {
 }
 
 void ModelContext::write() {
-    texts_.write();
+    texts_->write();
     offers_.write();
     salesReports_.write();
     financeReports_.write();
@@ -229,7 +229,7 @@ void ModelContext::write() {
 }
 
 void ModelContext::committed() {
-    texts_.committed();
+    texts_->committed();
     offers_.committed();
     salesReports_.committed();
     financeReports_.committed();

@@ -8,10 +8,10 @@ namespace {
 
 /// What has been seen of one Apple identifier so far.
 struct Seen {
-    const SalesOffer* latest = nullptr;  // gives title, SKU and product type
+    const StoredOffer* latest = nullptr;  // gives title, SKU and product type
     Instant date = distantPast;
     ProductKind kind = ProductKind::other;
-    std::string_view parentSKU;
+    TextID parentSKU = 0;
 };
 
 // App before in-app product before update and redownload before other, whatever the order of the lines; of
@@ -32,22 +32,22 @@ ProductKind preferredKind(ProductKind seen, ProductKind line) {
 void look(Seen& seen, const SalesOffer& offer, Instant date) {
     // Of two lines of one day the later one is the newer.
     if (date >= seen.date) {
-        seen.latest = &offer;
+        seen.latest = &offer.stored;
         seen.date = date;
     }
-    if (offer.kind == ProductKind::iap && (seen.parentSKU.empty() || date >= seen.date)) {
-        seen.parentSKU = offer.parentSKU;
+    if (offer.kind == ProductKind::iap && (seen.parentSKU == 0 || date >= seen.date)) {
+        seen.parentSKU = offer.stored.parentSKU;
     }
     seen.kind = preferredKind(seen.kind, offer.kind);
 }
 
-std::map<std::int64_t, Seen> everythingSeen(const SalesSnapshot& rows) {
+std::map<std::int64_t, Seen> everythingSeen(const SalesRows& rows) {
     // Offers of one identifier share one record, found without a look-up per line.
     std::map<std::int64_t, Seen> seen;
     std::vector<Seen*> byOffer;
     byOffer.reserve(rows.offers().size());
     for (const SalesOffer& offer : rows.offers()) {
-        byOffer.push_back(offer.appleID == 0 ? nullptr : &seen[offer.appleID]);
+        byOffer.push_back(offer.stored.appleID == 0 ? nullptr : &seen[offer.stored.appleID]);
     }
     for (const auto& chunk : rows.chunks()) {
         for (std::size_t row = 0; row < chunk->size(); ++row) {
@@ -66,8 +66,9 @@ bool isApp(ProductKind kind) {
     return kind == ProductKind::app || kind == ProductKind::update || kind == ProductKind::redownload;
 }
 
-std::string shownTitle(const Seen& seen) {
-    return std::string(seen.latest->title.empty() ? seen.latest->sku : seen.latest->title);
+std::string shownTitle(const StoredOffer& offer, const TextDictionary& texts) {
+    const std::string_view title = texts.text(offer.title);
+    return std::string(title.empty() ? texts.text(offer.sku) : title);
 }
 
 template <typename Info>
@@ -85,13 +86,15 @@ std::vector<Info> sortedByTitle(const std::map<std::int64_t, Info>& infos, const
 
 }  // namespace
 
-Catalog::Catalog(const SalesSnapshot& rows, const Locale& locale) {
+Catalog::Catalog(const SalesRows& rows, const Locale& locale) {
+    const TextDictionary& texts = rows.texts();
     const auto seen = everythingSeen(rows);
     std::map<std::string_view, std::int64_t> appBySKU;
     for (const auto& [id, record] : seen) {
         if (isApp(record.kind)) {
-            appByID_.emplace(id, AppInfo{id, std::string(record.latest->sku), shownTitle(record)});
-            appBySKU[record.latest->sku] = id;
+            const std::string_view sku = texts.text(record.latest->sku);
+            appByID_.emplace(id, AppInfo{id, std::string(sku), shownTitle(*record.latest, texts)});
+            appBySKU[sku] = id;
         }
     }
     for (const auto& [id, record] : seen) {
@@ -99,11 +102,13 @@ Catalog::Catalog(const SalesSnapshot& rows, const Locale& locale) {
             continue;
         }
         // No parent is no app, even where an app has no SKU either.
-        const auto owner = record.parentSKU.empty() ? appBySKU.end() : appBySKU.find(record.parentSKU);
+        const std::string_view parent = texts.text(record.parentSKU);
+        const auto owner = parent.empty() ? appBySKU.end() : appBySKU.find(parent);
         productByID_.emplace(
-            id, ProductInfo{id, std::string(record.latest->sku), shownTitle(record),
-                            owner == appBySKU.end() ? std::nullopt : std::optional(owner->second),
-                            isSubscriptionType(record.latest->productType)});
+            id,
+            ProductInfo{id, std::string(texts.text(record.latest->sku)), shownTitle(*record.latest, texts),
+                        owner == appBySKU.end() ? std::nullopt : std::optional(owner->second),
+                        isSubscriptionType(texts.text(record.latest->productType))});
     }
     apps_ = sortedByTitle(appByID_, locale);
     products_ = sortedByTitle(productByID_, locale);

@@ -13,12 +13,12 @@ double finite(long double value) {
 
 }  // namespace
 
-ChartSums::ChartSums(const OfferGroups& groups, const TextPool& currencies,
+ChartSums::ChartSums(const OfferGroups& groups, const std::vector<std::string_view>& currencies,
                      const CurrencyConverter& converter)
     : groups_(groups), sums_(groups.ids().size() * currencies.size()) {
     rates_.reserve(currencies.size());
-    for (std::uint32_t currency = 0; currency < currencies.size(); ++currency) {
-        const auto rate = converter.convert(1, currencies.text(currency));
+    for (const std::string_view currency : currencies) {
+        const auto rate = converter.convert(1, currency);
         rates_.push_back(rate ? std::optional(rate->toLongDouble()) : std::nullopt);
     }
 }

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "OfferGroups.h"
 #include "currency/CurrencyConverter.h"
 #include "figures/ExactSum.h"
-#include "figures/OfferGroups.h"
 #include "figures/OfferSums.h"
-#include "figures/TextPool.h"
 
 #include <cstddef>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace vantrell {
@@ -25,8 +25,9 @@ struct SignedAmounts {
 /// once.
 class ChartSums {
   public:
-    /// The pool is that of the offers' currencies.
-    ChartSums(const OfferGroups& groups, const TextPool& currencies, const CurrencyConverter& converter);
+    /// The currencies are those of the offers.
+    ChartSums(const OfferGroups& groups, const std::vector<std::string_view>& currencies,
+              const CurrencyConverter& converter);
 
     /// The amount of each group by its number, without what has no rate; absent for a group without lines
     /// that have one.

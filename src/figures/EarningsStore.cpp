@@ -1,6 +1,6 @@
 #include "figures/EarningsStore.h"
 
-#include <algorithm>
+#include <set>
 #include <utility>
 
 namespace vantrell {
@@ -18,95 +18,24 @@ std::string initialCurrency(const Defaults& defaults, const Locale& locale) {
 }  // namespace
 
 EarningsStore::EarningsStore(Defaults& defaults, const Locale& locale, const ReportCalendar& calendar)
-    : defaults_(defaults), locale_(locale), calendar_(calendar) {
+    : defaults_(defaults), calendar_(calendar), loader_(locale) {
     converter_.displayCurrency = initialCurrency(defaults, locale);
 }
 
-template <typename Value>
-void EarningsStore::publish(Value& field, Value value, Signal changed) {
-    if (field == value) {
-        return;
-    }
-    field = std::move(value);
-    Q_EMIT(this->*changed)();
-}
-
 void EarningsStore::reload(ModelContext& context) {
-    reloadRows(context);
-    reloadSalesReports(context);
-    reloadFinanceReports(context);
-    reloadRates(context);
-    publish(isLoaded_, true, &EarningsStore::isLoadedChanged);
+    const SharedSnapshot before = std::exchange(snapshot_, loader_.load(context, *snapshot_));
+    if (const auto& sets = context.rateSets().all(); !sets.empty()) {
+        const RateSet& set = sets.begin()->second;
+        converter_.perUSD = set.rates;
+        converter_.fetchedAt = set.fetchedAt;
+    }
+    if (snapshot_->catalog != before->catalog && *snapshot_->catalog != *before->catalog) {
+        Q_EMIT catalogChanged();
+    }
+    if (!std::exchange(isLoaded_, true)) {
+        Q_EMIT isLoadedChanged();
+    }
     raiseLoadRevision();
-}
-
-void EarningsStore::reloadRows(ModelContext& context) {
-    // Rows get new identities with each load, so any rows at all are other rows than before.
-    const std::int64_t load = loadRevision_ + 1;
-    const bool hadSales = !salesRows_.empty();
-    const bool hadFinance = !financeRows().empty();
-    const bool salesChanged = salesRows_.load(context, load);
-    financeRows_.load(context, load);
-    if (salesChanged) {
-        publish(catalog_, Catalog(salesRows_, locale_), &EarningsStore::catalogChanged);
-    }
-    if (hadSales || !salesRows_.empty()) {
-        Q_EMIT salesRowsChanged();
-    }
-    if (hadFinance || !financeRows().empty()) {
-        Q_EMIT financeRowsChanged();
-    }
-}
-
-void EarningsStore::reloadSalesReports(ModelContext& context) {
-    DailyStatuses statuses;
-    std::vector<std::string> okYears;
-    std::vector<std::string> unavailable;
-    for (const auto& [id, report] : context.salesReports().all()) {
-        switch (reportFrequency(report.frequencyRaw).value_or(ReportFrequency::daily)) {
-            case ReportFrequency::weekly:
-            case ReportFrequency::monthly:
-                break;
-            case ReportFrequency::yearly:
-                if (report.status() == ReportStatus::ok) {
-                    okYears.push_back(report.reportDate);
-                } else if (report.status() == ReportStatus::unavailable) {
-                    unavailable.push_back(report.reportDate);
-                }
-                break;
-            case ReportFrequency::daily:
-                statuses[report.reportDate] = report.status();
-                break;
-        }
-    }
-    std::ranges::sort(okYears);
-    std::ranges::sort(unavailable);
-    publish(dailyStatuses_, std::move(statuses), &EarningsStore::dailyStatusesChanged);
-    publish(yearlyOKLabels_, std::move(okYears), &EarningsStore::yearlyOKLabelsChanged);
-    publish(unavailableYears_, std::move(unavailable), &EarningsStore::unavailableYearsChanged);
-}
-
-void EarningsStore::reloadFinanceReports(ModelContext& context) {
-    std::vector<std::string> labels;
-    for (const auto& [id, report] : context.financeReports().all()) {
-        if (report.statusRaw == rawText(ReportStatus::ok)) {
-            labels.push_back(report.fiscalPeriod);
-        }
-    }
-    std::ranges::sort(labels);
-    publish(financeOKLabels_, std::move(labels), &EarningsStore::financeOKLabelsChanged);
-}
-
-void EarningsStore::reloadRates(ModelContext& context) {
-    const auto& sets = context.rateSets().all();
-    if (sets.empty()) {
-        return;
-    }
-    const RateSet& set = sets.begin()->second;
-    CurrencyConverter converter = converter_;
-    converter.perUSD = set.rates;
-    converter.fetchedAt = set.fetchedAt;
-    publish(converter_, std::move(converter), &EarningsStore::converterChanged);
 }
 
 void EarningsStore::raiseLoadRevision() {
@@ -115,17 +44,19 @@ void EarningsStore::raiseLoadRevision() {
 }
 
 void EarningsStore::setAppFilter(AppFilter filter) {
-    publish(appFilter_, std::move(filter), &EarningsStore::appFilterChanged);
+    if (appFilter_ != filter) {
+        appFilter_ = std::move(filter);
+        Q_EMIT appFilterChanged();
+    }
 }
 
 void EarningsStore::setDisplayCurrency(const std::string& code) {
-    if (converter_.displayCurrency == code) {
+    if (displayCurrency() == code) {
         return;
     }
     defaults_.setText(displayCurrencyKey, code);
     converter_.displayCurrency = code;
     Q_EMIT displayCurrencyChanged();
-    Q_EMIT converterChanged();
     raiseLoadRevision();
 }
 

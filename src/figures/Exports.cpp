@@ -3,6 +3,9 @@
 #include "base/LowerCase.h"
 #include "calendar/DayKey.h"
 #include "figures/CSVLine.h"
+#include "figures/Days.h"
+#include "figures/Payouts.h"
+#include "figures/Products.h"
 
 #include <algorithm>
 #include <optional>
@@ -88,9 +91,9 @@ std::string exportText(const EarningsStore& store, ExportKind kind) {
         case ExportKind::days:
             return exportDays(store, exportedDays);
         case ExportKind::months:
-            return exportPeriods(store, store.monthStats({}));
+            return exportPeriods(store, monthStats(store.snapshot(), store.calendar(), {}));
         case ExportKind::years:
-            return exportPeriods(store, store.yearStats({}));
+            return exportPeriods(store, yearStats(store.snapshot(), store.calendar(), {}));
         case ExportKind::payouts:
             return exportPayouts(store);
         case ExportKind::products:
@@ -103,7 +106,7 @@ std::string exportDays(const EarningsStore& store, int days) {
     const CurrencyConverter& converter = store.converter();
     CSVText text(joined({"date", "report_status"}, statsHeader(converter)));
     const std::string from = store.calendar().dayKey(std::max(days, 1));
-    for (const DayTableRow& day : store.dayTable(from, store.calendar().dayKey(1), {})) {
+    for (const DayTableRow& day : dayTable(store.snapshot(), from, store.calendar().dayKey(1), {})) {
         text.add(joined({day.key, std::string(rawText(day.status))}, statsFields(converter, day.stats)));
     }
     return std::move(text).take();
@@ -125,7 +128,7 @@ std::string exportPayouts(const EarningsStore& store) {
     };
     CSVText text(joined({"fiscal_period", "start_date", "end_date", "units", "returns"},
                         moneyHeader(converter, "paid")));
-    for (const FinancePeriodStat& period : store.financePeriods({})) {
+    for (const FinancePeriodStat& period : financePeriods(*store.snapshot(), {})) {
         text.add(joined({period.label, key(period.start), key(period.end), std::to_string(period.units),
                          std::to_string(period.returns)},
                         moneyFields(converter, period.byCurrency)));
@@ -136,7 +139,7 @@ std::string exportPayouts(const EarningsStore& store) {
 std::string exportProducts(const EarningsStore& store) {
     const CurrencyConverter& converter = store.converter();
     CSVText text(joined({"title", "kind", "apple_identifier"}, statsHeader(converter)));
-    for (const ProductStat& product : store.productStats({})) {
+    for (const ProductStat& product : productStats(store.snapshot(), converter, {})) {
         text.add(joined({product.title, product.subtitle, std::to_string(product.productID)},
                         statsFields(converter, product.stats)));
     }

@@ -1,25 +1,40 @@
 #include "figures/SalesSelection.h"
 
-#include "figures/StatsAccumulator.h"
+#include "StatsAccumulator.h"
 
 #include <algorithm>
 #include <map>
+#include <memory>
 
 namespace vantrell {
+namespace {
+
+OfferMask offerMask(const Snapshot& snapshot, const AppFilter& apps) {
+    if (!apps) {
+        return nullptr;
+    }
+    auto mask = std::make_shared<std::vector<bool>>();
+    mask->reserve(snapshot.salesRows.offers().size());
+    for (const SalesOffer& offer : snapshot.salesRows.offers()) {
+        mask->push_back(snapshot.catalog->isOf(offer.stored.appleID, *apps));
+    }
+    return mask;
+}
+
+}  // namespace
 
 bool SalesSelection::containsReport(std::size_t chunk) const {
-    return std::ranges::any_of(spans_, [chunk](const SalesSnapshot::Span& span) {
-        return span.first <= chunk && chunk < span.last;
-    });
+    return std::ranges::any_of(
+        spans_, [chunk](const SalesRows::Span& span) { return span.first <= chunk && chunk < span.last; });
 }
 
 std::vector<SalesRowLite> SalesSelection::rows() const {
     std::vector<SalesRowLite> rows;
     forEachReport([&](std::size_t chunk) {
-        const SalesChunk& lines = *snapshot_->chunks()[chunk];
+        const SalesChunk& lines = report(chunk);
         for (std::size_t row = 0; row < lines.size(); ++row) {
             if (passes(lines.offers[row])) {
-                rows.push_back(snapshot_->row(chunk, row));
+                rows.push_back(snapshot_->salesRows.row(chunk, row));
             }
         }
     });
@@ -27,15 +42,15 @@ std::vector<SalesRowLite> SalesSelection::rows() const {
 }
 
 std::vector<OfferSum> SalesSelection::sums() const {
-    OfferSums sums(snapshot_->offers());
-    forEachReport([&](std::size_t chunk) { sums.add(*snapshot_->chunks()[chunk]); });
+    OfferSums sums(snapshot_->salesRows.offers());
+    forEachReport([&](std::size_t chunk) { sums.add(report(chunk)); });
     return sums.take(mask_);
 }
 
 AggregateStats SalesSelection::aggregate() const {
     StatsAccumulator total;
     total.add(sums());
-    return total.stats(snapshot_->currencies());
+    return total.stats(snapshot_->salesRows.currencies());
 }
 
 SelectionSet selectionsOf(std::size_t chunk, std::span<const SalesSelection> selections) {
@@ -60,9 +75,35 @@ std::vector<AggregateStats> aggregates(std::span<const SalesSelection> selection
                 total.add(sum);
             }
         }
-        stats.push_back(total.stats(selections.front().snapshot_->currencies()));
+        stats.push_back(total.stats(selections.front().snapshot_->salesRows.currencies()));
     }
     return stats;
+}
+
+SalesSelection dailyRows(const SharedSnapshot& snapshot, const std::optional<std::string>& from,
+                         const std::optional<std::string>& to, const AppFilter& apps) {
+    return {
+        snapshot, {snapshot->salesRows.span(ReportFrequency::daily, from, to)}, offerMask(*snapshot, apps)};
+}
+
+SalesSelection laterDailyRows(const SharedSnapshot& snapshot, const AppFilter& apps) {
+    return {snapshot,
+            {snapshot->salesRows.dailySpanAfterYear(snapshot->lastYearlyLabel())},
+            offerMask(*snapshot, apps)};
+}
+
+SalesSelection allTimeRows(const SharedSnapshot& snapshot, const AppFilter& apps) {
+    const SalesRows& rows = snapshot->salesRows;
+    return {snapshot,
+            {rows.dailySpanAfterYear(snapshot->lastYearlyLabel()),
+             rows.span(ReportFrequency::yearly, std::nullopt, std::nullopt)},
+            offerMask(*snapshot, apps)};
+}
+
+SalesSelection reportRows(const SharedSnapshot& snapshot, ReportFrequency frequency,
+                          const std::string& reportDate, const AppFilter& apps) {
+    return {
+        snapshot, {snapshot->salesRows.span(frequency, reportDate, reportDate)}, offerMask(*snapshot, apps)};
 }
 
 }  // namespace vantrell

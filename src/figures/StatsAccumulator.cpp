@@ -1,4 +1,4 @@
-#include "figures/StatsAccumulator.h"
+#include "StatsAccumulator.h"
 
 #include <algorithm>
 
@@ -15,7 +15,7 @@ void StatsAccumulator::add(const StatsAccumulator& other) {
     }
 }
 
-AggregateStats StatsAccumulator::stats(const TextPool& currencies) const {
+AggregateStats StatsAccumulator::stats(const std::vector<std::string_view>& currencies) const {
     AggregateStats stats;
     stats.appUnits = sold(ProductKind::app);
     stats.iapUnits = sold(ProductKind::iap);
@@ -24,7 +24,7 @@ AggregateStats StatsAccumulator::stats(const TextPool& currencies) const {
     stats.refundedUnits = countNegated(countSum(refunded(ProductKind::app), refunded(ProductKind::iap)));
     for (std::uint32_t currency = 0; currency < sums_.size(); ++currency) {
         if (sums_[currency].isTouched()) {
-            stats.proceedsByCurrency.emplace(currencies.text(currency), sums_[currency].total());
+            stats.proceedsByCurrency.emplace(currencies[currency], sums_[currency].total());
         }
     }
     return stats;

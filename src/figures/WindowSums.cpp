@@ -1,10 +1,23 @@
-#include "figures/WindowSums.h"
+#include "WindowSums.h"
+
+#include <array>
 
 namespace vantrell {
+namespace {
 
-WindowSums::WindowSums(const SalesSnapshot& snapshot, const WindowSelections& windows,
+constexpr int daysOfMonth = 30;
+constexpr int daysOfYear = 365;
+
+}  // namespace
+
+WindowSums::WindowSums(const SharedSnapshot& snapshot, const ReportCalendar& calendar,
                        const OfferGroups& groups)
     : snapshot_(snapshot) {
+    // In the order of FigureWindow.
+    const std::array windows{dailyRows(snapshot, calendar.dayKey(daysOfMonth), {}, {}),
+                             dailyRows(snapshot, calendar.dayKey(daysOfYear), {}, {}),
+                             dailyRows(snapshot, calendar.currentYearLabel() + "-01-01", {}, {}),
+                             allTimeRows(snapshot, {})};
     forEachShared(windows, [&](SelectionSet containing, const std::vector<OfferSum>& lines) {
         auto& sums = sums_[containing];
         sums.resize(groups.ids().size());
@@ -23,7 +36,7 @@ AggregateStats WindowSums::stats(FigureWindow window, std::uint32_t group) const
             sum.add(sums[group]);
         }
     }
-    return sum.stats(snapshot_.currencies());
+    return sum.stats(snapshot_->salesRows.currencies());
 }
 
 }  // namespace vantrell

@@ -1,5 +1,6 @@
 #include "screens/AppDetailView.h"
 
+#include "figures/Days.h"
 #include "screens/FigureBlocks.h"
 #include "screens/HeadlineFigures.h"
 #include "screens/components/CountryRow.h"
@@ -34,19 +35,19 @@ void AppDetailView::refresh() {
     showTitle();
     showTiles();
     const ReportCalendar& calendar = store().calendar();
-    chart_.show(store().dayPoints(calendar.dayKey(30), calendar.dayKey(1), apps_));
+    chart_.show(dayPoints(snapshot(), store().converter(), calendar.dayKey(30), calendar.dayKey(1), apps_));
     showRows();
 }
 
 void AppDetailView::takeSnapshots() {
-    years_ = store().yearStats(apps_);
-    months_ = store().monthStats(apps_);
-    products_ = store().productStats(apps_);
-    countries_ = store().countryStats(apps_, maxCountries);
+    years_ = yearStats(snapshot(), store().calendar(), apps_);
+    months_ = monthStats(snapshot(), store().calendar(), apps_);
+    products_ = productStats(snapshot(), store().converter(), apps_);
+    countries_ = countryStats(snapshot(), store().converter(), apps_, maxCountries);
 }
 
 void AppDetailView::showTitle() {
-    const auto& apps = store().catalog().appByID();
+    const auto& apps = snapshot()->catalog->appByID();
     const auto app = apps.find(appID_);
     const QString title = app == apps.end() ? QString() : shownText(app->second.title);
     if (title != title_) {

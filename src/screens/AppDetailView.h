@@ -1,5 +1,6 @@
 #pragma once
 
+#include "figures/Products.h"
 #include "screens/BlockList.h"
 #include "screens/DaySheet.h"
 #include "screens/RowList.h"

@@ -41,10 +41,10 @@ void AppsView::refresh() {
 
 void AppsView::takeSnapshots() {
     loadedRevision_ = store().loadRevision();
-    entries_ = store().appTable();
-    matrix_ = store().yearMatrix();
-    payouts_ = store().appPayouts();
-    productsByApp_ = store().productWindows();
+    entries_ = appTable(snapshot(), store().converter(), store().calendar());
+    matrix_ = yearMatrix(snapshot(), store().converter());
+    payouts_ = appPayouts(*snapshot(), store().calendar());
+    productsByApp_ = productWindows(snapshot(), store().converter(), store().calendar());
 }
 
 void AppsView::loadIcons() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "figures/Payouts.h"
+#include "figures/Products.h"
 #include "icons/AppIconStore.h"
 #include "screens/BlockList.h"
 #include "screens/Screen.h"

@@ -82,9 +82,10 @@ void ByDayView::openDay(const QString& dayKey) {
 void ByDayView::refresh() {
     refreshDates();
     const Range days = range();
-    Trend trend = store().trend(days.from, days.to, granularity_, store().appFilter());
-    chart_.show(std::move(trend.points), granularity_, usesSeriesColors());
-    trendLegend_.show(std::move(trend.legend));
+    Trend shown = trend(snapshot(), store().converter(), locale(), days.from, days.to, granularity_,
+                        store().appFilter());
+    chart_.show(std::move(shown.points), granularity_, usesSeriesColors());
+    trendLegend_.show(std::move(shown.legend));
     refreshRows(days);
     Q_EMIT figuresChanged();
 }
@@ -98,10 +99,10 @@ void ByDayView::refreshDates() {
 void ByDayView::refreshRows(const Range& range) {
     const FigureContext context{store(), locale()};
     const bool isByDay = granularity_ == TrendGranularity::day;
-    days_ =
-        isByDay ? store().dayTable(range.from, range.to, store().appFilter()) : std::vector<DayTableRow>();
+    const AppFilter& apps = store().appFilter();
+    days_ = isByDay ? dayTable(snapshot(), range.from, range.to, apps) : std::vector<DayTableRow>();
     periods_ = isByDay ? std::vector<PeriodStat>()
-                       : store().bucketStats(range.from, range.to, granularity_, store().appFilter());
+                       : bucketStats(snapshot(), locale(), range.from, range.to, granularity_, apps);
     BlockBuilder rows;
     rows.addText(RowKind::Chart, {});
     rows.beginBlock();

@@ -1,5 +1,6 @@
 #include "screens/DashboardView.h"
 
+#include "figures/Days.h"
 #include "screens/HeadlineFigures.h"
 #include "screens/components/ShownText.h"
 #include "screens/components/StatTile.h"
@@ -53,11 +54,12 @@ void DashboardView::refresh() {
     }
     tiles_.show(tiles);
     const ReportCalendar& calendar = store().calendar();
-    chart_.show(store().dayPoints(calendar.dayKey(30), calendar.dayKey(1), store().appFilter()));
+    chart_.show(dayPoints(snapshot(), store().converter(), calendar.dayKey(30), calendar.dayKey(1),
+                          store().appFilter()));
 }
 
 void DashboardView::refreshEmptiness() {
-    const bool isEmpty = store().isLoaded() && store().salesRows().empty() && !engine().isSyncing();
+    const bool isEmpty = store().isLoaded() && snapshot()->salesRows.empty() && !engine().isSyncing();
     if (isEmpty != isEmpty_) {
         isEmpty_ = isEmpty;
         Q_EMIT isEmptyChanged();

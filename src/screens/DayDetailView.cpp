@@ -1,5 +1,6 @@
 #include "screens/DayDetailView.h"
 
+#include "figures/SalesSelection.h"
 #include "screens/components/DayText.h"
 #include "screens/components/LineItemRow.h"
 #include "screens/components/RowText.h"
@@ -20,11 +21,13 @@ QString DayDetailView::title() const {
 }
 
 void DayDetailView::refresh() {
-    const AggregateStats stats = store().dailyRows(dayKey_, dayKey_, apps_).aggregate();
+    const AggregateStats stats = dailyRows(snapshot(), dayKey_, dayKey_, apps_).aggregate();
     caption_ = unitsCaption(locale(), stats, true);
     money_ = moneyValue({store(), locale()}, stats.proceedsByCurrency, proceedsLabel());
     // The list may ask for its old rows until it has the new ones.
-    const std::vector<SalesRowLite> before = std::exchange(items_, store().lineItems(dayKey_, apps_));
+    const SharedSnapshot textsBefore = std::exchange(texts_, snapshot());
+    const std::vector<SalesRowLite> before =
+        std::exchange(items_, lineItems(snapshot(), store().converter(), dayKey_, apps_));
     BlockBuilder lines;
     lines.addEach(RowKind::LineItem, items_,
                   [this](const SalesRowLite& item) { return lineItemRow(locale(), item); });
@@ -34,9 +37,9 @@ void DayDetailView::refresh() {
 }
 
 QString DayDetailView::statusText() const {
-    const auto status = store().dailyStatuses().find(dayKey_);
-    return status == store().dailyStatuses().end() ? tr("No rows for this day.")
-                                                   : statusLabel(status->second).text;
+    const auto status = snapshot()->dailyStatuses.find(dayKey_);
+    return status == snapshot()->dailyStatuses.end() ? tr("No rows for this day.")
+                                                     : statusLabel(status->second).text;
 }
 
 }  // namespace vantrell

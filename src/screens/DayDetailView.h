@@ -1,6 +1,6 @@
 #pragma once
 
-#include "figures/AppFilter.h"
+#include "figures/Days.h"
 #include "screens/BlockList.h"
 #include "screens/Screen.h"
 #include "screens/components/MoneyValue.h"
@@ -50,6 +50,7 @@ class DayDetailView : public vantrell::Screen {
     QString caption_;
     MoneyValue money_;
     QString noLinesText_;
+    SharedSnapshot texts_;  // of the items
     std::vector<SalesRowLite> items_;
     BlockList lines_;
 };

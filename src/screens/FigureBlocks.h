@@ -1,5 +1,7 @@
 #pragma once
 
+#include "figures/Periods.h"
+#include "figures/Products.h"
 #include "screens/BlockList.h"
 #include "screens/components/FigureContext.h"
 

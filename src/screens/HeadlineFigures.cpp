@@ -1,6 +1,7 @@
 #include "screens/HeadlineFigures.h"
 
 #include "calendar/DayKey.h"
+#include "figures/SalesSelection.h"
 #include "screens/components/DayText.h"
 
 #include <algorithm>
@@ -11,18 +12,18 @@ namespace vantrell {
 namespace {
 
 std::optional<std::string> mostRecentOkDay(const EarningsStore& store) {
-    const auto& statuses = store.dailyStatuses();
+    const auto& statuses = store.snapshot()->dailyStatuses;
     const auto newest = std::find_if(statuses.rbegin(), statuses.rend(),
                                      [](const auto& entry) { return entry.second == ReportStatus::ok; });
     return newest == statuses.rend() ? std::nullopt : std::optional(newest->first);
 }
 
 std::optional<std::string> sinceText(const EarningsStore& store) {
-    if (!store.yearlyOKLabels().empty()) {
-        return "Since " + store.yearlyOKLabels().front();
+    if (!store.snapshot()->yearlyOKLabels.empty()) {
+        return "Since " + store.snapshot()->yearlyOKLabels.front();
     }
-    if (!store.dailyStatuses().empty()) {
-        return "Since " + std::string(yearOf(store.dailyStatuses().begin()->first));
+    if (!store.snapshot()->dailyStatuses.empty()) {
+        return "Since " + std::string(yearOf(store.snapshot()->dailyStatuses.begin()->first));
     }
     return std::nullopt;
 }
@@ -50,13 +51,14 @@ class FigureList {
 
 SalesSelection rowsUntilYesterday(const EarningsStore& store, const std::string& from,
                                   const AppFilter& apps) {
-    return store.dailyRows(from, store.calendar().dayKey(1), apps);
+    return dailyRows(store.snapshot(), from, store.calendar().dayKey(1), apps);
 }
 
 void addNewestDay(FigureList& figures, const std::string& title, const EarningsStore& store,
                   const Locale& locale, const AppFilter& apps) {
     if (const auto day = mostRecentOkDay(store)) {
-        figures.add(title, dayShortText(store.calendar(), locale, *day), store.dailyRows(*day, *day, apps));
+        figures.add(title, dayShortText(store.calendar(), locale, *day),
+                    dailyRows(store.snapshot(), *day, *day, apps));
     }
 }
 
@@ -75,7 +77,7 @@ std::vector<HeadlineFigure> headlineFigures(const EarningsStore& store, const Lo
     addNewestDay(figures, "Most recent day with data", store, locale, apps);
     figures.add("Last 7 days", std::nullopt, rowsUntilYesterday(store, store.calendar().dayKey(7), apps));
     addMonthAndYear(figures, store, apps);
-    figures.add("All time", sinceText(store), store.allTimeRows(apps));
+    figures.add("All time", sinceText(store), allTimeRows(store.snapshot(), apps));
     return figures.take();
 }
 
@@ -85,7 +87,7 @@ std::vector<HeadlineFigure> appHeadlineFigures(const EarningsStore& store, const
     FigureList figures;
     addNewestDay(figures, "Newest day", store, locale, apps);
     addMonthAndYear(figures, store, apps);
-    figures.add("All time", std::nullopt, store.allTimeRows(apps));
+    figures.add("All time", std::nullopt, allTimeRows(store.snapshot(), apps));
     return figures.take();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "figures/AggregateStats.h"
 #include "figures/EarningsStore.h"
 #include "locale/Locale.h"
 

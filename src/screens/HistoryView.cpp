@@ -15,13 +15,13 @@ void HistoryView::refresh() {
     }
     const AppFilter& apps = store().appFilter();
     const FigureContext context{store(), locale()};
-    years_ = store().yearStats(apps);
-    months_ = store().monthStats(apps);
-    products_ = store().productStats(apps);
+    years_ = yearStats(snapshot(), store().calendar(), apps);
+    months_ = monthStats(snapshot(), store().calendar(), apps);
+    products_ = productStats(snapshot(), store().converter(), apps);
     BlockBuilder rows;
     rows.addText(RowKind::Heading, tr("By year"));
     addYears(rows, context, years_);
-    if (!store().unavailableYears().empty()) {
+    if (!snapshot()->unavailableYears.empty()) {
         rows.addText(RowKind::Note, excludedYears());
     }
     rows.beginBlock();
@@ -35,7 +35,7 @@ void HistoryView::refresh() {
 
 QString HistoryView::excludedYears() const {
     QStringList years;
-    for (const std::string& year : store().unavailableYears()) {
+    for (const std::string& year : snapshot()->unavailableYears) {
         years += shownText(year);
     }
     return tr("Past Apple's retention and excluded: ") + years.join(QStringLiteral(", ")) + QLatin1Char('.');

@@ -44,7 +44,7 @@ void PayoutsView::refetch(int place) {
 void PayoutsView::refresh() {
     labels_.clear();
     std::vector<PayoutRow> rows;
-    for (const FinancePeriodStat& period : store().financePeriods(store().appFilter())) {
+    for (const FinancePeriodStat& period : financePeriods(*snapshot(), store().appFilter())) {
         rows.push_back(payoutRow({store(), locale()}, period, expanded_.contains(period.label)));
         labels_.push_back(period.label);
     }

@@ -34,6 +34,7 @@ class Screen : public QObject {
 
     [[nodiscard]] const ScreenParts& parts() const { return parts_; }
     [[nodiscard]] EarningsStore& store() const { return parts_.store; }
+    [[nodiscard]] const SharedSnapshot& snapshot() const { return parts_.store.snapshot(); }
     [[nodiscard]] SyncEngine& engine() const { return parts_.engine; }
     [[nodiscard]] const Locale& locale() const { return parts_.locale; }
 

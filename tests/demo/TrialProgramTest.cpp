@@ -1,6 +1,7 @@
 #include "base/SystemClock.h"
 #include "data/ModelContainer.h"
 #include "figures/EarningsStore.h"
+#include "figures/SalesSelection.h"
 #include "files/JsonDefaults.h"
 #include "keys/KeyPair.h"
 #include "sample/ReportPeriods.h"
@@ -95,15 +96,17 @@ TEST(TrialProgram, AsksInASecondRunOnlyForWhatIsDue) {
     {
         Figures figures(trial.folder());
         EXPECT_EQ(figures.store().displayCurrency(), "EUR");
-        for (const std::string& year : figures.store().yearlyOKLabels()) {
+        for (const std::string& year : figures.store().snapshot()->yearlyOKLabels) {
             const auto days = *sample::reportDays(sample::ReportKind::yearly, year);
-            EXPECT_EQ(figures.store().reportRows(ReportFrequency::yearly, year, {}).aggregate().appUnits,
+            EXPECT_EQ(reportRows(figures.store().snapshot(), ReportFrequency::yearly, year, {})
+                          .aggregate()
+                          .appUnits,
                       sample::salesTotals(trial.account(), days).appUnits)
                 << year;
         }
         for (int offset = 1; offset <= 14; ++offset) {
             const ReportStatus status =
-                figures.store().dailyStatuses().at(figures.store().calendar().dayKey(offset));
+                figures.store().snapshot()->dailyStatuses.at(figures.store().calendar().dayKey(offset));
             due +=
                 status == ReportStatus::pending || (status == ReportStatus::empty && offset <= 3) ? 1U : 0U;
         }

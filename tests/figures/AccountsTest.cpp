@@ -1,3 +1,9 @@
+#include "figures/Apps.h"
+#include "figures/Days.h"
+#include "figures/Payouts.h"
+#include "figures/Products.h"
+#include "figures/SalesSelection.h"
+#include "figures/Trends.h"
 #include "testing/AccountFile.h"
 #include "testing/Golden.h"
 
@@ -59,7 +65,9 @@ std::string period(const PeriodStat& stat) {
 }
 
 std::string wholeAccount(const EarningsStore& store) {
-    const Catalog& catalog = store.catalog();
+    const SharedSnapshot& snapshot = store.snapshot();
+    const CurrencyConverter& rates = store.converter();
+    const Catalog& catalog = *snapshot->catalog;
     std::string all = listed("apps", catalog.apps(),
                              [](const AppInfo& app) { return std::to_string(app.id) + " " + app.title; });
     all += listed("products", catalog.products(), [](const ProductInfo& product) {
@@ -67,16 +75,17 @@ std::string wholeAccount(const EarningsStore& store) {
                (product.appID ? std::to_string(*product.appID) : "none") +
                (product.isSubscription ? ", subscription" : "");
     });
-    all += listed("30 days | 365 days | year to date | all time", store.appTable(), [](const auto& entry) {
-        return std::to_string(entry.app.id) + windows(entry) + " = " + rounded(entry.sortValue);
-    });
-    for (const auto& [app, products] : store.productWindows()) {
+    all += listed("30 days | 365 days | year to date | all time", appTable(snapshot, rates, store.calendar()),
+                  [](const auto& entry) {
+                      return std::to_string(entry.app.id) + windows(entry) + " = " + rounded(entry.sortValue);
+                  });
+    for (const auto& [app, products] : productWindows(snapshot, rates, store.calendar())) {
         all += listed("products of " + std::to_string(app), products, [](const ProductWindowStat& product) {
             return std::to_string(product.productID) + " " + product.title +
                    (product.isAppPurchases ? ", the app" : "") + windows(product);
         });
     }
-    const YearMatrix matrix = store.yearMatrix();
+    const YearMatrix matrix = yearMatrix(snapshot, rates);
     all += listed("years that are worth something", matrix.years, [](const auto& year) { return year; });
     all += listed("app by year", matrix.byApp, [](const auto& app) {
         std::string row = std::to_string(app.first) + ":";
@@ -85,11 +94,13 @@ std::string wholeAccount(const EarningsStore& store) {
         }
         return row;
     });
-    all += listed("ranked", store.rankedApps(), [](std::int64_t app) { return std::to_string(app); });
-    return all + listed("paid this fiscal year of all time", store.appPayouts(), [](const AppPayout& payout) {
-               return payout.app.title + ": " + money(payout.currentFiscalYear) + " of " +
-                      money(payout.allTime);
-           });
+    all +=
+        listed("ranked", rankedApps(snapshot, rates), [](std::int64_t app) { return std::to_string(app); });
+    return all + listed("paid this fiscal year of all time", appPayouts(*snapshot, store.calendar()),
+                        [](const AppPayout& payout) {
+                            return payout.app.title + ": " + money(payout.currentFiscalYear) + " of " +
+                                   money(payout.allTime);
+                        });
 }
 
 std::string trend(const Trend& trend) {
@@ -106,39 +117,43 @@ std::string trend(const Trend& trend) {
     });
 }
 
-std::string ofApps(const EarningsStore& store, const AccountFile& account, const AppFilter& apps) {
+std::string ofApps(EarningsFixture& fixture, const AccountFile& account, const AppFilter& apps) {
+    const SharedSnapshot& snapshot = fixture.store().snapshot();
+    const CurrencyConverter& rates = fixture.store().converter();
+    const ReportCalendar& calendar = fixture.store().calendar();
     constexpr std::size_t mostCountries = 6;
     const std::string& from = account.firstDay;
     const std::string& to = account.lastDay;
-    std::string all = "all time\n  " + text(store.allTimeRows(apps).aggregate()) + "\n";
-    auto months = store.monthStats(apps);
+    std::string all = "all time\n  " + text(allTimeRows(snapshot, apps).aggregate()) + "\n";
+    auto months = monthStats(snapshot, calendar, apps);
     EXPECT_EQ(months.size(), 13U);
     std::erase_if(months, [](const PeriodStat& month) { return month.stats.isEmpty(); });
     all += listed("months", months, period);
-    all += listed("years", store.yearStats(apps), period);
-    all += listed("sold", store.productStats(apps), [](const ProductStat& product) {
+    all += listed("years", yearStats(snapshot, calendar, apps), period);
+    all += listed("sold", productStats(snapshot, rates, apps), [](const ProductStat& product) {
         return product.title + " / " + product.subtitle + ": " + text(product.stats);
     });
-    all += listed("countries", store.countryStats(apps, mostCountries),
+    all += listed("countries", countryStats(snapshot, rates, apps, mostCountries),
                   [](const CountryStat& country) { return country.country + " " + country.amount.text(); });
-    all += listed("paid", store.financePeriods(apps), [](const FinancePeriodStat& paid) {
+    all += listed("paid", financePeriods(*snapshot, apps), [](const FinancePeriodStat& paid) {
         return paid.label + ", " + key(paid.start) + " to " + key(paid.end) + ", " +
                std::to_string(paid.units) + " units, " + std::to_string(paid.returns) +
                " returns: " + money(paid.byCurrency);
     });
-    all += listed("days", store.dayTable(from, to, apps), [](const DayTableRow& day) {
+    all += listed("days", dayTable(snapshot, from, to, apps), [](const DayTableRow& day) {
         return day.key + " " + std::string(rawText(day.status)) + ": " + text(day.stats);
     });
-    all += listed("chart", store.dayPoints(from, to, apps), [](const DayPoint& day) {
+    all += listed("chart", dayPoints(snapshot, rates, from, to, apps), [](const DayPoint& day) {
         return dayKey(day.day) + " " + std::string(rawText(day.status)) + ": " + rounded(day.proceeds) + " " +
                rounded(day.refunds);
     });
-    all += listed("lines of the last day", store.lineItems(to, apps), [](const SalesRowLite& line) {
-        return std::string(line.title) + " " + line.amount().text() + " " + std::string(line.currency);
-    });
+    all +=
+        listed("lines of the last day", lineItems(snapshot, rates, to, apps), [](const SalesRowLite& line) {
+            return std::string(line.title) + " " + line.amount().text() + " " + std::string(line.currency);
+        });
     for (const auto granularity : {TrendGranularity::day, TrendGranularity::week, TrendGranularity::month}) {
-        all += listed("buckets", store.bucketStats(from, to, granularity, apps), period);
-        all += trend(store.trend(from, to, granularity, apps));
+        all += listed("buckets", bucketStats(snapshot, fixture.locale, from, to, granularity, apps), period);
+        all += trend(vantrell::trend(snapshot, rates, fixture.locale, from, to, granularity, apps));
     }
     return all;
 }
@@ -152,9 +167,10 @@ TEST(Accounts, AreToldAsInTheFilesBesideThem) {
         const AccountFile account(file);
         account.storeIn(fixture);
         const EarningsStore& store = fixture.reload();
-        testing::expectMatchesFile(wholeAccount(store) + "\nWITHOUT A FILTER\n" + ofApps(store, account, {}) +
-                                       "\nOF THE CHOSEN APPS\n" + ofApps(store, account, account.apps) +
-                                       "\nOF NO APP\n" + ofApps(store, account, std::set<std::int64_t>{}),
+        testing::expectMatchesFile(wholeAccount(store) + "\nWITHOUT A FILTER\n" +
+                                       ofApps(fixture, account, {}) + "\nOF THE CHOSEN APPS\n" +
+                                       ofApps(fixture, account, account.apps) + "\nOF NO APP\n" +
+                                       ofApps(fixture, account, std::set<std::int64_t>{}),
                                    file.replace_extension(".figures"));
     }
 }

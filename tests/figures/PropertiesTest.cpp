@@ -1,5 +1,10 @@
+#include "StatsAccumulator.h"
+#include "figures/Apps.h"
+#include "figures/Days.h"
 #include "figures/Exports.h"
-#include "figures/StatsAccumulator.h"
+#include "figures/Products.h"
+#include "figures/SalesSelection.h"
+#include "figures/Trends.h"
 #include "testing/CsvRecords.h"
 #include "testing/EarningsFixture.h"
 
@@ -120,9 +125,11 @@ AggregateStats addedPlainly(const std::vector<SalesRowLite>& rows) {
 }
 
 void expectSumsOfTheLines(const EarningsStore& store) {
+    const SharedSnapshot& snapshot = store.snapshot();
     const std::vector<SalesSelection> selections{
-        store.dailyRows("2026-11-21", "2026-11-21", {}), store.dailyRows("2026-06-15", {}, {}),
-        store.dailyRows({}, "2026-06-15", {}), store.dailyRows("2030-01-01", {}, {}), store.allTimeRows({})};
+        dailyRows(snapshot, "2026-11-21", "2026-11-21", {}), dailyRows(snapshot, "2026-06-15", {}, {}),
+        dailyRows(snapshot, {}, "2026-06-15", {}), dailyRows(snapshot, "2030-01-01", {}, {}),
+        allTimeRows(snapshot, {})};
     const auto sums = aggregates(selections);
     ASSERT_EQ(sums.size(), selections.size());
     for (std::size_t number = 0; number < sums.size(); ++number) {
@@ -131,13 +138,16 @@ void expectSumsOfTheLines(const EarningsStore& store) {
     }
 }
 
-void expectEveryDayInOneBucket(const EarningsStore& store) {
-    const AggregateStats range = store.dailyRows(firstDay, lastDay, {}).aggregate();
-    EXPECT_EQ(sumOf(store.dayTable(firstDay, lastDay, {}), &DayTableRow::stats), range);
+void expectEveryDayInOneBucket(EarningsFixture& fixture) {
+    const SharedSnapshot& snapshot = fixture.store().snapshot();
+    const AggregateStats range = dailyRows(snapshot, firstDay, lastDay, {}).aggregate();
+    EXPECT_EQ(sumOf(dayTable(snapshot, firstDay, lastDay, {}), &DayTableRow::stats), range);
     for (const auto granularity : {TrendGranularity::day, TrendGranularity::week, TrendGranularity::month}) {
-        EXPECT_EQ(sumOf(store.bucketStats(firstDay, lastDay, granularity, {}), &PeriodStat::stats), range);
+        EXPECT_EQ(sumOf(bucketStats(snapshot, fixture.locale, firstDay, lastDay, granularity, {}),
+                        &PeriodStat::stats),
+                  range);
         std::size_t statuses = 0;
-        const TrendBuckets buckets = store.trendBuckets(firstDay, lastDay, granularity);
+        const TrendBuckets buckets = trendBuckets(*snapshot, fixture.locale, firstDay, lastDay, granularity);
         for (const CivilDate& start : buckets.starts) {
             statuses += buckets.statuses.at(start).size();
         }
@@ -147,54 +157,58 @@ void expectEveryDayInOneBucket(const EarningsStore& store) {
 }
 
 void expectEverySaleOnceInAllTime(const EarningsStore& store) {
+    const SharedSnapshot& snapshot = store.snapshot();
     AggregateStats allTime;
-    const std::string lastYear = store.yearlyOKLabels().empty() ? "" : store.yearlyOKLabels().back();
-    for (const std::string& year : store.yearlyOKLabels()) {
-        add(allTime, store.reportRows(ReportFrequency::yearly, year, {}).aggregate());
+    const std::string lastYear = snapshot->yearlyOKLabels.empty() ? "" : snapshot->yearlyOKLabels.back();
+    for (const std::string& year : snapshot->yearlyOKLabels) {
+        add(allTime, reportRows(snapshot, ReportFrequency::yearly, year, {}).aggregate());
     }
-    for (const auto& [key, status] : store.dailyStatuses()) {
+    for (const auto& [key, status] : snapshot->dailyStatuses) {
         if (key.substr(0, 4) > lastYear) {
-            add(allTime, store.dailyRows(key, key, {}).aggregate());
+            add(allTime, dailyRows(snapshot, key, key, {}).aggregate());
         }
     }
-    EXPECT_EQ(store.allTimeRows({}).aggregate(), allTime);
-    EXPECT_EQ(sumOf(store.yearStats({}), &PeriodStat::stats), allTime);
+    EXPECT_EQ(allTimeRows(snapshot, {}).aggregate(), allTime);
+    EXPECT_EQ(sumOf(yearStats(snapshot, store.calendar(), {}), &PeriodStat::stats), allTime);
 }
 
 void expectAppsAndTheRestToMakeTheTotal(const EarningsStore& store) {
+    const SharedSnapshot& snapshot = store.snapshot();
     AggregateStats total;
-    for (const AppTableEntry& entry : store.appTable()) {
+    for (const AppTableEntry& entry : appTable(snapshot, store.converter(), store.calendar())) {
         const AppFilter app = std::set<std::int64_t>{entry.app.id};
-        EXPECT_EQ(entry.allTime, store.allTimeRows(app).aggregate());
-        EXPECT_EQ(entry.ytd, store.dailyRows("2026-01-01", {}, app).aggregate());
+        EXPECT_EQ(entry.allTime, allTimeRows(snapshot, app).aggregate());
+        EXPECT_EQ(entry.ytd, dailyRows(snapshot, "2026-01-01", {}, app).aggregate());
         add(total, entry.allTime);
     }
     StatsAccumulator rest;
     StatsAccumulator sold;
-    for (const OfferSum& lines : store.allTimeRows({}).sums()) {
-        if (!store.catalog().owningApp(lines.offer->appleID)) {
+    for (const OfferSum& lines : allTimeRows(snapshot, {}).sums()) {
+        if (!snapshot->catalog->owningApp(lines.offer->stored.appleID)) {
             rest.add(lines);
         }
         if (isSold(lines.offer->kind)) {
             sold.add(lines);
         }
     }
-    add(total, rest.stats(store.salesRows().currencies()));
-    EXPECT_EQ(total, store.allTimeRows({}).aggregate());
-    EXPECT_EQ(sumOf(store.productStats({}), &ProductStat::stats), sold.stats(store.salesRows().currencies()));
+    add(total, rest.stats(snapshot->salesRows.currencies()));
+    EXPECT_EQ(total, allTimeRows(snapshot, {}).aggregate());
+    EXPECT_EQ(sumOf(productStats(snapshot, store.converter(), {}), &ProductStat::stats),
+              sold.stats(snapshot->salesRows.currencies()));
 }
 
 /// The rule of the chart line by line, with numbers rounded at each.
 void expectChartsToShowEveryLine(const EarningsStore& store) {
+    const SharedSnapshot& snapshot = store.snapshot();
     double proceeds = 0;
     double refunds = 0;
-    for (const SalesRowLite& row : store.dailyRows(firstDay, lastDay, {}).rows()) {
+    for (const SalesRowLite& row : dailyRows(snapshot, firstDay, lastDay, {}).rows()) {
         const auto value = store.converter().convert(row.amount(), row.currency);
         if (isSold(row.kind) && value) {
             (value->isNegative() ? refunds : proceeds) += value->toDouble();
         }
     }
-    for (const DayPoint& point : store.dayPoints(firstDay, lastDay, {})) {
+    for (const DayPoint& point : dayPoints(snapshot, store.converter(), firstDay, lastDay, {})) {
         proceeds -= point.proceeds;
         refunds -= point.refunds;
     }
@@ -225,8 +239,8 @@ void expectChangesToBeReadAsAllWouldBe(EarningsFixture& fixture, Draw& draw) {
     const EarningsStore& incremental = fixture.reload();
     const auto whole = fixture.another();
     whole->reload(fixture.context());
-    EXPECT_EQ(incremental.catalog(), whole->catalog());
-    EXPECT_EQ(incremental.salesRows().size(), whole->salesRows().size());
+    EXPECT_EQ(*incremental.snapshot()->catalog, *whole->snapshot()->catalog);
+    EXPECT_EQ(incremental.snapshot()->salesRows.size(), whole->snapshot()->salesRows.size());
     EXPECT_EQ(exactRecords(incremental), exactRecords(*whole));
 }
 
@@ -240,7 +254,7 @@ TEST(Figures, HoldTogetherForAnyAccount) {
         drawAccount(fixture, draw);
         EarningsStore& store = fixture.reload();
         expectSumsOfTheLines(store);
-        expectEveryDayInOneBucket(store);
+        expectEveryDayInOneBucket(fixture);
         expectEverySaleOnceInAllTime(store);
         expectAppsAndTheRestToMakeTheTotal(store);
         expectChartsToShowEveryLine(store);

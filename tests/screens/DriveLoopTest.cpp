@@ -83,7 +83,7 @@ TEST_F(DriveLoopTest, LetsTheWindowMoveWhileItReadsMuch) {
     EXPECT_FALSE(store.isLoaded());
     EXPECT_EQ(runsBegun(), 0U) << "first what is there, then what is new";
     fixture.clock.advance(std::chrono::microseconds::zero());
-    EXPECT_EQ(store.salesRows().size(), 40'000U);
+    EXPECT_EQ(store.snapshot()->salesRows.size(), 40'000U);
     EXPECT_EQ(runsBegun(), 1U);
 }
 

@@ -94,7 +94,7 @@ EarningsFixture::EarningsFixture(const std::filesystem::path& kept)
     : file_(kept), context_(file_.open()), earnings_(another()) {}
 
 std::unique_ptr<EarningsStore> EarningsFixture::another() {
-    return std::make_unique<EarningsStore>(defaults, locale_, calendar_);
+    return std::make_unique<EarningsStore>(defaults, locale, calendar_);
 }
 
 EarningsStore& EarningsFixture::reload() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "calendar/DayKey.h"
+#include "figures/AggregateStats.h"
 #include "figures/EarningsStore.h"
 #include "testing/FixedLocalTime.h"
 #include "testing/ManualClock.h"
@@ -80,11 +81,11 @@ class EarningsFixture final : public ShortReports {
     ManualClock clock;
     FixedLocalTime localTime{"Europe/Berlin"};
     MemoryDefaults defaults;
+    const Locale locale{LocaleNames{"en_US.UTF-8", "C", "C", "C", "C"}};
 
   private:
     StoreFixture file_;
     ModelContext* context_;
-    Locale locale_{LocaleNames{"en_US.UTF-8", "C", "C", "C", "C"}};
     ReportCalendar calendar_{clock, localTime};
     std::unique_ptr<EarningsStore> earnings_;
 };

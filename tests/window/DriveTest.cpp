@@ -76,7 +76,7 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     SyncEngine& engine = newcomer.app().engine();
 
     // The next run is started by key, and its figures come by themselves.
-    const auto days = [&] { return newcomer.app().store().dailyStatuses().size(); };
+    const auto days = [&] { return newcomer.app().store().snapshot()->dailyStatuses.size(); };
     driver->key(Qt::Key_F5);
     EXPECT_TRUE(engine.isSyncing());
     driver->waitUntil([&, before = days()] { return days() > before; }, "for another day");
@@ -86,7 +86,7 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     EXPECT_LT(days(), 300U) << "the backfill was not stopped";
 
     // All apps are left out, and one is taken in again.
-    const AppInfo app = newcomer.app().store().catalog().apps().front();
+    const AppInfo app = newcomer.app().store().snapshot()->catalog->apps().front();
     driver->click(QAccessible::Button, QStringLiteral("All Apps"));
     driver->click(QAccessible::CheckBox, QStringLiteral("All Apps"));
     driver->expectToSee(QAccessible::Button, QStringLiteral("All time, 0.00"));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "figures/DayFigures.h"
+#include "figures/Days.h"
 #include "screens/charts/Chart.h"
 
 #include <vector>

@@ -55,7 +55,7 @@ ChartColumn TrendChart::columnOf(const TrendPoint& point) const {
 
 ChartAnnotation TrendChart::annotationOf(std::size_t column) const {
     const TrendPoint& point = points_[column];
-    ChartAnnotation annotation{fromUtf8(context().store.bucketLabel(point.periodStart, granularity_)),
+    ChartAnnotation annotation{fromUtf8(bucketLabel(context().locale, point.periodStart, granularity_)),
                                statusLabel(point.status).text, sliceLines(point)};
     std::ranges::copy(refundLine(sumsOf(column).refunds), std::back_inserter(annotation.amounts));
     return annotation;

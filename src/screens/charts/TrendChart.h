@@ -1,6 +1,6 @@
 #pragma once
 
-#include "figures/Trend.h"
+#include "figures/Trends.h"
 #include "screens/charts/Chart.h"
 
 #include <vector>

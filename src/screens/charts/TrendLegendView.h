@@ -1,6 +1,6 @@
 #pragma once
 
-#include "figures/Trend.h"
+#include "figures/Trends.h"
 #include "icons/AppIconStore.h"
 #include "screens/RowList.h"
 #include "screens/ScreenParts.h"

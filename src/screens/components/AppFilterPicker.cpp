@@ -21,7 +21,7 @@ QString AppFilterPicker::title() const {
     if (filter->empty()) {
         return tr("No Apps");
     }
-    const auto& apps = store_.catalog().appByID();
+    const auto& apps = store_.snapshot()->catalog->appByID();
     const auto only = apps.find(*filter->begin());
     if (filter->size() == 1 && only != apps.end()) {
         return shownText(only->second.title);
@@ -35,7 +35,7 @@ void AppFilterPicker::setAllOn(bool isOn) {
 }
 
 void AppFilterPicker::setOn(int place, bool isOn) {
-    const auto& apps = store_.catalog().apps();
+    const auto& apps = store_.snapshot()->catalog->apps();
     if (place < 0 || static_cast<std::size_t>(place) >= apps.size()) {
         return;
     }
@@ -52,7 +52,7 @@ void AppFilterPicker::setOn(int place, bool isOn) {
 void AppFilterPicker::refresh() {
     std::vector<AppFilterItem> items;
     const AppFilter& filter = store_.appFilter();
-    for (const AppInfo& app : store_.catalog().apps()) {
+    for (const AppInfo& app : store_.snapshot()->catalog->apps()) {
         items.push_back({shownText(app.title), !filter || filter->contains(app.id)});
     }
     items_.show(items);
@@ -61,7 +61,7 @@ void AppFilterPicker::refresh() {
 
 std::set<std::int64_t> AppFilterPicker::allApps() const {
     std::set<std::int64_t> apps;
-    for (const AppInfo& app : store_.catalog().apps()) {
+    for (const AppInfo& app : store_.snapshot()->catalog->apps()) {
         apps.insert(app.id);
     }
     return apps;

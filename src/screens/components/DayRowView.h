@@ -1,6 +1,6 @@
 #pragma once
 
-#include "figures/DayFigures.h"
+#include "figures/Days.h"
 #include "screens/components/MoneyValue.h"
 #include "screens/components/StatusBadge.h"
 

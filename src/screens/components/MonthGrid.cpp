@@ -1,7 +1,7 @@
 #include "screens/components/MonthGrid.h"
 
 #include "calendar/DayKey.h"
-#include "figures/Trend.h"
+#include "figures/Trends.h"
 #include "screens/components/ShownText.h"
 
 #include <algorithm>

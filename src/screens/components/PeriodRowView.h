@@ -1,6 +1,6 @@
 #pragma once
 
-#include "figures/DayFigures.h"
+#include "figures/Periods.h"
 #include "screens/components/MoneyValue.h"
 
 #include <optional>

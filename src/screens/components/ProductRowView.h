@@ -1,6 +1,6 @@
 #pragma once
 
-#include "figures/ProductFigures.h"
+#include "figures/Products.h"
 #include "screens/components/MoneyValue.h"
 
 namespace vantrell {

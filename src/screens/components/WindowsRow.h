@@ -1,6 +1,7 @@
 #pragma once
 
-#include "figures/AppFigures.h"
+#include "figures/Apps.h"
+#include "figures/Products.h"
 #include "screens/components/ColumnTitles.h"
 #include "screens/components/MoneyCell.h"
 

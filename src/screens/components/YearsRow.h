@@ -1,6 +1,6 @@
 #pragma once
 
-#include "figures/AppFigures.h"
+#include "figures/Apps.h"
 #include "screens/components/ColumnTitles.h"
 #include "screens/components/FigureContext.h"
 

@@ -66,7 +66,9 @@ class ModelContext {
     /// as another batch.
     [[nodiscard]] LineTable<SalesLine>& salesLines() { return salesLines_; }
     [[nodiscard]] LineTable<FinanceLine>& financeLines() { return financeLines_; }
-    [[nodiscard]] const TextDictionary& texts() const { return texts_; }
+    [[nodiscard]] const TextDictionary& texts() const { return *texts_; }
+    /// For those whose texts must outlive the context.
+    [[nodiscard]] std::shared_ptr<const TextDictionary> sharedTexts() const { return texts_; }
     [[nodiscard]] const OfferDictionary& offers() const { return offers_; }
 
     /// Whole records, in the order of the store; for exports and checks, since they are large.
@@ -105,7 +107,7 @@ class ModelContext {
     SqliteDatabase& database_;
     std::shared_ptr<FileCheck> fileCheck_;
     StoreHealth health_;
-    TextDictionary texts_;
+    std::shared_ptr<TextDictionary> texts_;
     OfferDictionary offers_;
     RecordTable<SalesReport> salesReports_;
     RecordTable<FinanceReport> financeReports_;

@@ -1,11 +1,13 @@
 #pragma once
 
-#include "figures/SalesSnapshot.h"
+#include "figures/AppFilter.h"
+#include "figures/SalesRows.h"
 #include "locale/Locale.h"
 
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -32,7 +34,7 @@ struct ProductInfo {
 class Catalog {
   public:
     Catalog() = default;
-    Catalog(const SalesSnapshot& rows, const Locale& locale);
+    Catalog(const SalesRows& rows, const Locale& locale);
 
     /// In the order of their titles.
     [[nodiscard]] const std::vector<AppInfo>& apps() const { return apps_; }
@@ -43,6 +45,12 @@ class Catalog {
 
     /// The app itself, or the app that owns the product; absent for what belongs to no known app.
     [[nodiscard]] std::optional<std::int64_t> owningApp(std::int64_t appleID) const;
+
+    /// Whether what belongs to this identifier is of one of the apps.
+    [[nodiscard]] bool isOf(std::int64_t appleID, const std::set<std::int64_t>& apps) const {
+        const auto owner = owningApp(appleID);
+        return owner && apps.contains(*owner);
+    }
 
     bool operator==(const Catalog&) const = default;
 

@@ -2,6 +2,7 @@
 
 #include "currency/CurrencyConverter.h"
 #include "figures/EarningsStore.h"
+#include "figures/Periods.h"
 
 #include <array>
 #include <string>

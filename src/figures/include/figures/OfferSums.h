@@ -13,7 +13,7 @@ namespace vantrell {
 /// their units: counts and amounts are the same, and so are the signs.
 struct OfferSum {
     const SalesOffer* offer;
-    std::uint32_t offerNumber;
+    OfferID offerNumber;
     std::int64_t units;
 };
 

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "base/Instant.h"
+#include "calendar/ReportCalendar.h"
 #include "figures/AggregateStats.h"
-#include "figures/Catalog.h"
+#include "figures/AppFilter.h"
+#include "figures/Snapshot.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace vantrell {
 
@@ -29,5 +32,11 @@ struct AppPayout {
     AmountsByCurrency allTime;
     bool operator==(const AppPayout&) const = default;
 };
+
+/// What was paid, newest fiscal period first.
+[[nodiscard]] std::vector<FinancePeriodStat> financePeriods(const Snapshot& snapshot, const AppFilter& apps);
+/// The apps that were ever paid for, in the order of the catalog. Lines of products that no sales report
+/// showed belong to no app.
+[[nodiscard]] std::vector<AppPayout> appPayouts(const Snapshot& snapshot, const ReportCalendar& calendar);
 
 }  // namespace vantrell

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Instant.h"
-#include "data/LineTable.h"
+#include "data/OfferDictionary.h"
 #include "data/ReportFrequency.h"
 
 #include <cstdint>
@@ -11,15 +11,14 @@
 
 namespace vantrell {
 
-/// The lines of one stored report in columns of equal length: numbers of offers and of countries, and units.
-/// Chunks never change; a report that was replaced is another chunk.
+/// The lines of one stored report in columns of equal length: the store's numbers of offers and of countries,
+/// and units. Chunks never change; a report that was replaced is another chunk.
 struct SalesChunk {
-    BatchID batch = 0;
     ReportFrequency frequency = ReportFrequency::daily;
     std::string reportDate;
 
-    std::vector<std::uint32_t> offers;
-    std::vector<std::uint32_t> countries;
+    std::vector<OfferID> offers;
+    std::vector<TextID> countries;
     std::vector<std::int32_t> units;
 
     /// Units that don't fit in the column, where it holds `largeUnits`.

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "base/Decimal.h"
+#include "data/OfferDictionary.h"
 #include "figures/ExactSum.h"
 #include "figures/ProductKind.h"
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace vantrell {
 
@@ -14,16 +15,17 @@ namespace vantrell {
 struct SalesOffer {
     // What sums need, side by side in memory.
     ProductKind kind = ProductKind::other;
-    std::uint32_t currency = 0;  ///< of the proceeds, as a number of the snapshot's currencies
+    std::uint32_t currency = 0;  ///< of the proceeds, as a place in the table's currencies
     ScaledPrice proceeds;        ///< per unit
 
-    std::int64_t appleID = 0;
-    std::string_view sku;
-    std::string_view parentSKU;
-    std::string_view title;
-    std::string_view productType;
-    Decimal customerPrice;
-    std::string_view customerCurrency;
+    StoredOffer stored;
+};
+
+/// The offers of the store under its own numbers, as far as its lines speak of them.
+struct OfferTable {
+    std::vector<SalesOffer> offers;
+    /// Those of proceeds, numbered here so that their numbers are few and small.
+    std::vector<std::string_view> currencies;
 };
 
 }  // namespace vantrell

@@ -4,12 +4,19 @@
 #include "base/Instant.h"
 #include "data/ReportFrequency.h"
 #include "figures/ProductKind.h"
-#include "figures/RowID.h"
 
+#include <compare>
 #include <cstdint>
 #include <string_view>
 
 namespace vantrell {
+
+/// Identifies a row of one snapshot. No two rows of any two reloads share one.
+struct RowID {
+    std::int64_t load = 0;  ///< the reload that made the row
+    std::uint64_t index = 0;
+    auto operator<=>(const RowID&) const = default;
+};
 
 /// One stored sales line as the figures see it. Texts are valid as long as the snapshot that gave the row.
 struct SalesRowLite {

@@ -1,22 +1,23 @@
 #pragma once
 
 #include "figures/AggregateStats.h"
+#include "figures/AppFilter.h"
 #include "figures/OfferSums.h"
-#include "figures/SalesSnapshot.h"
+#include "figures/Snapshot.h"
 
-#include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 #include <utility>
 #include <vector>
 
 namespace vantrell {
 
-/// Lines of a snapshot, in its order; valid until the snapshot's next load. Nothing is copied.
+/// Lines of a snapshot, in its order. Nothing is copied.
 class SalesSelection {
   public:
-    SalesSelection(const SalesSnapshot& snapshot, std::vector<SalesSnapshot::Span> spans, OfferMask mask)
-        : snapshot_(&snapshot), spans_(std::move(spans)), mask_(std::move(mask)) {}
+    SalesSelection(SharedSnapshot snapshot, std::vector<SalesRows::Span> spans, OfferMask mask)
+        : snapshot_(std::move(snapshot)), spans_(std::move(spans)), mask_(std::move(mask)) {}
 
     /// Calls `visit` with the number of each report's chunk.
     template <typename Visit>
@@ -32,7 +33,7 @@ class SalesSelection {
     template <typename Visit>
     void forEach(Visit visit) const {
         forEachReport([&](std::size_t chunk) {
-            const SalesChunk& lines = *snapshot_->chunks()[chunk];
+            const SalesChunk& lines = report(chunk);
             for (std::size_t row = 0; row < lines.size(); ++row) {
                 if (passes(lines.offers[row])) {
                     visit(lines, row);
@@ -46,7 +47,7 @@ class SalesSelection {
     /// a chunk, or nothing for one that is left out; a section ends where another one begins.
     template <typename SectionOf, typename Visit>
     void forEachSection(SectionOf sectionOf, Visit visit) const {
-        OfferSums sums(snapshot_->offers());
+        OfferSums sums(snapshot_->salesRows.offers());
         decltype(sectionOf(std::size_t{})) section;
         const auto finishSection = [&] {
             if (section) {
@@ -59,7 +60,7 @@ class SalesSelection {
                 section = std::move(next);
             }
             if (section) {
-                sums.add(*snapshot_->chunks()[chunk]);
+                sums.add(report(chunk));
             }
         });
         finishSection();
@@ -80,10 +81,13 @@ class SalesSelection {
     friend void forEachShared(std::span<const SalesSelection> selections, Visit visit);
     friend std::vector<AggregateStats> aggregates(std::span<const SalesSelection> selections);
 
-    [[nodiscard]] bool passes(std::uint32_t offer) const { return !mask_ || (*mask_)[offer]; }
+    [[nodiscard]] const SalesChunk& report(std::size_t chunk) const {
+        return *snapshot_->salesRows.chunks()[chunk];
+    }
+    [[nodiscard]] bool passes(OfferID offer) const { return !mask_ || (*mask_)[offer]; }
 
-    const SalesSnapshot* snapshot_;
-    std::vector<SalesSnapshot::Span> spans_;
+    SharedSnapshot snapshot_;
+    std::vector<SalesRows::Span> spans_;
     OfferMask mask_;
 };
 
@@ -98,7 +102,7 @@ using SelectionSet = unsigned;
 template <typename Visit>
 void forEachShared(std::span<const SalesSelection> selections, Visit visit) {
     const SalesSelection& any = selections.front();
-    SalesSelection(*any.snapshot_, {{0, any.snapshot_->chunks().size()}}, any.mask_)
+    SalesSelection(any.snapshot_, {{0, any.snapshot_->salesRows.chunks().size()}}, any.mask_)
         .forEachSection(
             [selections](std::size_t chunk) {
                 const SelectionSet containing = selectionsOf(chunk, selections);
@@ -109,5 +113,27 @@ void forEachShared(std::span<const SalesSelection> selections, Visit visit) {
 
 /// `SalesSelection::aggregate` of each, for selections as above.
 [[nodiscard]] std::vector<AggregateStats> aggregates(std::span<const SalesSelection> selections);
+
+// App Store reports overlap: the same sale stands in a daily, a monthly and a yearly report. No figure ever
+// mixes two frequencies for the same stretch of time:
+//
+//     a range of days, chart days, day table        daily reports in the range
+//     windows of tables                             daily reports since their first day
+//     a finished month                              the monthly report
+//     a year with an ok yearly report               the yearly report
+//     a later year                                  its daily reports
+//     all time                                      all yearly reports, and the daily ones of the years
+//                                                   after the newest ok yearly report
+//     anything                                      never weekly reports
+
+/// Daily rows with a report date from `from` to `to`, both included, each bound only if given.
+[[nodiscard]] SalesSelection dailyRows(const SharedSnapshot& snapshot, const std::optional<std::string>& from,
+                                       const std::optional<std::string>& to, const AppFilter& apps);
+/// Those of the years that have no yearly report.
+[[nodiscard]] SalesSelection laterDailyRows(const SharedSnapshot& snapshot, const AppFilter& apps);
+[[nodiscard]] SalesSelection allTimeRows(const SharedSnapshot& snapshot, const AppFilter& apps);
+/// Rows of one monthly or yearly report.
+[[nodiscard]] SalesSelection reportRows(const SharedSnapshot& snapshot, ReportFrequency frequency,
+                                        const std::string& reportDate, const AppFilter& apps);
 
 }  // namespace vantrell

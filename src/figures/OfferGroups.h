@@ -38,7 +38,7 @@ class OfferGroups {
     /// The identifiers of the groups in ascending order. A group's number is its place here.
     [[nodiscard]] const std::vector<std::int64_t>& ids() const { return ids_; }
     /// The number of an offer's group, or `none`.
-    [[nodiscard]] std::uint32_t ofOffer(std::uint32_t offer) const { return byOffer_[offer]; }
+    [[nodiscard]] std::uint32_t ofOffer(OfferID offer) const { return byOffer_[offer]; }
     /// `none` for an identifier that no offer has.
     [[nodiscard]] std::uint32_t number(std::int64_t id) const {
         const auto place = std::ranges::lower_bound(ids_, id);

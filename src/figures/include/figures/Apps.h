@@ -1,7 +1,9 @@
 #pragma once
 
+#include "calendar/ReportCalendar.h"
+#include "currency/CurrencyConverter.h"
 #include "figures/AggregateStats.h"
-#include "figures/Catalog.h"
+#include "figures/Snapshot.h"
 
 #include <cstdint>
 #include <map>
@@ -21,27 +23,22 @@ struct AppTableEntry {
     bool operator==(const AppTableEntry&) const = default;
 };
 
-/// One product of an app, or the app's own paid downloads.
-struct ProductWindowStat {
-    std::int64_t productID = 0;
-    std::int64_t appID = 0;
-    std::string title;
-    bool isAppPurchases = false;  ///< paid downloads of the app itself
-    AggregateStats last30;        ///< windows and sort value as above
-    AggregateStats last365;
-    AggregateStats ytd;
-    AggregateStats allTime;
-    double sortValue = 0;
-    bool operator==(const ProductWindowStat&) const = default;
-};
-
-using ProductWindows = std::map<std::int64_t, std::vector<ProductWindowStat>>;  ///< by app
-
 /// What each app earned in each year, in the display currency.
 struct YearMatrix {
     std::vector<std::string> years;  ///< those in which some line was worth something, ascending
     std::map<std::int64_t, std::map<std::string, double, std::less<>>> byApp;
     bool operator==(const YearMatrix&) const = default;
 };
+
+/// Every app of the catalog, also those without figures. The largest stands first; equals stay in the order
+/// of the catalog.
+[[nodiscard]] std::vector<AppTableEntry> appTable(const SharedSnapshot& snapshot,
+                                                  const CurrencyConverter& converter,
+                                                  const ReportCalendar& calendar);
+/// What each app earned in each year, by the frequencies of all time.
+[[nodiscard]] YearMatrix yearMatrix(const SharedSnapshot& snapshot, const CurrencyConverter& converter);
+/// The apps by what they earned in all time, largest first and equals by identifier.
+[[nodiscard]] std::vector<std::int64_t> rankedApps(const SharedSnapshot& snapshot,
+                                                   const CurrencyConverter& converter);
 
 }  // namespace vantrell

@@ -1,7 +1,12 @@
 #pragma once
 
 #include "base/Instant.h"
+#include "currency/CurrencyConverter.h"
 #include "data/ReportStatus.h"
+#include "figures/AppFilter.h"
+#include "figures/Periods.h"
+#include "figures/Snapshot.h"
+#include "locale/Locale.h"
 
 #include <cstdint>
 #include <map>
@@ -56,5 +61,22 @@ struct Trend {
 /// One status for several days: the best of ok, empty and pending that any of them has, else that of the
 /// first; `missing` for none.
 [[nodiscard]] ReportStatus combinedStatus(const std::vector<ReportStatus>& statuses);
+
+/// The days from `from` to `to` cut into buckets; none if a key is no date or `from` is the later one.
+[[nodiscard]] TrendBuckets trendBuckets(const Snapshot& snapshot, const Locale& locale,
+                                        const std::string& from, const std::string& to,
+                                        TrendGranularity granularity);
+/// The bucket that begins with `start`, for the user.
+[[nodiscard]] std::string bucketLabel(const Locale& locale, CivilDate start, TrendGranularity granularity);
+/// Each bucket's figures with a note on how many of its days were fetched, newest first.
+[[nodiscard]] std::vector<PeriodStat> bucketStats(const SharedSnapshot& snapshot, const Locale& locale,
+                                                  const std::string& from, const std::string& to,
+                                                  TrendGranularity granularity, const AppFilter& apps);
+/// Each bucket split by app. The eight apps that earned most in all time have a colour, which thus depends on
+/// neither range nor filter. Without a filter what belongs to no app with a colour falls under "Other"; with
+/// one every app of the filter stands by itself. Lines without a rate are left out.
+[[nodiscard]] Trend trend(const SharedSnapshot& snapshot, const CurrencyConverter& converter,
+                          const Locale& locale, const std::string& from, const std::string& to,
+                          TrendGranularity granularity, const AppFilter& apps);
 
 }  // namespace vantrell

@@ -1,7 +1,10 @@
+#include "figures/Trends.h"
+
 #include "ChartSums.h"
+#include "StatsAccumulator.h"
 #include "calendar/DayKey.h"
-#include "figures/EarningsStore.h"
-#include "figures/OfferGroups.h"
+#include "figures/Apps.h"
+#include "figures/SalesSelection.h"
 
 #include <algorithm>
 #include <iterator>
@@ -9,8 +12,6 @@
 #include <set>
 #include <string_view>
 #include <utility>
-
-// Figures by day, week or month, and who earned them.
 
 namespace vantrell {
 namespace {
@@ -76,25 +77,26 @@ std::optional<CivilDate> bucketOf(const TrendBuckets& buckets, std::string_view 
     return start == buckets.startByDay.end() ? std::nullopt : std::optional(start->second);
 }
 
-CellsByStart trendCells(const EarningsStore& store, const SalesSelection& rows, const TrendBuckets& buckets,
+CellsByStart trendCells(const Snapshot& snapshot, const CurrencyConverter& converter,
+                        const SalesSelection& selection, const TrendBuckets& buckets,
                         const TrendSeries& series) {
-    const SalesSnapshot& snapshot = store.salesRows();
-    const OfferGroups groups(snapshot.offers(), [&](const SalesOffer& offer) {
-        return isSold(offer.kind) ? std::optional(series.of(store.catalog().owningApp(offer.appleID)))
-                                  : std::nullopt;
+    const SalesRows& rows = snapshot.salesRows;
+    const OfferGroups groups(rows.offers(), [&](const SalesOffer& offer) {
+        return isSold(offer.kind)
+                   ? std::optional(series.of(snapshot.catalog->owningApp(offer.stored.appleID)))
+                   : std::nullopt;
     });
-    ChartSums sums(groups, snapshot.currencies(), store.converter());
+    ChartSums sums(groups, rows.currencies(), converter);
     CellsByStart cells;
-    rows.forEachSection(
-        [&](std::size_t chunk) { return bucketOf(buckets, snapshot.chunks()[chunk]->reportDate); },
-        [&](CivilDate start, const std::vector<OfferSum>& lines) {
-            const auto amounts = sums.amounts(lines);
-            for (std::size_t group = 0; group < amounts.size(); ++group) {
-                if (amounts[group] && !amounts[group]->isZero()) {
-                    cells[start].emplace(groups.ids()[group], *amounts[group]);
-                }
-            }
-        });
+    selection.forEachSection([&](std::size_t chunk) { return bucketOf(buckets, *rows.reportDate(chunk)); },
+                             [&](CivilDate start, const std::vector<OfferSum>& lines) {
+                                 const auto amounts = sums.amounts(lines);
+                                 for (std::size_t group = 0; group < amounts.size(); ++group) {
+                                     if (amounts[group] && !amounts[group]->isZero()) {
+                                         cells[start].emplace(groups.ids()[group], *amounts[group]);
+                                     }
+                                 }
+                             });
     return cells;
 }
 
@@ -118,81 +120,91 @@ std::vector<TrendSlice> slices(const Cells& cells, const std::map<std::size_t, T
 
 }  // namespace
 
-TrendBuckets EarningsStore::trendBuckets(const std::string& from, const std::string& to,
-                                         TrendGranularity granularity) const {
+CivilDate trendPeriodStart(CivilDate day, TrendGranularity granularity, std::chrono::weekday firstWeekday) {
+    using std::chrono::sys_days;
+    switch (granularity) {
+        case TrendGranularity::day:
+            break;
+        case TrendGranularity::week:
+            return sys_days(day) - (std::chrono::weekday(sys_days(day)) - firstWeekday);
+        case TrendGranularity::month:
+            return day.year() / day.month() / 1;
+    }
+    return day;
+}
+
+ReportStatus combinedStatus(const std::vector<ReportStatus>& statuses) {
+    using enum ReportStatus;
+    for (const ReportStatus status : {ok, empty, pending}) {
+        if (std::ranges::find(statuses, status) != statuses.end()) {
+            return status;
+        }
+    }
+    return statuses.empty() ? missing : statuses.front();
+}
+
+TrendBuckets trendBuckets(const Snapshot& snapshot, const Locale& locale, const std::string& from,
+                          const std::string& to, TrendGranularity granularity) {
     TrendBuckets buckets;
     for (const auto& [key, day] : days(from, to)) {
-        const CivilDate start = trendPeriodStart(day, granularity, locale_.firstWeekday());
+        const CivilDate start = trendPeriodStart(day, granularity, locale.firstWeekday());
         if (buckets.starts.empty() || buckets.starts.back() != start) {
             buckets.starts.push_back(start);
         }
         buckets.startByDay.emplace(key, start);
-        buckets.statuses[start].push_back(dailyStatus(key));
+        buckets.statuses[start].push_back(snapshot.dailyStatus(key));
     }
     return buckets;
 }
 
-std::string EarningsStore::bucketLabel(CivilDate start, TrendGranularity granularity) const {
+std::string bucketLabel(const Locale& locale, CivilDate start, TrendGranularity granularity) {
     constexpr auto otherDays = std::chrono::days(6);
     switch (granularity) {
         case TrendGranularity::day:
             break;
         case TrendGranularity::week: {
-            const auto first = trendPeriodStart(start, granularity, locale_.firstWeekday());
-            return locale_.dayRange(first, std::chrono::sys_days(first) + otherDays);
+            const auto first = trendPeriodStart(start, granularity, locale.firstWeekday());
+            return locale.dayRange(first, std::chrono::sys_days(first) + otherDays);
         }
         case TrendGranularity::month:
-            return locale_.monthYear(start);
+            return locale.monthYear(start);
     }
-    return locale_.weekdayMonthDay(start);
+    return locale.weekdayMonthDay(start);
 }
 
-std::vector<PeriodStat> EarningsStore::bucketStats(const std::string& from, const std::string& to,
-                                                   TrendGranularity granularity,
-                                                   const AppFilter& apps) const {
-    const TrendBuckets buckets = trendBuckets(from, to, granularity);
+std::vector<PeriodStat> bucketStats(const SharedSnapshot& snapshot, const Locale& locale,
+                                    const std::string& from, const std::string& to,
+                                    TrendGranularity granularity, const AppFilter& apps) {
+    const TrendBuckets buckets = trendBuckets(*snapshot, locale, from, to, granularity);
+    const SalesRows& rows = snapshot->salesRows;
     std::map<CivilDate, StatsAccumulator> sums;
-    dailyRows(from, to, apps)
+    dailyRows(snapshot, from, to, apps)
         .forEachSection(
-            [&](std::size_t chunk) { return bucketOf(buckets, *reportDate(chunk)); },
+            [&](std::size_t chunk) { return bucketOf(buckets, *rows.reportDate(chunk)); },
             [&sums](CivilDate start, const std::vector<OfferSum>& lines) { sums[start].add(lines); });
     std::vector<PeriodStat> stats;
     stats.reserve(buckets.starts.size());
     for (const auto& [start, statuses] : buckets.statuses) {
-        stats.push_back({bucketLabel(start, granularity), fetchedNote(statuses),
-                         sums[start].stats(salesRows_.currencies())});
+        stats.push_back({bucketLabel(locale, start, granularity), fetchedNote(statuses),
+                         sums[start].stats(rows.currencies())});
     }
     std::ranges::reverse(stats);
     return stats;
 }
 
-std::vector<std::int64_t> EarningsStore::rankedApps() const {
-    const OfferGroups owners = ownersOfSold();
-    ChartSums sums(owners, salesRows_.currencies(), converter_);
-    const auto amounts = sums.amounts(allTimeRows({}).sums());
-    std::vector<std::pair<double, std::int64_t>> ranking;
-    for (std::size_t owner = 0; owner < amounts.size(); ++owner) {
-        if (amounts[owner]) {
-            ranking.emplace_back(amounts[owner]->total(), owners.ids()[owner]);
-        }
-    }
-    std::ranges::stable_sort(ranking, std::ranges::greater(), &std::pair<double, std::int64_t>::first);
-    std::vector<std::int64_t> apps;
-    std::ranges::copy(ranking | std::views::values, std::back_inserter(apps));
-    return apps;
-}
-
-Trend EarningsStore::trend(const std::string& from, const std::string& to, TrendGranularity granularity,
-                           const AppFilter& apps) const {
-    const TrendBuckets buckets = trendBuckets(from, to, granularity);
+Trend trend(const SharedSnapshot& snapshot, const CurrencyConverter& converter, const Locale& locale,
+            const std::string& from, const std::string& to, TrendGranularity granularity,
+            const AppFilter& apps) {
+    const TrendBuckets buckets = trendBuckets(*snapshot, locale, from, to, granularity);
     if (buckets.starts.empty()) {
         return {};
     }
-    const TrendSeries series(rankedApps(), apps);
-    CellsByStart cells = trendCells(*this, dailyRows(from, to, apps), buckets, series);
+    const TrendSeries series(rankedApps(snapshot, converter), apps);
+    CellsByStart cells =
+        trendCells(*snapshot, converter, dailyRows(snapshot, from, to, apps), buckets, series);
     std::map<std::size_t, TrendLegendItem> legend;
     for (const std::size_t used : seriesInUse(cells)) {
-        legend.emplace(used, series.legend(used, catalog_));
+        legend.emplace(used, series.legend(used, *snapshot->catalog));
     }
     Trend trend;
     std::ranges::copy(legend | std::views::values, std::back_inserter(trend.legend));

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "Count.h"
 #include "figures/AggregateStats.h"
-#include "figures/Count.h"
 #include "figures/ExactSum.h"
 #include "figures/OfferSums.h"
 #include "figures/ProductKind.h"
-#include "figures/TextPool.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 namespace vantrell {
@@ -44,11 +44,11 @@ class StatsAccumulator {
         }
     }
 
-    /// Adds all that another one has counted, whose currencies are of the same pool.
+    /// Adds all that another one has counted, whose currencies are numbered alike.
     void add(const StatsAccumulator& other);
 
-    /// The pool is that of the offers' currencies.
-    [[nodiscard]] AggregateStats stats(const TextPool& currencies) const;
+    /// The currencies are those of the offers.
+    [[nodiscard]] AggregateStats stats(const std::vector<std::string_view>& currencies) const;
 
   private:
     [[nodiscard]] std::int64_t sold(ProductKind kind) const {

@@ -1,13 +1,12 @@
+#include "figures/Payouts.h"
+
+#include "Count.h"
 #include "calendar/FiscalPeriod.h"
-#include "figures/Count.h"
-#include "figures/EarningsStore.h"
 
 #include <algorithm>
 #include <map>
 #include <string_view>
 #include <utility>
-
-// Figures from finance reports: what was paid.
 
 namespace vantrell {
 namespace {
@@ -41,11 +40,13 @@ std::string fiscalYear(std::string_view period) {
 
 }  // namespace
 
-std::vector<FinancePeriodStat> EarningsStore::financePeriods(const AppFilter& apps) const {
+std::vector<FinancePeriodStat> financePeriods(const Snapshot& snapshot, const AppFilter& apps) {
     std::map<std::string_view, FinancePeriodStat, std::greater<>> periods;
-    for (const FinanceRowLite& row : financeRows()) {
-        if (!apps || passes(row.appleID, *apps)) {
-            addPayment(periods[row.fiscalPeriod], row);
+    for (const auto& report : snapshot.financeRows) {
+        for (const FinanceRowLite& row : report->rows) {
+            if (!apps || snapshot.catalog->isOf(row.appleID, *apps)) {
+                addPayment(periods[report->fiscalPeriod], row);
+            }
         }
     }
     std::vector<FinancePeriodStat> stats;
@@ -57,28 +58,27 @@ std::vector<FinancePeriodStat> EarningsStore::financePeriods(const AppFilter& ap
     return stats;
 }
 
-std::vector<AppPayout> EarningsStore::appPayouts() const {
+std::vector<AppPayout> appPayouts(const Snapshot& snapshot, const ReportCalendar& calendar) {
+    const auto& finished = snapshot.financeOKLabels;
     const std::string currentYear =
-        fiscalYear(financeOKLabels_.empty() ? calendar_.currentFiscalPeriod() : financeOKLabels_.back());
+        fiscalYear(finished.empty() ? calendar.currentFiscalPeriod() : finished.back());
     std::map<std::int64_t, AppPayout> payouts;
-    std::map<std::string_view, bool> isCurrent;
-    for (const FinanceRowLite& row : financeRows()) {
-        const auto owner = catalog_.owningApp(row.appleID);
-        if (!owner) {
-            continue;
-        }
-        const auto [period, isNew] = isCurrent.try_emplace(row.fiscalPeriod);
-        if (isNew) {
-            period->second = fiscalYear(row.fiscalPeriod) == currentYear;
-        }
-        AppPayout& payout = payouts[*owner];
-        amountIn(payout.allTime, row.currency) += row.extendedShare;
-        if (period->second) {
-            amountIn(payout.currentFiscalYear, row.currency) += row.extendedShare;
+    for (const auto& report : snapshot.financeRows) {
+        const bool isCurrent = fiscalYear(report->fiscalPeriod) == currentYear;
+        for (const FinanceRowLite& row : report->rows) {
+            const auto owner = snapshot.catalog->owningApp(row.appleID);
+            if (!owner) {
+                continue;
+            }
+            AppPayout& payout = payouts[*owner];
+            amountIn(payout.allTime, row.currency) += row.extendedShare;
+            if (isCurrent) {
+                amountIn(payout.currentFiscalYear, row.currency) += row.extendedShare;
+            }
         }
     }
     std::vector<AppPayout> inOrder;
-    for (const AppInfo& app : catalog_.apps()) {
+    for (const AppInfo& app : snapshot.catalog->apps()) {
         if (const auto payout = payouts.find(app.id); payout != payouts.end()) {
             payout->second.app = app;
             inOrder.push_back(std::move(payout->second));

@@ -1,14 +1,14 @@
+#include "figures/Days.h"
+
 #include "ChartSums.h"
+#include "StatsAccumulator.h"
 #include "calendar/DayKey.h"
-#include "figures/EarningsStore.h"
-#include "figures/StatsAccumulator.h"
+#include "figures/SalesSelection.h"
 
 #include <algorithm>
 #include <map>
 #include <string_view>
 #include <utility>
-
-// Figures by day.
 
 namespace vantrell {
 namespace {
@@ -30,15 +30,16 @@ std::pair<bool, double> lineItemRank(const CurrencyConverter& converter, const S
 
 }  // namespace
 
-std::vector<DayPoint> EarningsStore::dayPoints(const std::string& from, const std::string& to,
-                                               const AppFilter& apps) const {
-    const OfferGroups sold(salesRows_.offers(), [](const SalesOffer& offer) {
+std::vector<DayPoint> dayPoints(const SharedSnapshot& snapshot, const CurrencyConverter& converter,
+                                const std::string& from, const std::string& to, const AppFilter& apps) {
+    const SalesRows& rows = snapshot->salesRows;
+    const OfferGroups sold(rows.offers(), [](const SalesOffer& offer) {
         return isSold(offer.kind) ? std::optional(0) : std::nullopt;
     });
-    ChartSums sums(sold, salesRows_.currencies(), converter_);
+    ChartSums sums(sold, rows.currencies(), converter);
     std::map<std::string_view, SignedAmounts> amounts;
-    dailyRows(from, to, apps)
-        .forEachSection([this](std::size_t chunk) { return reportDate(chunk); },
+    dailyRows(snapshot, from, to, apps)
+        .forEachSection([&rows](std::size_t chunk) { return rows.reportDate(chunk); },
                         [&](std::string_view day, const std::vector<OfferSum>& lines) {
                             for (const auto& amount : sums.amounts(lines)) {
                                 amounts[day] = amount.value_or(SignedAmounts());
@@ -47,38 +48,36 @@ std::vector<DayPoint> EarningsStore::dayPoints(const std::string& from, const st
     std::vector<DayPoint> points;
     for (const auto& [key, date] : days(from, to)) {
         const SignedAmounts amount = amounts[key];
-        points.push_back({date, amount.proceeds, amount.refunds, dailyStatus(key)});
+        points.push_back({date, amount.proceeds, amount.refunds, snapshot->dailyStatus(key)});
     }
     return points;
 }
 
-std::vector<DayTableRow> EarningsStore::dayTable(const std::string& from, const std::string& to,
-                                                 const AppFilter& apps) const {
+std::vector<DayTableRow> dayTable(const SharedSnapshot& snapshot, const std::string& from,
+                                  const std::string& to, const AppFilter& apps) {
+    const SalesRows& rows = snapshot->salesRows;
     std::map<std::string_view, StatsAccumulator> sums;
-    dailyRows(from, to, apps)
+    dailyRows(snapshot, from, to, apps)
         .forEachSection(
-            [this](std::size_t chunk) { return reportDate(chunk); },
+            [&rows](std::size_t chunk) { return rows.reportDate(chunk); },
             [&sums](std::string_view day, const std::vector<OfferSum>& lines) { sums[day].add(lines); });
     std::vector<DayTableRow> table;
     for (const auto& [key, date] : days(from, to)) {
         const auto sum = sums.find(key);
-        table.push_back({key, date, dailyStatus(key),
-                         sum == sums.end() ? AggregateStats() : sum->second.stats(salesRows_.currencies())});
+        table.push_back({key, date, snapshot->dailyStatus(key),
+                         sum == sums.end() ? AggregateStats() : sum->second.stats(rows.currencies())});
     }
     std::ranges::reverse(table);
     return table;
 }
 
-bool EarningsStore::lineItemOrder(const SalesRowLite& left, const SalesRowLite& right) const {
-    return lineItemRank(converter_, left) < lineItemRank(converter_, right);
-}
-
-std::vector<SalesRowLite> EarningsStore::lineItems(const std::string& day, const AppFilter& apps) const {
-    const std::vector<SalesRowLite> rows = dailyRows(day, day, apps).rows();
+std::vector<SalesRowLite> lineItems(const SharedSnapshot& snapshot, const CurrencyConverter& converter,
+                                    const std::string& day, const AppFilter& apps) {
+    const std::vector<SalesRowLite> rows = dailyRows(snapshot, day, day, apps).rows();
     std::vector<std::pair<std::pair<bool, double>, const SalesRowLite*>> ranked;
     ranked.reserve(rows.size());
     for (const SalesRowLite& row : rows) {
-        ranked.emplace_back(lineItemRank(converter_, row), &row);
+        ranked.emplace_back(lineItemRank(converter, row), &row);
     }
     std::ranges::stable_sort(ranked, {}, [](const auto& entry) { return entry.first; });
     std::vector<SalesRowLite> sorted;

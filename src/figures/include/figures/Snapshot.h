@@ -1,0 +1,44 @@
+#pragma once
+
+#include "data/ReportStatus.h"
+#include "figures/Catalog.h"
+#include "figures/FinanceRowLite.h"
+#include "figures/SalesRows.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantrell {
+
+using DailyStatuses = std::map<std::string, ReportStatus, std::less<>>;
+using FinanceChunks = std::vector<std::shared_ptr<const FinanceChunk>>;
+
+/// All that the figures are worked out from, as the store had it at one moment. Only shared, and never
+/// changed once it is, so that a figure holds on to what it was begun with.
+struct Snapshot {
+    SalesRows salesRows;
+    FinanceChunks financeRows;  ///< by fiscal period
+    std::shared_ptr<const Catalog> catalog = std::make_shared<const Catalog>();
+    DailyStatuses dailyStatuses;
+    // Labels in ascending order.
+    std::vector<std::string> yearlyOKLabels;
+    std::vector<std::string> unavailableYears;
+    std::vector<std::string> financeOKLabels;
+
+    /// `missing` for a day of which nothing is known.
+    [[nodiscard]] ReportStatus dailyStatus(std::string_view day) const {
+        const auto known = dailyStatuses.find(day);
+        return known == dailyStatuses.end() ? ReportStatus::missing : known->second;
+    }
+    /// The greatest of `yearlyOKLabels`: what a year must be after to count by its daily reports.
+    [[nodiscard]] std::string_view lastYearlyLabel() const {
+        return yearlyOKLabels.empty() ? std::string_view() : yearlyOKLabels.back();
+    }
+};
+
+using SharedSnapshot = std::shared_ptr<const Snapshot>;
+
+}  // namespace vantrell
