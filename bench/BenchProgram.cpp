@@ -4,26 +4,19 @@
 #include "keys/KeyPair.h"
 
 #include <stdexcept>
+#include <tuple>
+#include <utility>
 
 namespace vantrell::bench {
 namespace {
 
-constexpr const char* origin = "https://bench.example";
-
-void expectOk(ReportStatus status, const std::string& report) {
-    if (status != ReportStatus::ok) {
-        throw std::runtime_error("the report " + report + " was not stored");
+template <typename Request>
+QCoro::Task<> storeReport(Intake& intake, ModelContext& context, Request request) {
+    std::ignore = co_await intake.take(request);
+    const auto stored = Request::records(context).find(request.recordKey());
+    if (!stored || stored->record.status() != ReportStatus::ok) {
+        throw std::runtime_error("the report " + request.logKey() + " was not stored");
     }
-}
-
-QCoro::Task<> storeSales(SyncEngine& engine, ReportFrequency frequency, std::string label) {
-    const ReportStatus status = co_await engine.syncSalesReport(frequency, label, true);
-    expectOk(status, label);
-}
-
-QCoro::Task<> storeFinance(SyncEngine& engine, std::string fiscalPeriod) {
-    const ReportStatus status = co_await engine.syncFinanceReport(fiscalPeriod, true);
-    expectOk(status, fiscalPeriod);
 }
 
 }  // namespace
@@ -42,23 +35,30 @@ BenchProgram::BenchProgram(HttpClient& service, Clock& clock, Worker& worker,
       worker_(worker),
       locale_({"en_US", "en_US", "en_US", "en_US", "en_US"}),
       defaults_(folder / "defaults.json") {
-    CredentialsKeychain(secrets_).store(
-        {"3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15", "7QK2MZ8T5W", generateKeyPair().privatePEM, "60419372"});
+    const APICredentials credentials{"3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15", "7QK2MZ8T5W",
+                                     generateKeyPair().privatePEM, "60419372"};
+    CredentialsKeychain(secrets_).store(credentials);
+    client_.setCredentials(credentials);
     auto started = MyApp::start(parts(), folder / "vantrell.sqlite", {origin, origin, {}});
     if (const auto* failure = std::get_if<StartFailure>(&started)) {
         throw std::runtime_error(failure->text);
     }
     app_ = std::move(std::get<std::unique_ptr<MyApp>>(started));
+    intake_.emplace(IntakeParts{context(), service_, clock_, worker_, client_, origin, {}, [] {}});
+}
+
+QCoro::Task<> BenchProgram::fetchSales(ReportFrequency frequency, std::string label) {
+    return storeReport(*intake_, context(), SalesReportRequest{frequency, std::move(label)});
 }
 
 // Service, clock and worker answer at once, so that each of these has ended when it returns.
 
 void BenchProgram::syncSales(ReportFrequency frequency, const std::string& label) {
-    app_->tasks().spawn(storeSales(app_->engine(), frequency, label));
+    app_->tasks().spawn(fetchSales(frequency, label));
 }
 
 void BenchProgram::syncFinance(const std::string& fiscalPeriod) {
-    app_->tasks().spawn(storeFinance(app_->engine(), fiscalPeriod));
+    app_->tasks().spawn(storeReport(*intake_, context(), FinanceReportRequest{fiscalPeriod}));
 }
 
 void BenchProgram::fetchRates() {

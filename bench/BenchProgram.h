@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Intake.h"
 #include "MemoryService.h"
 #include "base/SystemClock.h"
 #include "core/MyApp.h"
@@ -9,6 +10,8 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
+#include <string>
 
 namespace vantrell::bench {
 
@@ -41,6 +44,8 @@ class UtcTime final : public LocalTime {
     TimeZone zone_ = TimeZone::named("UTC").value();
 };
 
+inline constexpr const char* origin = "https://bench.example";
+
 /// The program over a store file, put together as the product is, with a service that answers from memory.
 class BenchProgram {
   public:
@@ -58,6 +63,7 @@ class BenchProgram {
     [[nodiscard]] const Locale& locale() const { return locale_; }
 
     /// From the request to the save. Throws std::runtime_error unless the report ends as ok.
+    [[nodiscard]] QCoro::Task<> fetchSales(ReportFrequency frequency, std::string label);
     void syncSales(ReportFrequency frequency, const std::string& label);
     void syncFinance(const std::string& fiscalPeriod);
     void fetchRates();
@@ -72,7 +78,9 @@ class BenchProgram {
     Locale locale_;
     MemorySecretStore secrets_;
     JsonDefaults defaults_;
+    ASCClient client_{service_, clock_, origin};
     std::unique_ptr<MyApp> app_;
+    std::optional<Intake> intake_;
 };
 
 }  // namespace vantrell::bench

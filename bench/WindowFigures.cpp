@@ -118,14 +118,15 @@ double openingOfDay(AppWindows& windows, EarningsStore& store) {
 }
 
 // Days, months, and the long reports of years.
-QCoro::Task<> fetchAgain(SyncEngine& engine, std::vector<std::string> months,
+QCoro::Task<> fetchAgain(BenchProgram& program, std::vector<std::string> months,
                          std::vector<std::string> years) {
     for (const std::string& month : months) {
-        co_await engine.refetchMonth(month);
+        co_await program.app().engine().refetchMonth(month);
     }
     for (const std::string& year : years) {
-        co_await engine.syncSalesReport(ReportFrequency::yearly, year, true);
-        engine.bumpRevision(true);
+        co_await program.fetchSales(ReportFrequency::yearly, year);
+        // Tells the window as well.
+        co_await program.app().engine().refreshRates(true);
     }
 }
 
@@ -138,7 +139,7 @@ double longestStallOfRefetch(AppWindows& windows, BenchProgram& program) {
     const ReportCalendar& calendar = program.store().calendar();
     TaskScope& tasks = program.app().tasks();
     const Heartbeat heartbeat;
-    tasks.spawn(fetchAgain(program.app().engine(), {calendar.monthKey(1), calendar.monthKey(2)},
+    tasks.spawn(fetchAgain(program, {calendar.monthKey(1), calendar.monthKey(2)},
                            program.store().snapshot()->yearlyOKLabels));
     waitUntil([&] { return tasks.pending() == openEnded; });
     return heartbeat.longestStall();

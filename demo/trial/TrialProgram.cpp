@@ -7,8 +7,9 @@
 #include "core/MyApp.h"
 #include "files/InstanceGuard.h"
 #include "screens/StoreNotice.h"
+#include "screens/words/RunWords.h"
 #include "trial/ExportFiles.h"
-#include "trial/RunProgress.h"
+#include "trial/ProgressLines.h"
 #include "trial/RunSummary.h"
 #include "trial/ScreenPictures.h"
 #include "trial/TrialSurroundings.h"
@@ -42,7 +43,7 @@ namespace fs = std::filesystem;
                    [&](const DoMonth& month) { return engine.refetchMonth(month.text); },
                    [&](const DoFinance& finance) { return engine.refetchFinance(finance.period); },
                    [&](const DoRates&) { return engine.refreshRates(true); },
-                   [&](const DoTest&) { return write(engine.testConnection(), output); }},
+                   [&](const DoTest&) { return write(engine.account().testConnection(), output); }},
         operation);
 }
 
@@ -100,8 +101,8 @@ TrialEnd closed(MyApp& app, TrialSurroundings& surroundings, TrialEnd end, std::
 
 TrialEnd told(MyApp& app, TrialSurroundings& surroundings, bool isWritten, std::ostream& errors) {
     TrialEnd end = isWritten ? TrialEnd::done : TrialEnd::notWritten;
-    if (const auto error = app.engine().lastError()) {
-        errors << onOneLine(*error) << std::endl;
+    if (const auto failure = app.engine().lastError()) {
+        errors << onOneLine(runText(failure).toStdString()) << std::endl;
         end = TrialEnd::runFailed;
     }
     return closed(app, surroundings, end, errors);
@@ -117,7 +118,7 @@ TrialEnd runTrial(TrialOptions options, std::ostream& output, std::ostream& erro
         return TrialEnd::noStore;
     }
     MyApp& app = *std::get<std::unique_ptr<MyApp>>(begun);
-    const RunProgress progress(app.engine(), errors);
+    const ProgressLines progress(app.engine(), errors);
     runToTheEnd(app, options.operation, output);
     app.store().reload(app.context());
     if (!std::holds_alternative<DoTest>(options.operation)) {

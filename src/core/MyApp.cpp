@@ -34,8 +34,7 @@ MyApp::MyApp(const MyAppParts& parts, std::unique_ptr<ModelContainer> container,
                .worker = parts.worker,
                .localTime = parts.localTime,
                .secrets = parts.secrets,
-               .defaults = parts.defaults,
-               .locale = parts.locale},
+               .defaults = parts.defaults},
               settings),
       store_(parts.defaults, parts.locale, calendar_) {}
 

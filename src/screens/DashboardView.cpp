@@ -4,6 +4,7 @@
 #include "screens/HeadlineFigures.h"
 #include "screens/components/ShownText.h"
 #include "screens/components/StatTile.h"
+#include "screens/words/RunWords.h"
 
 namespace vantrell {
 
@@ -14,14 +15,14 @@ DashboardView::DashboardView(const ScreenParts& parts, QObject* parent)
       chart_({parts.store, parts.locale}, tr("Last 30 days")) {
     chart_.setOnSelectDay([this](const std::string& key) { selectedDay_.open(key, store().appFilter()); });
     connect(&engine(), &SyncEngine::lastErrorChanged, this, &DashboardView::errorChanged);
-    connect(&engine(), &SyncEngine::hasCredentialsChanged, this, &DashboardView::canFetchChanged);
+    connect(&engine().account(), &Account::hasCredentialsChanged, this, &DashboardView::canFetchChanged);
     connect(&engine(), &SyncEngine::isSyncingChanged, this, &DashboardView::refreshEmptiness);
     connect(&parts.context.health(), &StoreHealth::changed, this, &DashboardView::isEmptyChanged);
     connect(&parts.context.health(), &StoreHealth::changed, this, &DashboardView::canFetchChanged);
 }
 
 QString DashboardView::error() const {
-    return shownText(engine().lastError().value_or(""));
+    return shownText(runText(engine().lastError()).toStdString());
 }
 
 EmptyState DashboardView::emptyState() const {

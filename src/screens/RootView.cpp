@@ -2,6 +2,7 @@
 
 #include "screens/StoreNotice.h"
 #include "screens/components/ShownText.h"
+#include "screens/words/RunWords.h"
 
 #include <algorithm>
 #include <utility>
@@ -29,17 +30,17 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
     // The selected screen shows its figures first; the others are built after that.
     connect(&parts.store, &EarningsStore::isLoadedChanged, this, &RootView::hasFiguresChanged,
             Qt::QueuedConnection);
-    connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &RootView::hasCredentialsChanged);
+    connect(&parts.engine.account(), &Account::hasCredentialsChanged, this, &RootView::hasCredentialsChanged);
     // A key that was told late is due what one that was there from the start gets at once.
-    connect(&parts.engine, &SyncEngine::credentialsProblemChanged, this, &RootView::becomeActive);
+    connect(&parts.engine.account(), &Account::problemChanged, this, &RootView::becomeActive);
     connect(this, &RootView::hasCredentialsChanged, this, &RootView::shownScreenChanged);
     connect(this, &RootView::selectionChanged, this, &RootView::shownScreenChanged);
     connect(this, &RootView::shownScreenChanged, this, &RootView::screenTitleChanged);
     connect(&apps_, &AppsView::opened, this, &RootView::openApp);
     connect(&settings_, &SettingsView::isLogShownChanged, this, &RootView::screenTitleChanged);
     connect(&parts.engine, &SyncEngine::isSyncingChanged, this, &RootView::footerChanged);
-    connect(&parts.engine, &SyncEngine::progressTextChanged, this, &RootView::footerChanged);
-    connect(&parts.engine, &SyncEngine::lastRunSummaryChanged, this, &RootView::footerChanged);
+    connect(&parts.engine, &SyncEngine::progressChanged, this, &RootView::footerChanged);
+    connect(&parts.engine, &SyncEngine::lastRunChanged, this, &RootView::footerChanged);
     connect(&parts.context.health(), &StoreHealth::changed, this, &RootView::storeNoticeChanged);
 }
 
@@ -116,11 +117,10 @@ QString RootView::backSymbol() const {
 
 QString RootView::footer() const {
     const SyncEngine& engine = parts_.engine;
-    if (!engine.isSyncing()) {
-        return shownText(engine.lastRunSummary());
-    }
-    const std::string progress = engine.progressText();
-    return progress.empty() ? tr("Syncing…") : shownText(progress);
+    const QString text = engine.isSyncing()
+                             ? runText(engine.progress())
+                             : runText(engine.lastRun(), parts_.locale, parts_.localTime.zone());
+    return shownText(text.toStdString());
 }
 
 QString RootView::storeNotice() const {

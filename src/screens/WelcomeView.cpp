@@ -27,8 +27,8 @@ WelcomeView::WelcomeView(const ScreenParts& parts, QObject* parent)
             "Purchase key won't work here.)"),
          tr("Copy the **Key ID** and **Issuer ID**, and your **vendor number** from Payments and Financial "
             "Reports.")}));
-    connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &WelcomeView::appear);
-    connect(&parts.engine, &SyncEngine::credentialsProblemChanged, this, &WelcomeView::problemChanged);
+    connect(&parts.engine.account(), &Account::hasCredentialsChanged, this, &WelcomeView::appear);
+    connect(&parts.engine.account(), &Account::problemChanged, this, &WelcomeView::problemChanged);
     appear();
 }
 
@@ -39,7 +39,7 @@ QString WelcomeView::introduction() const {
 }
 
 QString WelcomeView::problem() const {
-    const auto& problem = parts_.engine.credentialsProblem();
+    const auto& problem = parts_.engine.account().problem();
     return problem ? tr("The Keychain could not be read: ") + shownText(*problem) : QString();
 }
 

@@ -1,56 +1,148 @@
 #include "sync/SyncEngine.h"
 
+#include "Intake.h"
+#include "RunPlan.h"
 #include "data/StoreCheck.h"
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 namespace vantrell {
 namespace {
 
+constexpr const char* lastAutoSyncKey = "lastAutoSyncAt";
+constexpr auto autoSyncInterval = std::chrono::hours(4);
 constexpr auto longestRevisionWait = std::chrono::seconds(8);
-constexpr std::size_t keptLogEntries = 2000;
 
 }  // namespace
 
-SyncEngine::SyncEngine(const SyncEngineParts& parts, SyncEngineSettings settings)
+SyncEngine::SyncEngine(const SyncEngineParts& parts, const SyncEngineSettings& settings)
     : context_(parts.context),
-      http_(parts.http),
       clock_(parts.clock),
       worker_(parts.worker),
-      localTime_(parts.localTime),
       defaults_(parts.defaults),
-      locale_(parts.locale),
-      settings_(std::move(settings)),
+      pause_(settings.pause),
       calendar_(parts.clock, parts.localTime),
-      keychain_(parts.secrets),
-      client_(parts.http, parts.clock, settings_.reportService) {
-    take(keychain_.load());
-    keychain_.whenLoadedLate([this](LoadedCredentials loaded) {
-        // What was entered meanwhile is newer.
-        if (!hasCredentials_) {
-            take(std::move(loaded));
-            Q_EMIT credentialsProblemChanged();
-        }
+      client_(parts.http, parts.clock, settings.reportService),
+      account_(parts.secrets, client_, calendar_, parts.worker, life_.token()),
+      intake_(std::make_unique<Intake>(IntakeParts{parts.context, parts.http, parts.clock, parts.worker,
+                                                   client_, settings.rateService, life_.token(),
+                                                   [this] { Q_EMIT syncLogChanged(); }})) {}
+
+SyncEngine::~SyncEngine() {
+    close();
+}
+
+QCoro::Task<> SyncEngine::runSync() {
+    return carryOut(RunKind::sync, {ordinarySteps});
+}
+
+QCoro::Task<> SyncEngine::runBackfill() {
+    return carryOut(RunKind::backfill, {backfillSteps});
+}
+
+QCoro::Task<> SyncEngine::runDue() {
+    return hasOkDailyReport() ? runSync() : runBackfill();
+}
+
+QCoro::Task<> SyncEngine::autoSyncIfDue() {
+    if (!hasCredentials() || isSyncing_) {
+        co_return;
+    }
+    const auto last = defaults_.date(lastAutoSyncKey);
+    // A time that lies ahead was noted before the clock was set back.
+    if (last && *last <= clock_.now() && clock_.now() - *last <= autoSyncInterval) {
+        co_return;
+    }
+    co_await autoSync();
+}
+
+QCoro::Task<> SyncEngine::autoSync() {
+    // Noted before the run, so that a run that fails counts as well.
+    if (hasCredentials() && !isSyncing_) {
+        defaults_.setDate(lastAutoSyncKey, clock_.now());
+    }
+    co_await runDue();
+}
+
+QCoro::Task<> SyncEngine::backfillIfEmpty() {
+    if (hasCredentials() && !isSyncing_ && !hasOkDailyReport()) {
+        co_await runBackfill();
+    }
+}
+
+QCoro::Task<> SyncEngine::refetchDay(CivilDate day) {
+    return carryOut(RunKind::refetch, {std::bind_front(dayAgain, day)});
+}
+
+QCoro::Task<> SyncEngine::refetchMonth(std::string text) {
+    if (const auto month = parseYearMonth(text)) {
+        RunPlan plan{std::bind_front(monthAgain, *month, std::move(text))};
+        co_await carryOut(RunKind::refetch, std::move(plan));
+    } else {
+        lastError_ = RunFailure{RunFailure::Kind::noMonth};
+    }
+}
+
+QCoro::Task<> SyncEngine::refetchFinance(std::string fiscalPeriod) {
+    return carryOut(RunKind::refetch, {std::bind_front(financeAgain, std::move(fiscalPeriod))});
+}
+
+QCoro::Task<> SyncEngine::refreshRates(bool force) {
+    if (force || areRatesDue({clock_, calendar_, context_})) {
+        RunStep step{RatesRequest{}};
+        co_await perform(std::move(step));
+    }
+}
+
+bool SyncEngine::hasOkDailyReport() const {
+    return std::ranges::any_of(context_.salesReports().all(), [](const auto& entry) {
+        return entry.second.frequencyRaw == rawText(ReportFrequency::daily) &&
+               entry.second.status() == ReportStatus::ok;
     });
 }
 
-SyncEngine::~SyncEngine() {
-    keychain_.whenLoadedLate({});
-    life_.end();
+QCoro::Task<> SyncEngine::checkStore() {
+    return vantrell::checkStore(context_, worker_, life_.token());
 }
 
-bool SyncEngine::beginRun() {
+void SyncEngine::savePending() {
+    if (!isSyncing_) {
+        intake_->save();
+    }
+}
+
+// The one loop: it alone knows of a stop, of pauses, of what ends a run and of the end of the program. A stop
+// leaves out the reports that are left, and not the rates.
+QCoro::Task<> SyncEngine::carryOut(RunKind kind, RunPlan plan) {
+    if (!begin()) {
+        co_return;
+    }
+    RunSteps steps = plan.steps({clock_, calendar_, context_});
+    for (const RunStep& step : steps) {
+        if (stopRequested_ && step.isReport()) {
+            continue;
+        }
+        if (step.progress) {
+            progress_ = step.progress;
+        }
+        if (step.isDue) {
+            co_await perform(step);
+        }
+        if (isClosing()) {
+            co_return;
+        }
+    }
+    finish(kind);
+}
+
+bool SyncEngine::begin() {
     if (isSyncing_) {
         return false;
     }
-    if (!hasCredentials_) {
-        lastError_ = "Add your App Store Connect key in Settings first.";
-        return false;
-    }
-    if (context_.health().isDamaged()) {
-        lastError_ = "The store is damaged, so nothing is fetched into it.";
+    if (!hasCredentials() || context_.health().isDamaged()) {
+        using enum RunFailure::Kind;
+        lastError_ = RunFailure{hasCredentials() ? damagedStore : noKey};
         return false;
     }
     isSyncing_ = true;
@@ -59,17 +151,36 @@ bool SyncEngine::beginRun() {
     return true;
 }
 
-void SyncEngine::finishRun(std::string_view label) {
-    if (isClosing()) {
-        return;
-    }
-    pruneSyncLog();
-    save();
+void SyncEngine::finish(RunKind kind) {
+    intake_->pruneLog();
+    intake_->save();
     bumpRevision(true);
-    setProgress("", std::nullopt);
-    lastRunSummary_ =
-        std::string(label) + " finished " + locale_.dateAndTime(clock_.now(), localTime_.zone());
+    progress_ = std::nullopt;
+    lastRun_ = FinishedRun{kind, clock_.now()};
     isSyncing_ = false;
+}
+
+// Rates take no turn: neither is their service paused for, nor do the figures wait for them.
+QCoro::Task<> SyncEngine::perform(RunStep step) {
+    if (isClosing()) {
+        co_return;
+    }
+    IntakeResult result = co_await std::visit(
+        [this](auto& request) { return intake_->take(std::move(request)); }, step.request);
+    if (isClosing()) {
+        co_return;
+    }
+    const bool isLimited = result.failure && result.failure->kind == RunFailure::Kind::rateLimited;
+    if (result.failure) {
+        lastError_ = std::move(result.failure);
+        stopRequested_ = true;
+    }
+    if (result.isStored) {
+        bumpRevision(!step.isReport());
+    }
+    if (step.isReport() && !isLimited) {
+        co_await clock_.sleep(pause_, life_.token());
+    }
 }
 
 void SyncEngine::bumpRevision(bool force) {
@@ -79,61 +190,6 @@ void SyncEngine::bumpRevision(bool force) {
     }
     lastRevisionBump_ = now;
     revision_ = revision_.value() + 1;
-}
-
-void SyncEngine::pruneSyncLog() {
-    auto& entries = context_.syncLog();
-    if (entries.all().size() <= keptLogEntries) {
-        return;
-    }
-    std::vector<std::pair<Instant, RecordID>> newestFirst;
-    for (const auto& [id, entry] : entries.all()) {
-        newestFirst.emplace_back(entry.date, id);
-    }
-    std::ranges::sort(newestFirst, std::greater());
-    for (std::size_t index = keptLogEntries; index < newestFirst.size(); ++index) {
-        entries.remove(newestFirst[index].second);
-    }
-    Q_EMIT syncLogChanged();
-}
-
-bool SyncEngine::hasOkDailyReport() const {
-    return std::ranges::any_of(context_.salesReports().all(), [](const auto& entry) {
-        const SalesReport& report = entry.second;
-        return report.frequencyRaw == rawText(ReportFrequency::daily) &&
-               report.statusRaw == rawText(ReportStatus::ok);
-    });
-}
-
-// What can't be saved waits in the context for the next time, and the store's health says why. One report
-// whose lines are refused keeps those it had, and is no reason to keep all others waiting.
-void SyncEngine::save() {
-    for (auto error = context_.save(); error && error->report; error = context_.save()) {
-        noteRejected(*error->report, error->description);
-    }
-}
-
-void SyncEngine::savePending() {
-    if (!isSyncing_) {
-        save();
-    }
-}
-
-QCoro::Task<> SyncEngine::checkStore() {
-    return vantrell::checkStore(context_, worker_, life_.token());
-}
-
-QCoro::Task<> SyncEngine::pause() {
-    return clock_.sleep(settings_.pause, life_.token());
-}
-
-QCoro::Task<> SyncEngine::breathe() {
-    return clock_.sleep(std::chrono::microseconds::zero(), life_.token());
-}
-
-void SyncEngine::setProgress(std::string text, std::optional<double> fraction) {
-    progressText_ = std::move(text);
-    progressFraction_ = fraction;
 }
 
 }  // namespace vantrell

@@ -54,17 +54,17 @@ TEST_F(CredentialsEditorTest, TakesTheKeyFromAFileOrSaysWhyItCanNot) {
         EXPECT_EQ(editor.status().toStdString(), status);
         EXPECT_EQ(editor.statusIsError(), status != read);
     }
-    EXPECT_EQ(fixture.engine().credentials().keyID, "key") << "nothing is saved by an import";
+    EXPECT_EQ(fixture.engine().account().credentials().keyID, "key") << "nothing is saved by an import";
 }
 
 TEST_F(CredentialsEditorTest, SavesWithoutBlanksAroundAndFetchesIfNothingWasFetched) {
     editor.setIssuerID(QStringLiteral(" \t3f7a\n"));
     editor.importKey(file("AuthKey_AB.p8", "\npem\n"));
     editor.save();
-    EXPECT_EQ(fixture.engine().credentials(), (APICredentials{"3f7a", "AB", "pem", "6041"}));
+    EXPECT_EQ(fixture.engine().account().credentials(), (APICredentials{"3f7a", "AB", "pem", "6041"}));
     EXPECT_EQ(editor.issuerID(), QStringLiteral("3f7a"));
     EXPECT_EQ(editor.status(), QStringLiteral("Saved to the Keychain."));
-    EXPECT_FALSE(fixture.engine().lastRunSummary().empty()) << "a backfill ran";
+    EXPECT_TRUE(fixture.engine().lastRun()) << "a backfill ran";
 }
 
 TEST_F(CredentialsEditorTest, TestsAndTellsTheResult) {

@@ -36,8 +36,9 @@ class DriveLoopTest : public ::testing::Test {
     }
 
     EngineFixture fixture;
+    Locale locale{LocaleNames{"C", "C", "C", "C", "C"}};
     ReportCalendar calendar{fixture.clock, fixture.localTime};
-    EarningsStore store{fixture.defaults, fixture.locale(), calendar};
+    EarningsStore store{fixture.defaults, locale, calendar};
     std::unique_ptr<DriveLoop> loop;
     std::int64_t seen = 0;
 };
@@ -68,8 +69,8 @@ TEST_F(DriveLoopTest, ReadsAtEachActivationAndStartsAtMostOneRun) {
 }
 
 TEST_F(DriveLoopTest, ReadsAtEachNewRevisionOfTheEngine) {
-    fixture.engine().bumpRevision(true);
-    fixture.engine().bumpRevision(true);
+    fixture.tasks().spawn(fixture.engine().refreshRates(true));
+    fixture.tasks().spawn(fixture.engine().refreshRates(true));
     EXPECT_EQ(reloads(), 0) << "the window may move first";
     fixture.clock.advance(std::chrono::microseconds::zero());
     EXPECT_EQ(reloads(), 2);
@@ -93,7 +94,7 @@ TEST_F(DriveLoopTest, EndsItsWaitWithTheWindow) {
     EXPECT_EQ(fixture.tasks().pending(), 1) << "the loop itself";
     loop.reset();
     EXPECT_EQ(fixture.tasks().pending(), 0);
-    fixture.engine().bumpRevision(true);
+    fixture.tasks().spawn(fixture.engine().refreshRates(true));
     EXPECT_FALSE(fixture.requests().empty());
 }
 

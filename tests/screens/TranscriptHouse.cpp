@@ -97,6 +97,12 @@ std::string TranscriptHouse::answer(const QString& expression) {
     return lines;
 }
 
+void TranscriptHouse::beginRun() {
+    fixture_.clock.autoAdvance = false;
+    fixture_.tasks().spawn(fixture_.engine().runSync());
+    fixture_.takeRequests();
+}
+
 void TranscriptHouse::leaveUnsaved(bool isDiskFull) {
     const auto failure = isDiskFull ? StoreFailure::diskFull : StoreFailure::other;
     fixture_.context().health().setUnsaved(StoreError{"words", failure});

@@ -12,16 +12,16 @@ TEST(Credentials, AreReadAtTheStartSavedAndForgotten) {
     SyncEngine& engine = fixture.engine();
     EXPECT_TRUE(engine.hasCredentials());
     fixture.run(engine.refetchDay(*dateFromDayKey("2026-11-20")));
-    engine.saveCredentials({"issuer", "key", "no key", ""});
+    engine.account().save({"issuer", "key", "no key", ""});
     EXPECT_FALSE(engine.hasCredentials());
-    EXPECT_EQ(QCoro::waitFor(engine.testConnection()),
+    EXPECT_EQ(QCoro::waitFor(engine.account().testConnection()),
               "Enter the Issuer ID, Key ID, key file and vendor number first.");
-    engine.saveCredentials({"issuer", "key", "no key!", "6041"});
-    EXPECT_EQ(QCoro::waitFor(engine.testConnection())
+    engine.account().save({"issuer", "key", "no key!", "6041"});
+    EXPECT_EQ(QCoro::waitFor(engine.account().testConnection())
                   .rfind("Authentication failed — The .p8 private key could not be read", 0),
               0U)
         << "the token of the old key is not used again";
-    engine.removeCredentials();
+    engine.account().remove();
     EXPECT_FALSE(engine.hasCredentials());
     EXPECT_EQ(fixture.context().salesReports().all().size(), 1U) << "stored reports stay";
 }
@@ -29,7 +29,7 @@ TEST(Credentials, AreReadAtTheStartSavedAndForgotten) {
 TEST(Credentials, ThatCanNotBeSavedLeaveTheOldOnesInForce) {
     EngineFixture fixture;
     fixture.secrets.failNextAdd({1, "The keyring is locked"});
-    EXPECT_THROW(fixture.engine().saveCredentials({}), CredentialsError);
+    EXPECT_THROW(fixture.engine().account().save({}), CredentialsError);
     EXPECT_TRUE(fixture.engine().hasCredentials());
     fixture.run(fixture.engine().refetchDay(*dateFromDayKey("2026-11-20")));
     EXPECT_EQ(fixture.requests().size(), 1U);

@@ -1,3 +1,4 @@
+#include "RunPlan.h"
 #include "testing/EngineFixture.h"
 #include "testing/Golden.h"
 
@@ -8,7 +9,7 @@
 #include <gtest/gtest.h>
 
 // Each text under data is played to an engine: it does what stands behind a "$ ", and below that stands what
-// it then asked for, said and keeps.
+// it then asked for, said and keeps. A "plan" is only told, with what it passes over in brackets.
 
 namespace vantrell {
 namespace {
@@ -39,6 +40,9 @@ class RunScript {
         if (verb == "engine") {
             fixture_ = std::make_unique<EngineFixture>("", rest(words));
             start_ = fixture_->clock.now();
+            SyncEngine& engine = fixture_->engine();
+            QObject::connect(&engine, &SyncEngine::progressChanged, &engine,
+                             [&] { told_.push_back("told" + progressOf(engine.progress())); });
         } else if (verb == "stored") {
             store(words);
         } else if (verb == "answer") {
@@ -48,13 +52,18 @@ class RunScript {
         } else if (verb == "stop") {
             stopAt_ = rest(words);
         } else if (verb == "forget") {
-            fixture_->engine().removeCredentials();
+            fixture_->engine().account().remove();
         } else if (verb == "show") {
             show();
         } else if (verb == "test") {
-            const std::string said = QCoro::waitFor(fixture_->engine().testConnection());
+            const std::string said = QCoro::waitFor(fixture_->engine().account().testConnection());
             tellRequests();
             say(said);
+        } else if (verb == "progress") {
+            tellAll(std::exchange(told_, {}));
+        } else if (verb == "plan") {
+            const std::string kind = word(words);
+            tellPlan(kind, word(words));
         } else {
             run(verb, word(words));
         }
@@ -126,9 +135,16 @@ class RunScript {
         tellRequests();
         tell("pauses", std::to_string(fixture_->clock.slept.size()), "0");
         tell("settings written", std::to_string(fixture_->defaults.writes - writes), "0");
-        tell("error", engine.lastError().value_or(""), "");
-        const std::string summary = engine.lastRunSummary();
-        tell("summary", summary.substr(0, summary.find(" finished ")), "");
+        constexpr const char* errors[] = {"no key", "damaged store", "no month",
+                                          "key refused: ", "rate limited"};
+        if (const auto error = engine.lastError()) {
+            say(std::string("error: ") + errors[static_cast<std::size_t>(error->kind)] + error->detail);
+        }
+        constexpr const char* runs[] = {"Sync", "Backfill", "Re-fetch"};
+        if (const auto last = engine.lastRun()) {
+            say(std::string("summary: ") + runs[static_cast<std::size_t>(last->kind)]);
+        }
+        EXPECT_FALSE(engine.progress());
         EXPECT_FALSE(engine.isSyncing());
         EXPECT_EQ(std::ranges::count(fixture_->clock.slept, std::chrono::milliseconds(150)),
                   std::ssize(fixture_->clock.slept));
@@ -140,14 +156,39 @@ class RunScript {
         }
     }
 
+    void tellPlan(const std::string& verb, const std::string& what) {
+        const RunBasis basis{fixture_->clock, ReportCalendar(fixture_->clock, fixture_->localTime),
+                             fixture_->context()};
+        RunSteps steps = verb == "sync"       ? ordinarySteps(basis)
+                         : verb == "backfill" ? backfillSteps(basis)
+                                              : monthAgain(parseYearMonth(what).value(), what, basis);
+        std::vector<std::string> lines;
+        for (const RunStep& step : steps) {
+            const std::string key = std::visit([](const auto& one) { return one.logKey(); }, step.request);
+            lines.push_back((step.isDue ? key : "(" + key + ")") + progressOf(step.progress));
+        }
+        tellAll(lines);
+    }
+
+    static std::string progressOf(const std::optional<RunProgress>& progress) {
+        constexpr const char* parts[] = {": days", ": months", ": years", ": finance", ": again", ": period"};
+        const std::string item = progress && !progress->item.empty() ? " " + progress->item : "";
+        const bool isShareTold = progress && progress->fraction;
+        return (progress ? parts[static_cast<std::size_t>(progress->part)] : "") + item +
+               (isShareTold ? " " + std::to_string(*progress->fraction).substr(0, 5) : "");
+    }
+
+    void tellRequests() { tellAll(fixture_->takeRequests()); }
+
     /// Each request, and of a long row of one kind the first and the last.
-    void tellRequests() {
-        const auto requests = fixture_->takeRequests();
-        const auto kind = [](const std::string& request) { return request.substr(0, request.find(' ')); };
+    void tellAll(const std::vector<std::string>& requests) {
+        const auto kind = [](const std::string& request) {
+            return request.substr(0, request.find_first_of("0123456789"));
+        };
         for (auto first = requests.begin(); first != requests.end();) {
             const auto end = std::find_if(first, requests.end(),
                                           [&](const auto& request) { return kind(request) != kind(*first); });
-            if (end - first > 35) {
+            if (end - first > 20) {
                 say(*first + " and so on, " + std::to_string(end - first) + " in all, to " + *std::prev(end));
             } else {
                 std::for_each(first, end, [this](const auto& request) { say(request); });
@@ -191,6 +232,7 @@ class RunScript {
     std::string transcript_;
     std::unique_ptr<EngineFixture> fixture_;
     Instant start_;
+    std::vector<std::string> told_;
     std::string stopAt_;
 };
 

@@ -94,16 +94,15 @@ TEST(Secrets, NothingOfKeyAndTokenIsLeftInMemoryOnceTheKeyIsRemoved) {
         CredentialsKeychain(secrets).store(credentials);
     }
     QtHttpClient http;
-    const Locale locale{LocaleNames{"C", "C", "C", "C", "C"}};
     SyncEngine engine({fixture.context(), http, fixture.clock, fixture.worker, fixture.localTime, secrets,
-                       fixture.defaults, locale},
+                       fixture.defaults},
                       {server->url(""), server->url("")});
-    EXPECT_TRUE(QCoro::waitFor(engine.testConnection()).starts_with("Authentication failed"));
+    EXPECT_TRUE(QCoro::waitFor(engine.account().testConnection()).starts_with("Authentication failed"));
     const auto bearer = server->requests.at(0).find("Bearer ");
     token.emplace(std::string_view(server->requests.at(0)).substr(bearer + 150, 40));
     server.reset();
     EXPECT_GT(timesInMemory(*key), 0) << "the engine signs with it";
-    engine.removeCredentials();
+    engine.account().remove();
     QTest::qWait(300);
     EXPECT_EQ(timesInMemory(*key), 0);
     EXPECT_EQ(timesInMemory(*token), 0);

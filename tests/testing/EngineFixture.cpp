@@ -51,7 +51,7 @@ EngineFixture::EngineFixture(const std::string& vfs, const std::string& sql)
     };
     CredentialsKeychain(secrets).store({"issuer", "key", generateKeyPair().privatePEM, "6041"});
     engine_ = std::make_unique<SyncEngine>(
-        SyncEngineParts{*context_, http, clock, worker, localTime, secrets, defaults, locale_},
+        SyncEngineParts{*context_, http, clock, worker, localTime, secrets, defaults},
         SyncEngineSettings{"https://reports.test", "https://rates.test"});
 }
 

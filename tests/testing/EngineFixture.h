@@ -28,7 +28,6 @@ class EngineFixture {
 
     SyncEngine& engine() { return *engine_; }
     ModelContext& context() { return *context_; }
-    [[nodiscard]] const Locale& locale() const { return locale_; }
     TaskScope& tasks() { return tasks_; }
     void run(QCoro::Task<> task);
 
@@ -67,7 +66,6 @@ class EngineFixture {
   private:
     StoreFixture store_;
     ModelContext* context_;
-    Locale locale_{LocaleNames{"C", "C", "C", "C", "C"}};
     TaskScope tasks_;
     std::unique_ptr<SyncEngine> engine_;
     std::size_t taken_ = 0;

@@ -72,7 +72,7 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     EXPECT_EQ(filesWith(partOfKey, newcomer.folder()), "");
     start();
     driver->expectToSee(QAccessible::Heading, QStringLiteral("Dashboard"));
-    EXPECT_EQ(newcomer.app().engine().credentials().keyID, own.keyID);
+    EXPECT_EQ(newcomer.app().engine().account().credentials().keyID, own.keyID);
     SyncEngine& engine = newcomer.app().engine();
 
     // The next run is started by key, and its figures come by themselves.

@@ -26,9 +26,9 @@ class SyncBanner : public QObject {
     /// A run is under way.
     [[nodiscard]] bool isShown() const { return engine_.isSyncing(); }
     [[nodiscard]] QString text() const;
-    [[nodiscard]] bool isIndeterminate() const { return !engine_.progressFraction().has_value(); }
+    [[nodiscard]] bool isIndeterminate() const { return !share().has_value(); }
     /// 0 to 1.
-    [[nodiscard]] double fraction() const { return engine_.progressFraction().value_or(0); }
+    [[nodiscard]] double fraction() const { return share().value_or(0); }
     [[nodiscard]] QString stopText() const { return tr("Stop"); }
     [[nodiscard]] QString progressName() const { return tr("Sync progress"); }
 
@@ -38,6 +38,8 @@ class SyncBanner : public QObject {
     void changed();
 
   private:
+    [[nodiscard]] std::optional<double> share() const;
+
     SyncEngine& engine_;
 };
 

@@ -5,7 +5,7 @@ namespace vantrell {
 SyncToolbarButton::SyncToolbarButton(SyncEngine& engine, TaskScope& tasks, QObject* parent)
     : QObject(parent), engine_(engine), tasks_(tasks) {
     connect(&engine, &SyncEngine::isSyncingChanged, this, &SyncToolbarButton::changed);
-    connect(&engine, &SyncEngine::hasCredentialsChanged, this, &SyncToolbarButton::changed);
+    connect(&engine.account(), &Account::hasCredentialsChanged, this, &SyncToolbarButton::changed);
 }
 
 void SyncToolbarButton::press() {

@@ -29,12 +29,13 @@ std::variant<std::string, FileReadError> keyFileText(const QUrl& file) {
 
 CredentialsEditor::CredentialsEditor(const ScreenParts& parts, QObject* parent)
     : QObject(parent), parts_(parts) {
-    connect(&parts.engine, &SyncEngine::hasCredentialsChanged, this, &CredentialsEditor::canRemoveChanged);
+    connect(&parts.engine.account(), &Account::hasCredentialsChanged, this,
+            &CredentialsEditor::canRemoveChanged);
 }
 
 void CredentialsEditor::appear() {
     ++appearance_;
-    replace(values_, parts_.engine.credentials());
+    replace(values_, parts_.engine.account().credentials());
     isTesting_ = false;
     testResult_.clear();
     say({}, false);
@@ -108,12 +109,12 @@ void CredentialsEditor::test() {
     testResult_.clear();
     isTesting_ = true;
     Q_EMIT outcomeChanged();
-    parts_.tasks.spawn(runTest(parts_.engine, this, appearance_));
+    parts_.tasks.spawn(runTest(parts_.engine.account(), this, appearance_));
 }
 
 void CredentialsEditor::removeKey() {
     try {
-        parts_.engine.removeCredentials();
+        parts_.engine.account().remove();
     } catch (const CredentialsError& error) {
         say(tr("Could not remove from the Keychain: ") + shownText(error.what()), true);
         return;
@@ -123,9 +124,9 @@ void CredentialsEditor::removeKey() {
     say(tr("Credentials removed from the Keychain."), false);
 }
 
-QCoro::Task<> CredentialsEditor::runTest(SyncEngine& engine, QPointer<CredentialsEditor> editor,
+QCoro::Task<> CredentialsEditor::runTest(Account& account, QPointer<CredentialsEditor> editor,
                                          int appearance) {
-    const std::string result = co_await engine.testConnection();
+    const std::string result = co_await account.testConnection();
     if (editor != nullptr) {
         editor->tested(result, appearance);
     }
@@ -149,7 +150,7 @@ void CredentialsEditor::set(std::string& value, const QString& text) {
 bool CredentialsEditor::isSaved() {
     trim();
     try {
-        parts_.engine.saveCredentials(values_);
+        parts_.engine.account().save(values_);
     } catch (const CredentialsError& error) {
         say(tr("Could not save to the Keychain: ") + shownText(error.what()), true);
         return false;

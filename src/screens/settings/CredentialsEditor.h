@@ -93,7 +93,7 @@ class CredentialsEditor : public QObject {
     void outcomeChanged();
 
   private:
-    [[nodiscard]] static QCoro::Task<> runTest(SyncEngine& engine, QPointer<CredentialsEditor> editor,
+    [[nodiscard]] static QCoro::Task<> runTest(Account& account, QPointer<CredentialsEditor> editor,
                                                int appearance);
 
     void set(std::string& value, const QString& text);

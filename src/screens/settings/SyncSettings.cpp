@@ -1,6 +1,7 @@
 #include "screens/settings/SyncSettings.h"
 
 #include "screens/components/ShownText.h"
+#include "screens/words/RunWords.h"
 
 #include <optional>
 
@@ -8,7 +9,7 @@ namespace vantrell {
 
 SyncSettings::SyncSettings(const ScreenParts& parts, QObject* parent)
     : QObject(parent), parts_(parts), banner_(parts.engine), day_(parts.locale, dayLabel()) {
-    connect(&parts.engine, &SyncEngine::lastRunSummaryChanged, this, &SyncSettings::summaryChanged);
+    connect(&parts.engine, &SyncEngine::lastRunChanged, this, &SyncSettings::summaryChanged);
     connect(&parts.engine, &SyncEngine::isSyncingChanged, this, &SyncSettings::requestsChanged);
     connect(&day_, &DateField::picked, this, &SyncSettings::chooseDay);
     connect(&day_, &DateField::opening, this, [this] { chooseDay(chosenDay_); });
@@ -16,7 +17,8 @@ SyncSettings::SyncSettings(const ScreenParts& parts, QObject* parent)
 }
 
 QString SyncSettings::summary() const {
-    return shownText(parts_.engine.lastRunSummary());
+    const QString text = runText(parts_.engine.lastRun(), parts_.locale, parts_.localTime.zone());
+    return shownText(text.toStdString());
 }
 
 void SyncSettings::fetchDay() {

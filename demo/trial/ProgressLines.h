@@ -2,25 +2,25 @@
 
 #include "sync/SyncEngine.h"
 
+#include <optional>
 #include <ostream>
-#include <string>
 
 #include <QObject>
 
 namespace vantrell {
 
 /// Writes what a run is doing: a line for each new kind of work, and one for each tenth of it that is done.
-class RunProgress : public QObject {
+class ProgressLines : public QObject {
   public:
     /// Both must outlive this.
-    RunProgress(const SyncEngine& engine, std::ostream& output);
+    ProgressLines(const SyncEngine& engine, std::ostream& output);
 
   private:
     void progressChanged();
 
     const SyncEngine& engine_;
     std::ostream& output_;
-    std::string lastKind_;
+    std::optional<RunProgress::Part> lastPart_;
     int lastTenth_ = -1;
 };
 

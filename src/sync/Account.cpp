@@ -1,16 +1,32 @@
+#include "sync/Account.h"
+
 #include "calendar/DayKey.h"
-#include "sync/SyncEngine.h"
 
 #include <functional>
 #include <utility>
 #include <variant>
 
-// The key: read at the start, saved, tried and removed.
-
 namespace vantrell {
 
-void SyncEngine::take(LoadedCredentials loaded) {
-    credentialsProblem_ = std::move(loaded.problem);
+Account::Account(SecretStore& secrets, ASCClient& client, const ReportCalendar& calendar, Worker& worker,
+                 std::stop_token end)
+    : keychain_(secrets), client_(client), calendar_(calendar), worker_(worker), end_(std::move(end)) {
+    take(keychain_.load());
+    keychain_.whenLoadedLate([this](LoadedCredentials loaded) {
+        // What was entered meanwhile is newer.
+        if (!hasCredentials_) {
+            take(std::move(loaded));
+            Q_EMIT problemChanged();
+        }
+    });
+}
+
+Account::~Account() {
+    keychain_.whenLoadedLate({});
+}
+
+void Account::take(LoadedCredentials loaded) {
+    problem_ = std::move(loaded.problem);
     if (loaded.credentials) {
         const bool isComplete = loaded.credentials->isComplete();
         client_.setCredentials(*std::move(loaded.credentials));
@@ -18,19 +34,19 @@ void SyncEngine::take(LoadedCredentials loaded) {
     }
 }
 
-void SyncEngine::saveCredentials(const APICredentials& credentials) {
+void Account::save(const APICredentials& credentials) {
     keychain_.store(credentials);
     client_.setCredentials(credentials);
     hasCredentials_ = credentials.isComplete();
 }
 
-void SyncEngine::removeCredentials() {
+void Account::remove() {
     keychain_.remove();
     client_.setCredentials({});
     hasCredentials_ = false;
 }
 
-QCoro::Task<std::string> SyncEngine::testConnection() {
+QCoro::Task<std::string> Account::testConnection() {
     if (!client_.credentials().isComplete()) {
         co_return "Enter the Issuer ID, Key ID, key file and vendor number first.";
     }
@@ -39,13 +55,13 @@ QCoro::Task<std::string> SyncEngine::testConnection() {
         co_return "";
     }
     ReportResponse answer =
-        co_await client_.fetchSales(ReportFrequency::daily, dayKey(*yesterday), std::nullopt, life_.token());
+        co_await client_.fetchSales(ReportFrequency::daily, dayKey(*yesterday), std::nullopt, end_);
     // A reasoned answer proves the key good, though there is no report to show.
     const bool accepted = std::holds_alternative<response::NotYetAvailable>(answer) ||
                           std::holds_alternative<response::NoSales>(answer);
     // A body that was received is read beside the window.
     std::function<std::string()> tell = [answer = std::move(answer)] { return diagnosticText(answer); };
-    const auto text = co_await worker_.run(std::move(tell), life_.token());
+    const auto text = co_await worker_.run(std::move(tell), end_);
     co_return (accepted ? "Credentials accepted. " : "") + text.value_or("");
 }
 

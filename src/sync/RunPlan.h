@@ -1,0 +1,58 @@
+#pragma once
+
+#include "ReportRequests.h"
+#include "calendar/ReportCalendar.h"
+#include "calendar/YearMonth.h"
+#include "sync/RunFacts.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <variant>
+
+#include <qcoro/qcorogenerator.h>
+
+namespace vantrell {
+
+/// One thing that a run comes to.
+struct RunStep {
+    std::variant<SalesReportRequest, FinanceReportRequest, RatesRequest> request;
+    bool isDue = true;                         ///< else it is passed over
+    std::optional<RunProgress> progress = {};  ///< absent where what was told last still holds
+
+    [[nodiscard]] bool isReport() const { return !std::holds_alternative<RatesRequest>(request); }
+};
+
+/// What a plan looks at.
+struct RunBasis {
+    const Clock& clock;
+    ReportCalendar calendar;
+    ModelContext& store;
+};
+
+/// One step after another. Each is worked out when it is its turn, from the day that it is then and from what
+/// is stored then, which also tells where a part ends. Not to be moved: this generator would be freed twice.
+using RunSteps = QCoro::Generator<RunStep>;
+
+/// What a run asks for: a function of the calendar and of what is stored, and of nothing else.
+struct RunPlan {
+    std::function<RunSteps(RunBasis)> steps;
+};
+
+/// The last 14 days, 2 months, last year, the next 2 fiscal periods and the rates, as far as they are due.
+[[nodiscard]] RunSteps ordinarySteps(RunBasis basis);
+/// A year of days, the years, 12 months and all fiscal periods from 2024-01, as far as they aren't final, and
+/// the rates.
+[[nodiscard]] RunSteps backfillSteps(RunBasis basis);
+
+// What is asked for again, whatever is stored of it.
+
+[[nodiscard]] RunSteps dayAgain(CivilDate day, RunBasis basis);
+/// The month and those of its days that are over; `asTyped` is what it is called.
+[[nodiscard]] RunSteps monthAgain(YearMonth month, std::string asTyped, RunBasis basis);
+[[nodiscard]] RunSteps financeAgain(std::string fiscalPeriod, RunBasis basis);
+
+/// Whether the stored exchange rates are missing or older than a day.
+[[nodiscard]] bool areRatesDue(const RunBasis& basis);
+
+}  // namespace vantrell

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "base/Worker.h"
+#include "calendar/ReportCalendar.h"
+#include "data/APICredentials.h"
+#include "data/CredentialsKeychain.h"
+#include "reports/ASCClient.h"
+
+#include <optional>
+#include <stop_token>
+#include <string>
+
+#include <QObject>
+#include <QProperty>
+#include <qcoro/qcorotask.h>
+
+namespace vantrell {
+
+/// The key to the account's reports: read at the start, saved, tried and removed. Main thread only.
+class Account : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Reads the stored credentials. What is waited for ends with `end`; all else must outlive this.
+    Account(SecretStore& secrets, ASCClient& client, const ReportCalendar& calendar, Worker& worker,
+            std::stop_token end);
+    ~Account() override;
+
+    /// The stored credentials are complete.
+    [[nodiscard]] bool hasCredentials() const { return hasCredentials_; }
+    /// Why the secret service could not be read at the start; absent when it could, also without a key. It
+    /// may answer later.
+    [[nodiscard]] const std::optional<std::string>& problem() const { return problem_; }
+    /// What requests are signed with; four empty texts without a key.
+    [[nodiscard]] const APICredentials& credentials() const { return client_.credentials(); }
+
+    /// Throws CredentialsError, and then changes nothing here, if the secret service refuses.
+    void save(const APICredentials& credentials);
+    /// Forgets the key; stored reports stay. Throws CredentialsError, and then forgets nothing, if the secret
+    /// service refuses.
+    void remove();
+    /// Tries the credentials with one real request and stores nothing. The result is a text for the user.
+    [[nodiscard]] QCoro::Task<std::string> testConnection();
+
+  Q_SIGNALS:
+    void hasCredentialsChanged();
+    void problemChanged();
+
+  private:
+    void take(LoadedCredentials loaded);
+
+    CredentialsKeychain keychain_;
+    ASCClient& client_;
+    const ReportCalendar& calendar_;
+    Worker& worker_;
+    const std::stop_token end_;
+    std::optional<std::string> problem_;
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(Account, bool, hasCredentials_, false,
+                                         &Account::hasCredentialsChanged)
+};
+
+}  // namespace vantrell
