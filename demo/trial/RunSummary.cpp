@@ -51,7 +51,8 @@ void writeFigure(const HeadlineFigure& figure, const CurrencyConverter& converte
                  std::ostream& output) {
     const auto total = converter.total(figure.stats.proceedsByCurrency);
     output << "\n"
-           << figure.title << (figure.subtitle ? " · " + *figure.subtitle : "") << ": "
+           << figure.title.toStdString()
+           << (figure.subtitle.isEmpty() ? "" : " · " + figure.subtitle.toStdString()) << ": "
            << locale.money(total.amount, converter.displayCurrency);
     if (!total.withoutRate.empty()) {
         output << ", not counting";

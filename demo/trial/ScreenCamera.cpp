@@ -106,12 +106,11 @@ void ScreenCamera::takeText(QQuickWindow& window, const std::string& fileName) {
     settle();
 }
 
-void ScreenCamera::press(QQuickWindow& window, const std::string& name) {
+void ScreenCamera::press(QQuickWindow& window, const QString& name) {
     settle();
     QAccessibleInterface* root = QAccessible::queryAccessibleInterface(&window);
-    QAccessibleInterface* item =
-        root == nullptr ? nullptr : pressableBelow(*root, QString::fromStdString(name));
-    note(item != nullptr, "there is nothing to press that is called " + name);
+    QAccessibleInterface* item = root == nullptr ? nullptr : pressableBelow(*root, name);
+    note(item != nullptr, "there is nothing to press that is called " + name.toStdString());
     if (item != nullptr) {
         item->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     }

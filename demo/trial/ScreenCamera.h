@@ -20,7 +20,7 @@ class ScreenCamera {
     void take(QQuickWindow& window, const std::string& name);
 
     /// Does what a press on the first item with this name does, as assistive technology would.
-    void press(QQuickWindow& window, const std::string& name);
+    void press(QQuickWindow& window, const QString& name);
 
     /// What couldn't be written or pressed first; absent if all was.
     [[nodiscard]] const std::optional<std::string>& problem() const { return problem_; }

@@ -3,6 +3,7 @@
 #include "core/AppWindows.h"
 #include "figures/Apps.h"
 #include "screens/Appearance.h"
+#include "screens/components/StatTile.h"
 #include "trial/CannedHttp.h"
 #include "trial/ScreenCamera.h"
 #include "trial/SideProgram.h"
@@ -54,9 +55,12 @@ class Session {
         camera_.take(window_, "chart-hover");
         root_.dashboard()->chart()->clearSelection();
         takeDay("day", newestDayWithRows(store_));
-        camera_.press(window_, "All time, ");
+        const auto tiles = root_.dashboard()->tiles();
+        const QString allTime =
+            tiles->at<StatTile>(static_cast<std::size_t>(tiles->count() - 1)).money.spoken;
+        camera_.press(window_, allTime);
         camera_.take(window_, "breakdown");
-        camera_.press(window_, "All time, ");
+        camera_.press(window_, allTime);
     }
 
     void takeApps() {

@@ -10,7 +10,7 @@
 #include "files/InstanceGuard.h"
 #include "files/JsonDefaults.h"
 #include "net/QtHttpClient.h"
-#include "screens/StoreNotice.h"
+#include "screens/words/StoreNotice.h"
 #include "secrets/KeychainSecretStore.h"
 
 #include <cstdlib>

@@ -54,18 +54,33 @@ Fields moneyFields(const CurrencyConverter& converter, const AmountsByCurrency& 
 
 }  // namespace
 
-std::string_view exportLabel(ExportKind kind) {
-    switch (kind) {
-        case ExportKind::days:
-            return "Daily (last 365 days)";
-        case ExportKind::months:
-            return "Months";
-        case ExportKind::years:
-            return "Years";
-        case ExportKind::payouts:
-            return "Payouts";
-        case ExportKind::products:
-            return "Products";
+std::string sourceText(PeriodSource source) {
+    switch (source) {
+        case PeriodSource::dailyReports:
+            return "From daily reports";
+        case PeriodSource::monthToDate:
+            return "From daily reports · MTD";
+        case PeriodSource::yearToDate:
+            return "From daily reports · YTD";
+        case PeriodSource::monthlyReport:
+            return "Monthly report";
+        case PeriodSource::yearlyReport:
+            return "Yearly report";
+    }
+    return {};
+}
+
+std::string formText(const ProductStat& product) {
+    const std::string ofApp = product.appTitle ? *product.appTitle + " · " : "";
+    switch (product.form) {
+        case ProductForm::unknown:
+            return {};
+        case ProductForm::app:
+            return "App";
+        case ProductForm::inAppPurchase:
+            return ofApp + "In-app purchase";
+        case ProductForm::subscription:
+            return ofApp + "Subscription";
     }
     return {};
 }
@@ -116,7 +131,7 @@ std::string exportPeriods(const EarningsStore& store, const std::vector<PeriodSt
     const CurrencyConverter& converter = store.converter();
     CSVText text(joined({"period", "source"}, statsHeader(converter)));
     for (const PeriodStat& period : periods) {
-        text.add(joined({period.label, period.note}, statsFields(converter, period.stats)));
+        text.add(joined({period.label, sourceText(period.source)}, statsFields(converter, period.stats)));
     }
     return std::move(text).take();
 }
@@ -140,7 +155,7 @@ std::string exportProducts(const EarningsStore& store) {
     const CurrencyConverter& converter = store.converter();
     CSVText text(joined({"title", "kind", "apple_identifier"}, statsHeader(converter)));
     for (const ProductStat& product : productStats(store.snapshot(), converter, {})) {
-        text.add(joined({product.title, product.subtitle, std::to_string(product.productID)},
+        text.add(joined({product.title, formText(product), std::to_string(product.productID)},
                         statsFields(converter, product.stats)));
     }
     return std::move(text).take();

@@ -18,11 +18,11 @@ std::vector<PeriodStat> monthStats(const SharedSnapshot& snapshot, const ReportC
                                    const AppFilter& apps) {
     const std::string thisMonth = calendar.monthKey(0);
     std::vector<PeriodStat> months{
-        {thisMonth, "From daily reports · MTD",
+        {thisMonth, PeriodSource::monthToDate,
          dailyRows(snapshot, thisMonth + "-01", calendar.dayKey(1), apps).aggregate()}};
     for (int monthsAgo = 1; monthsAgo <= finishedMonths; ++monthsAgo) {
         const std::string month = calendar.monthKey(monthsAgo);
-        months.push_back({month, "Monthly report",
+        months.push_back({month, PeriodSource::monthlyReport,
                           reportRows(snapshot, ReportFrequency::monthly, month, apps).aggregate()});
     }
     return months;
@@ -33,8 +33,8 @@ std::vector<PeriodStat> yearStats(const SharedSnapshot& snapshot, const ReportCa
     std::vector<PeriodStat> years;
     years.reserve(snapshot->yearlyOKLabels.size());
     for (const std::string& label : snapshot->yearlyOKLabels) {
-        years.push_back(
-            {label, "Yearly report", reportRows(snapshot, ReportFrequency::yearly, label, apps).aggregate()});
+        years.push_back({label, PeriodSource::yearlyReport,
+                         reportRows(snapshot, ReportFrequency::yearly, label, apps).aggregate()});
     }
     const SalesRows& rows = snapshot->salesRows;
     std::map<std::string_view, StatsAccumulator> sums;
@@ -45,7 +45,7 @@ std::vector<PeriodStat> yearStats(const SharedSnapshot& snapshot, const ReportCa
     const std::string thisYear = calendar.currentYearLabel();
     for (const auto& [year, sum] : sums) {
         years.push_back({std::string(year),
-                         year == thisYear ? "From daily reports · YTD" : "From daily reports",
+                         year == thisYear ? PeriodSource::yearToDate : PeriodSource::dailyReports,
                          sum.stats(rows.currencies())});
     }
     std::erase_if(years, [](const PeriodStat& year) { return year.stats.isEmpty(); });

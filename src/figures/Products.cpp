@@ -12,20 +12,21 @@ namespace {
 
 struct Name {
     std::string title;
-    std::string subtitle;
+    ProductForm form;
+    std::optional<std::string> appTitle;
 };
 
 Name nameOf(std::int64_t id, const Catalog& catalog) {
     if (const auto product = catalog.productByID().find(id); product != catalog.productByID().end()) {
         const ProductInfo& info = product->second;
-        const std::string kind = info.isSubscription ? "Subscription" : "In-app purchase";
         const auto app = info.appID ? catalog.appByID().find(*info.appID) : catalog.appByID().end();
-        return {info.title, app == catalog.appByID().end() ? kind : app->second.title + " · " + kind};
+        return {info.title, info.isSubscription ? ProductForm::subscription : ProductForm::inAppPurchase,
+                app == catalog.appByID().end() ? std::nullopt : std::optional(app->second.title)};
     }
     if (const auto app = catalog.appByID().find(id); app != catalog.appByID().end()) {
-        return {app->second.title, "App"};
+        return {app->second.title, ProductForm::app, std::nullopt};
     }
-    return {std::to_string(id), ""};
+    return {std::to_string(id), ProductForm::unknown, std::nullopt};
 }
 
 /// The sum of one product's lines, if it has any.
@@ -73,7 +74,6 @@ ProductWindowStat emptyProduct(std::int64_t id, const Catalog& catalog) {
     entry.isAppPurchases = catalog.appByID().contains(id);
     if (entry.isAppPurchases) {
         entry.appID = id;
-        entry.title = "Purchases";
     } else {
         const ProductInfo& product = catalog.productByID().at(id);
         entry.appID = *product.appID;
@@ -129,8 +129,9 @@ std::vector<ProductStat> productStats(const SharedSnapshot& snapshot, const Curr
         if (sums[product]) {
             const std::int64_t id = products.ids()[product];
             const AggregateStats sum = sums[product]->stats(rows.currencies());
-            auto [title, subtitle] = nameOf(id, *snapshot->catalog);
-            stats.push_back({id, std::move(title), std::move(subtitle), sum, sortValue(sum, converter)});
+            auto [title, form, appTitle] = nameOf(id, *snapshot->catalog);
+            stats.push_back(
+                {id, std::move(title), form, std::move(appTitle), sum, sortValue(sum, converter)});
         }
     }
     std::ranges::stable_sort(stats, std::ranges::greater(), &ProductStat::sortValue);

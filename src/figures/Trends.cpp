@@ -38,7 +38,7 @@ class TrendSeries {
     }
     [[nodiscard]] TrendLegendItem legend(std::size_t series, const Catalog& catalog) const {
         if (series == apps_.size()) {
-            return {std::nullopt, "Other", std::nullopt};
+            return {};
         }
         const std::int64_t app = apps_[series];
         return {app, title(app, catalog),
@@ -63,13 +63,10 @@ using Cells = std::map<std::size_t, SignedAmounts>;
 using CellsByStart = std::map<CivilDate, Cells>;
 
 /// How many of a bucket's days need no further request.
-std::string fetchedNote(const std::vector<ReportStatus>& statuses) {
-    const auto fetched = std::ranges::count_if(statuses, [](ReportStatus status) {
+int fetchedDays(const std::vector<ReportStatus>& statuses) {
+    return static_cast<int>(std::ranges::count_if(statuses, [](ReportStatus status) {
         return status == ReportStatus::ok || status == ReportStatus::empty;
-    });
-    const std::string total = std::to_string(statuses.size());
-    const bool isComplete = static_cast<std::size_t>(fetched) == statuses.size();
-    return isComplete ? total + " days" : std::to_string(fetched) + " of " + total + " days fetched";
+    }));
 }
 
 std::optional<CivilDate> bucketOf(const TrendBuckets& buckets, std::string_view day) {
@@ -185,8 +182,10 @@ std::vector<PeriodStat> bucketStats(const SharedSnapshot& snapshot, const Locale
     std::vector<PeriodStat> stats;
     stats.reserve(buckets.starts.size());
     for (const auto& [start, statuses] : buckets.statuses) {
-        stats.push_back({bucketLabel(locale, start, granularity), fetchedNote(statuses),
-                         sums[start].stats(rows.currencies())});
+        stats.push_back({.label = bucketLabel(locale, start, granularity),
+                         .stats = sums[start].stats(rows.currencies()),
+                         .days = static_cast<int>(statuses.size()),
+                         .fetchedDays = fetchedDays(statuses)});
     }
     std::ranges::reverse(stats);
     return stats;

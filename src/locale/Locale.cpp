@@ -83,10 +83,6 @@ std::string Locale::languageTag() const {
     return U_SUCCESS(status) ? tag : std::string("en");
 }
 
-bool Locale::isRightToLeft() const {
-    return formats_->messages.isRightToLeft() != 0;
-}
-
 std::string Locale::regionName(std::string_view code) const {
     if (!isRegionCode(code)) {
         return std::string(code);

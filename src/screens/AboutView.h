@@ -11,16 +11,12 @@ class AboutView : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")
-    Q_PROPERTY(QString windowTitle READ windowTitle CONSTANT)
-    Q_PROPERTY(QString name READ name CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
 
   public:
     using QObject::QObject;
 
-    [[nodiscard]] QString windowTitle() const { return tr("About Vantrell"); }
-    [[nodiscard]] QString name() const { return QStringLiteral("Vantrell"); }
     [[nodiscard]] static QString version();
     [[nodiscard]] bool isOpen() const { return isOpen_; }
     /// Where it is open already, it comes to the front.

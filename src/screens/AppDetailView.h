@@ -5,7 +5,6 @@
 #include "screens/DaySheet.h"
 #include "screens/RowList.h"
 #include "screens/Screen.h"
-#include "screens/charts/ChartLegend.h"
 #include "screens/charts/DailyProceedsChart.h"
 
 #include <cstdint>
@@ -22,7 +21,6 @@ class AppDetailView : public vantrell::Screen {
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
     Q_PROPERTY(vantrell::RowList* tiles READ tiles CONSTANT)
     Q_PROPERTY(vantrell::DailyProceedsChart* chart READ chart CONSTANT)
-    Q_PROPERTY(vantrell::ChartLegend legend READ legend CONSTANT)
     Q_PROPERTY(vantrell::BlockList* rows READ rows CONSTANT)
     Q_PROPERTY(vantrell::DaySheet* selectedDay READ selectedDay CONSTANT)
 
@@ -34,7 +32,6 @@ class AppDetailView : public vantrell::Screen {
     [[nodiscard]] RowList* tiles() { return &tiles_; }
     /// The last 30 days.
     [[nodiscard]] DailyProceedsChart* chart() { return &chart_; }
-    [[nodiscard]] ChartLegend legend() const { return chartLegend(); }
     [[nodiscard]] BlockList* rows() { return &rows_; }
     [[nodiscard]] DaySheet* selectedDay() { return &selectedDay_; }
 

@@ -20,7 +20,6 @@ class AppsView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")
-    Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY emptyStateChanged)
     Q_PROPERTY(vantrell::EmptyState emptyState READ emptyState NOTIFY emptyStateChanged)
     Q_PROPERTY(int yearCount READ yearCount NOTIFY yearCountChanged)
@@ -29,7 +28,6 @@ class AppsView : public vantrell::Screen {
   public:
     explicit AppsView(const ScreenParts& parts, QObject* parent = nullptr);
 
-    [[nodiscard]] QString title() const { return tr("Apps Overview"); }
     /// Nothing passes the filter.
     [[nodiscard]] bool isEmpty() const { return !emptyState_.title.isEmpty(); }
     [[nodiscard]] const EmptyState& emptyState() const { return emptyState_; }

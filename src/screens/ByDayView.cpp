@@ -33,14 +33,6 @@ ByDayView::ByDayView(const ScreenParts& parts, QObject* parent)
     connect(&through_, &DateField::opening, this, &ByDayView::refreshDates);
 }
 
-QStringList ByDayView::windowTitles() const {
-    return {tr("30 days"), tr("90 days"), tr("365 days"), tr("Custom")};
-}
-
-QStringList ByDayView::granularityTitles() const {
-    return {tr("Daily"), tr("Weekly"), tr("Monthly")};
-}
-
 bool ByDayView::isCustom() const {
     return windows[static_cast<std::size_t>(windowPlace_)] == 0;
 }

@@ -3,7 +3,6 @@
 #include "screens/BlockList.h"
 #include "screens/DaySheet.h"
 #include "screens/Screen.h"
-#include "screens/charts/ChartLegend.h"
 #include "screens/charts/TrendChart.h"
 #include "screens/charts/TrendLegendView.h"
 #include "screens/components/DateField.h"
@@ -18,18 +17,12 @@ class ByDayView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")
-    Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QString windowName READ windowName CONSTANT)
-    Q_PROPERTY(QStringList windowTitles READ windowTitles CONSTANT)
     Q_PROPERTY(int windowPlace READ windowPlace NOTIFY choiceChanged)
-    Q_PROPERTY(QString granularityName READ granularityName CONSTANT)
-    Q_PROPERTY(QStringList granularityTitles READ granularityTitles CONSTANT)
     Q_PROPERTY(int granularityPlace READ granularityPlace NOTIFY choiceChanged)
     Q_PROPERTY(bool isCustom READ isCustom NOTIFY choiceChanged)
     Q_PROPERTY(vantrell::DateField* from READ from CONSTANT)
     Q_PROPERTY(vantrell::DateField* through READ through CONSTANT)
     Q_PROPERTY(vantrell::TrendChart* chart READ chart CONSTANT)
-    Q_PROPERTY(vantrell::ChartLegend legend READ legend CONSTANT)
     Q_PROPERTY(bool usesSeriesColors READ usesSeriesColors NOTIFY figuresChanged)
     Q_PROPERTY(vantrell::TrendLegendView* trendLegend READ trendLegend CONSTANT)
     Q_PROPERTY(vantrell::BlockList* rows READ rows CONSTANT)
@@ -38,19 +31,13 @@ class ByDayView : public vantrell::Screen {
   public:
     explicit ByDayView(const ScreenParts& parts, QObject* parent = nullptr);
 
-    [[nodiscard]] QString title() const { return tr("Trends Over Time"); }
-    [[nodiscard]] QString windowName() const { return tr("Window"); }
-    [[nodiscard]] QStringList windowTitles() const;
     [[nodiscard]] int windowPlace() const { return windowPlace_; }
-    [[nodiscard]] QString granularityName() const { return tr("Granularity"); }
-    [[nodiscard]] QStringList granularityTitles() const;
     [[nodiscard]] int granularityPlace() const { return static_cast<int>(granularity_); }
     /// The range is that of the two dates.
     [[nodiscard]] bool isCustom() const;
     [[nodiscard]] DateField* from() { return &from_; }
     [[nodiscard]] DateField* through() { return &through_; }
     [[nodiscard]] TrendChart* chart() { return &chart_; }
-    [[nodiscard]] ChartLegend legend() const { return chartLegend(); }
     /// Several apps are told apart.
     [[nodiscard]] bool usesSeriesColors() const;
     [[nodiscard]] TrendLegendView* trendLegend() { return &trendLegend_; }

@@ -3,7 +3,6 @@
 #include "screens/DaySheet.h"
 #include "screens/RowList.h"
 #include "screens/Screen.h"
-#include "screens/charts/ChartLegend.h"
 #include "screens/charts/DailyProceedsChart.h"
 #include "screens/components/EmptyState.h"
 #include "screens/components/SyncBanner.h"
@@ -15,36 +14,30 @@ class DashboardView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")
-    Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(vantrell::SyncBanner* banner READ banner CONSTANT)
     Q_PROPERTY(QString error READ error NOTIFY errorChanged)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY isEmptyChanged)
     Q_PROPERTY(vantrell::EmptyState emptyState READ emptyState NOTIFY isEmptyChanged)
-    Q_PROPERTY(QString fetchText READ fetchText CONSTANT)
     Q_PROPERTY(bool canFetch READ canFetch NOTIFY canFetchChanged)
     Q_PROPERTY(vantrell::RowList* tiles READ tiles CONSTANT)
     Q_PROPERTY(vantrell::DailyProceedsChart* chart READ chart CONSTANT)
-    Q_PROPERTY(vantrell::ChartLegend legend READ legend CONSTANT)
     Q_PROPERTY(vantrell::DaySheet* selectedDay READ selectedDay CONSTANT)
 
   public:
     explicit DashboardView(const ScreenParts& parts, QObject* parent = nullptr);
 
-    [[nodiscard]] QString title() const { return tr("Dashboard"); }
     [[nodiscard]] SyncBanner* banner() { return &banner_; }
     /// What stopped or prevented the last run; empty if nothing did.
     [[nodiscard]] QString error() const;
     /// No line is stored and none is on its way.
     [[nodiscard]] bool isEmpty() const { return isEmpty_; }
     [[nodiscard]] EmptyState emptyState() const;
-    [[nodiscard]] QString fetchText() const { return tr("Fetch Reports"); }
     [[nodiscard]] bool canFetch() const {
         return engine().hasCredentials() && !parts().context.health().isDamaged();
     }
     [[nodiscard]] RowList* tiles() { return &tiles_; }
     /// The last 30 days.
     [[nodiscard]] DailyProceedsChart* chart() { return &chart_; }
-    [[nodiscard]] ChartLegend legend() const { return chartLegend(); }
     [[nodiscard]] DaySheet* selectedDay() { return &selectedDay_; }
 
     Q_INVOKABLE void fetch();

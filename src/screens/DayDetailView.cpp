@@ -1,11 +1,11 @@
 #include "screens/DayDetailView.h"
 
 #include "figures/SalesSelection.h"
-#include "screens/components/DayText.h"
 #include "screens/components/LineItemRow.h"
-#include "screens/components/RowText.h"
-#include "screens/components/StatusLabel.h"
-#include "screens/components/UnitsCaption.h"
+#include "screens/words/DayText.h"
+#include "screens/words/SalesWords.h"
+#include "screens/words/StatusLabel.h"
+#include "screens/words/UnitsCaption.h"
 
 #include <utility>
 

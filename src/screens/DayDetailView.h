@@ -16,9 +16,6 @@ class DayDetailView : public vantrell::Screen {
     QML_ELEMENT
     QML_UNCREATABLE("made by its screen")
     Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QString doneText READ doneText CONSTANT)
-    Q_PROPERTY(QString proceedsTitle READ proceedsTitle CONSTANT)
-    Q_PROPERTY(QString linesTitle READ linesTitle CONSTANT)
     Q_PROPERTY(QString caption READ caption NOTIFY changed)
     Q_PROPERTY(vantrell::MoneyValue money READ money NOTIFY changed)
     Q_PROPERTY(QString noLinesText READ noLinesText NOTIFY changed)
@@ -29,9 +26,6 @@ class DayDetailView : public vantrell::Screen {
     DayDetailView(const ScreenParts& parts, std::string dayKey, AppFilter apps, QObject* parent = nullptr);
 
     [[nodiscard]] QString title() const;
-    [[nodiscard]] QString doneText() const { return tr("Done"); }
-    [[nodiscard]] QString proceedsTitle() const { return tr("Proceeds"); }
-    [[nodiscard]] QString linesTitle() const { return tr("Line items"); }
     [[nodiscard]] QString caption() const { return caption_; }
     [[nodiscard]] const MoneyValue& money() const { return money_; }
     /// What stands in place of the lines; empty if there are some.

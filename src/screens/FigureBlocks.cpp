@@ -1,8 +1,8 @@
 #include "screens/FigureBlocks.h"
 
-#include "screens/components/DayText.h"
 #include "screens/components/PeriodRowView.h"
 #include "screens/components/ProductRowView.h"
+#include "screens/words/DayText.h"
 
 namespace vantrell {
 

@@ -2,14 +2,21 @@
 
 #include "calendar/DayKey.h"
 #include "figures/SalesSelection.h"
-#include "screens/components/DayText.h"
+#include "screens/components/ShownText.h"
+#include "screens/words/DayText.h"
 
 #include <algorithm>
 #include <string_view>
 #include <utility>
 
+#include <QCoreApplication>
+
 namespace vantrell {
 namespace {
+
+class HeadlineWords {
+    Q_DECLARE_TR_FUNCTIONS(HeadlineFigures)
+};
 
 std::optional<std::string> mostRecentOkDay(const EarningsStore& store) {
     const auto& statuses = store.snapshot()->dailyStatuses;
@@ -18,21 +25,22 @@ std::optional<std::string> mostRecentOkDay(const EarningsStore& store) {
     return newest == statuses.rend() ? std::nullopt : std::optional(newest->first);
 }
 
-std::optional<std::string> sinceText(const EarningsStore& store) {
-    if (!store.snapshot()->yearlyOKLabels.empty()) {
-        return "Since " + store.snapshot()->yearlyOKLabels.front();
+QString sinceText(const EarningsStore& store) {
+    const auto& years = store.snapshot()->yearlyOKLabels;
+    const auto& days = store.snapshot()->dailyStatuses;
+    if (years.empty() && days.empty()) {
+        return {};
     }
-    if (!store.snapshot()->dailyStatuses.empty()) {
-        return "Since " + std::string(yearOf(store.snapshot()->dailyStatuses.begin()->first));
-    }
-    return std::nullopt;
+    const std::string_view year =
+        years.empty() ? yearOf(days.begin()->first) : std::string_view(years.front());
+    return HeadlineWords::tr("Since %1").arg(shownText(year));
 }
 
 /// Collects figures and adds them all up at once.
 class FigureList {
   public:
-    void add(std::string title, std::optional<std::string> subtitle, SalesSelection rows) {
-        figures_.push_back({std::move(title), std::move(subtitle), {}});
+    void add(const QString& title, const QString& subtitle, SalesSelection rows) {
+        figures_.push_back({title, subtitle, {}});
         rows_.push_back(std::move(rows));
     }
 
@@ -54,8 +62,8 @@ SalesSelection rowsUntilYesterday(const EarningsStore& store, const std::string&
     return dailyRows(store.snapshot(), from, store.calendar().dayKey(1), apps);
 }
 
-void addNewestDay(FigureList& figures, const std::string& title, const EarningsStore& store,
-                  const Locale& locale, const AppFilter& apps) {
+void addNewestDay(FigureList& figures, const QString& title, const EarningsStore& store, const Locale& locale,
+                  const AppFilter& apps) {
     if (const auto day = mostRecentOkDay(store)) {
         figures.add(title, dayShortText(store.calendar(), locale, *day),
                     dailyRows(store.snapshot(), *day, *day, apps));
@@ -64,8 +72,8 @@ void addNewestDay(FigureList& figures, const std::string& title, const EarningsS
 
 void addMonthAndYear(FigureList& figures, const EarningsStore& store, const AppFilter& apps) {
     const ReportCalendar& calendar = store.calendar();
-    figures.add("Last 30 days", std::nullopt, rowsUntilYesterday(store, calendar.dayKey(30), apps));
-    figures.add("Year to date", std::nullopt,
+    figures.add(HeadlineWords::tr("Last 30 days"), {}, rowsUntilYesterday(store, calendar.dayKey(30), apps));
+    figures.add(HeadlineWords::tr("Year to date"), {},
                 rowsUntilYesterday(store, calendar.currentYearLabel() + "-01-01", apps));
 }
 
@@ -74,10 +82,11 @@ void addMonthAndYear(FigureList& figures, const EarningsStore& store, const AppF
 std::vector<HeadlineFigure> headlineFigures(const EarningsStore& store, const Locale& locale) {
     const AppFilter& apps = store.appFilter();
     FigureList figures;
-    addNewestDay(figures, "Most recent day with data", store, locale, apps);
-    figures.add("Last 7 days", std::nullopt, rowsUntilYesterday(store, store.calendar().dayKey(7), apps));
+    addNewestDay(figures, HeadlineWords::tr("Most recent day with data"), store, locale, apps);
+    figures.add(HeadlineWords::tr("Last 7 days"), {},
+                rowsUntilYesterday(store, store.calendar().dayKey(7), apps));
     addMonthAndYear(figures, store, apps);
-    figures.add("All time", sinceText(store), allTimeRows(store.snapshot(), apps));
+    figures.add(HeadlineWords::tr("All time"), sinceText(store), allTimeRows(store.snapshot(), apps));
     return figures.take();
 }
 
@@ -85,9 +94,9 @@ std::vector<HeadlineFigure> appHeadlineFigures(const EarningsStore& store, const
                                                std::int64_t app) {
     const AppFilter apps{std::set{app}};
     FigureList figures;
-    addNewestDay(figures, "Newest day", store, locale, apps);
+    addNewestDay(figures, HeadlineWords::tr("Newest day"), store, locale, apps);
     addMonthAndYear(figures, store, apps);
-    figures.add("All time", std::nullopt, allTimeRows(store.snapshot(), apps));
+    figures.add(HeadlineWords::tr("All time"), {}, allTimeRows(store.snapshot(), apps));
     return figures.take();
 }
 

@@ -4,16 +4,17 @@
 #include "figures/EarningsStore.h"
 #include "locale/Locale.h"
 
-#include <optional>
 #include <string>
 #include <vector>
+
+#include <QString>
 
 namespace vantrell {
 
 /// One of the figures that tell at a glance what came in.
 struct HeadlineFigure {
-    std::string title;
-    std::optional<std::string> subtitle;
+    QString title;
+    QString subtitle;  ///< empty without one
     AggregateStats stats;
     bool operator==(const HeadlineFigure&) const = default;
 };

@@ -38,7 +38,7 @@ QString HistoryView::excludedYears() const {
     for (const std::string& year : snapshot()->unavailableYears) {
         years += shownText(year);
     }
-    return tr("Past Apple's retention and excluded: ") + years.join(QStringLiteral(", ")) + QLatin1Char('.');
+    return tr("Past Apple's retention and excluded: %1.").arg(years.join(QStringLiteral(", ")));
 }
 
 }  // namespace vantrell

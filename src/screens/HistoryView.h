@@ -14,13 +14,11 @@ class HistoryView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")
-    Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(vantrell::BlockList* rows READ rows CONSTANT)
 
   public:
     explicit HistoryView(const ScreenParts& parts, QObject* parent = nullptr);
 
-    [[nodiscard]] QString title() const { return tr("History"); }
     [[nodiscard]] BlockList* rows() { return &rows_; }
 
   private:

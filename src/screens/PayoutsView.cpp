@@ -17,13 +17,6 @@ EmptyState PayoutsView::emptyState() const {
                                : tr("Finance reports appear here once a sync has fetched them.")};
 }
 
-QString PayoutsView::footer() const {
-    return tr(
-        "What Apple actually paid, by fiscal month, in the payout currencies. Fiscal months end on "
-        "Saturdays; reports appear about a week after close. Sales proceeds and payouts for the same "
-        "span will be close, never identical.");
-}
-
 void PayoutsView::toggle(int place) {
     if (!isRow(place)) {
         return;

@@ -16,28 +16,20 @@ class PayoutsView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")
-    Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed)
     Q_PROPERTY(vantrell::EmptyState emptyState READ emptyState NOTIFY changed)
-    Q_PROPERTY(QString listTitle READ listTitle CONSTANT)
-    Q_PROPERTY(QString footer READ footer CONSTANT)
     Q_PROPERTY(vantrell::RowList* rows READ rows CONSTANT)
-    Q_PROPERTY(QString refetchText READ refetchText CONSTANT)
     Q_PROPERTY(bool canRefetch READ canRefetch NOTIFY canRefetchChanged)
 
   public:
     explicit PayoutsView(const ScreenParts& parts, QObject* parent = nullptr);
 
-    [[nodiscard]] QString title() const { return tr("Payouts"); }
     [[nodiscard]] bool isEmpty() const { return labels_.empty(); }
     [[nodiscard]] EmptyState emptyState() const;
-    [[nodiscard]] QString listTitle() const { return tr("Finance reports"); }
-    [[nodiscard]] QString footer() const;
     /// Newest first.
     [[nodiscard]] RowList* rows() { return &rows_; }
     /// Opens or closes the row at `place`; other places change nothing.
     Q_INVOKABLE void toggle(int place);
-    [[nodiscard]] QString refetchText() const { return tr("Re-fetch This Period"); }
     [[nodiscard]] bool canRefetch() const { return !engine().isSyncing(); }
     Q_INVOKABLE void refetch(int place);
 

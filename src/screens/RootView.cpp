@@ -1,8 +1,8 @@
 #include "screens/RootView.h"
 
-#include "screens/StoreNotice.h"
 #include "screens/components/ShownText.h"
 #include "screens/words/RunWords.h"
+#include "screens/words/StoreNotice.h"
 
 #include <algorithm>
 #include <utility>
@@ -86,8 +86,7 @@ QString RootView::screenTitle() const {
     if (appDetail_ != nullptr) {
         return appDetail_->title();
     }
-    return isLogShown() ? settings_.logTitle()
-                        : destinationItems()[static_cast<std::size_t>(selection())].title;
+    return isLogShown() ? tr("Sync Log") : destinationItems()[static_cast<std::size_t>(selection())].title;
 }
 
 void RootView::openApp(std::int64_t appID) {
@@ -109,10 +108,6 @@ void RootView::showApp(std::unique_ptr<AppDetailView> detail) {
     std::swap(appDetail_, detail);
     Q_EMIT shownScreenChanged();
     Q_EMIT appDetailChanged();
-}
-
-QString RootView::backSymbol() const {
-    return isRightToLeft() ? QStringLiteral("chevron.right") : QStringLiteral("chevron.left");
 }
 
 QString RootView::footer() const {

@@ -15,13 +15,14 @@
 #include "screens/WelcomeView.h"
 #include "screens/components/AppFilterPicker.h"
 #include "screens/components/CurrencyBreakdown.h"
-#include "screens/components/StatusLabel.h"
 #include "screens/components/SyncToolbarButton.h"
 #include "screens/settings/SettingsView.h"
+#include "screens/words/StatusLabel.h"
 
 #include <memory>
 #include <optional>
 
+#include <QGuiApplication>
 #include <QObject>
 
 namespace vantrell {
@@ -32,7 +33,6 @@ class RootView : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the program")
-    Q_PROPERTY(QString windowTitle READ windowTitle CONSTANT)
     Q_PROPERTY(bool isRightToLeft READ isRightToLeft CONSTANT)
     Q_PROPERTY(bool isDark READ isDark NOTIFY isDarkChanged)
     Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged)
@@ -44,9 +44,6 @@ class RootView : public QObject {
     Q_PROPERTY(QString screenTitle READ screenTitle NOTIFY screenTitleChanged)
     Q_PROPERTY(vantrell::AppDetailView* appDetail READ appDetail NOTIFY appDetailChanged)
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY screenTitleChanged)
-    Q_PROPERTY(QString backText READ backText CONSTANT)
-    Q_PROPERTY(QString backSymbol READ backSymbol CONSTANT)
-    Q_PROPERTY(QString sidebarName READ sidebarName CONSTANT)
     Q_PROPERTY(bool hasToolbarControls READ hasToolbarControls NOTIFY selectionChanged)
     Q_PROPERTY(QString footer READ footer NOTIFY footerChanged)
     Q_PROPERTY(QString storeNotice READ storeNotice NOTIFY storeNoticeChanged)
@@ -68,8 +65,8 @@ class RootView : public QObject {
   public:
     explicit RootView(const ScreenParts& parts, QObject* parent = nullptr);
 
-    [[nodiscard]] QString windowTitle() const { return QStringLiteral("Vantrell"); }
-    [[nodiscard]] bool isRightToLeft() const { return parts_.locale.isRightToLeft(); }
+    /// By the language of the texts, and not by how dates and money are written.
+    [[nodiscard]] bool isRightToLeft() const { return QGuiApplication::isRightToLeft(); }
     [[nodiscard]] bool isDark() const { return parts_.appearance.isDark(); }
     [[nodiscard]] bool reducesMotion() const { return parts_.appearance.reducesMotion(); }
     /// The first load is done, and with it what has to be there at once.
@@ -93,9 +90,6 @@ class RootView : public QObject {
     [[nodiscard]] bool canGoBack() const { return appDetail_ != nullptr || isLogShown(); }
     /// Does nothing where neither is open.
     Q_INVOKABLE void goBack();
-    [[nodiscard]] QString backText() const { return tr("Back"); }
-    [[nodiscard]] QString backSymbol() const;
-    [[nodiscard]] QString sidebarName() const { return tr("Screens"); }
     [[nodiscard]] bool hasToolbarControls() const { return selection() != Destination::settings; }
     /// What stands at the bottom of the sidebar; empty before the first run.
     [[nodiscard]] QString footer() const;

@@ -32,25 +32,13 @@ WelcomeView::WelcomeView(const ScreenParts& parts, QObject* parent)
     appear();
 }
 
-QString WelcomeView::introduction() const {
-    return tr(
-        "Your App Store earnings by app, day, month and year — plus what Apple actually paid. Fetched "
-        "straight from Apple, stored only on your devices.");
-}
-
 QString WelcomeView::problem() const {
     const auto& problem = parts_.engine.account().problem();
-    return problem ? tr("The Keychain could not be read: ") + shownText(*problem) : QString();
+    return problem ? tr("The Keychain could not be read: %1").arg(shownText(*problem)) : QString();
 }
 
 QString WelcomeView::linkAddress() const {
     return webAddress(parts_.origins.keyWebSite, QStringLiteral("/access/integrations/api"));
-}
-
-QString WelcomeView::footnote() const {
-    return tr(
-        "The first sync fetches about a year of daily reports plus yearly, monthly and finance reports "
-        "— roughly six minutes. The dashboard fills in as days land.");
 }
 
 // A key that was saved here is of no concern when the welcome comes back after its removal.

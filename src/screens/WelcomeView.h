@@ -25,31 +25,19 @@ class WelcomeView : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")
-    Q_PROPERTY(QString symbol READ symbol CONSTANT)
-    Q_PROPERTY(QString name READ name CONSTANT)
-    Q_PROPERTY(QString introduction READ introduction CONSTANT)
     Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
     Q_PROPERTY(vantrell::RowList* steps READ steps CONSTANT)
-    Q_PROPERTY(QString linkText READ linkText CONSTANT)
     Q_PROPERTY(QString linkAddress READ linkAddress CONSTANT)
-    Q_PROPERTY(QString connectTitle READ connectTitle CONSTANT)
     Q_PROPERTY(vantrell::CredentialsEditor* credentials READ credentials CONSTANT)
-    Q_PROPERTY(QString footnote READ footnote CONSTANT)
 
   public:
     explicit WelcomeView(const ScreenParts& parts, QObject* parent = nullptr);
 
-    [[nodiscard]] QString symbol() const { return QStringLiteral("chart.line.uptrend.xyaxis.circle.fill"); }
-    [[nodiscard]] QString name() const { return QStringLiteral("Vantrell"); }
-    [[nodiscard]] QString introduction() const;
     /// Why a key that may be there could not be read; empty if there simply is none.
     [[nodiscard]] QString problem() const;
     [[nodiscard]] RowList* steps() { return &steps_; }
-    [[nodiscard]] QString linkText() const { return tr("Open App Store Connect…"); }
     [[nodiscard]] QString linkAddress() const;
-    [[nodiscard]] QString connectTitle() const { return tr("Connect"); }
     [[nodiscard]] CredentialsEditor* credentials() { return &credentials_; }
-    [[nodiscard]] QString footnote() const;
 
   Q_SIGNALS:
     void problemChanged();

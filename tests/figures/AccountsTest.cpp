@@ -1,5 +1,6 @@
 #include "figures/Apps.h"
 #include "figures/Days.h"
+#include "figures/Exports.h"
 #include "figures/Payouts.h"
 #include "figures/Products.h"
 #include "figures/SalesSelection.h"
@@ -61,7 +62,11 @@ std::string windows(const Entry& entry) {
 }
 
 std::string period(const PeriodStat& stat) {
-    return stat.label + " (" + stat.note + "): " + text(stat.stats);
+    return stat.label + " (" +
+           (stat.days == 0
+                ? sourceText(stat.source)
+                : std::to_string(stat.fetchedDays) + " of " + std::to_string(stat.days) + " days fetched") +
+           "): " + text(stat.stats);
 }
 
 std::string wholeAccount(const EarningsStore& store) {
@@ -81,8 +86,8 @@ std::string wholeAccount(const EarningsStore& store) {
                   });
     for (const auto& [app, products] : productWindows(snapshot, rates, store.calendar())) {
         all += listed("products of " + std::to_string(app), products, [](const ProductWindowStat& product) {
-            return std::to_string(product.productID) + " " + product.title +
-                   (product.isAppPurchases ? ", the app" : "") + windows(product);
+            return std::to_string(product.productID) +
+                   (product.isAppPurchases ? " the app" : " " + product.title) + windows(product);
         });
     }
     const YearMatrix matrix = yearMatrix(snapshot, rates);
@@ -106,12 +111,14 @@ std::string wholeAccount(const EarningsStore& store) {
 std::string trend(const Trend& trend) {
     std::string all;
     for (const TrendLegendItem& item : trend.legend) {
-        all += " " + item.title + (item.colorIndex ? " #" + std::to_string(*item.colorIndex) : "") + ",";
+        all += " " + (item.appID ? item.title : "others") +
+               (item.colorIndex ? " #" + std::to_string(*item.colorIndex) : "") + ",";
     }
     return listed("trend of" + all, trend.points, [](const TrendPoint& point) {
         std::string row = dayKey(point.periodStart) + " " + std::string(rawText(point.status)) + ":";
         for (const TrendSlice& slice : point.slices) {
-            row += " " + slice.title + " " + rounded(slice.proceeds) + " " + rounded(slice.refunds) + ";";
+            row += " " + (slice.appID ? slice.title : "others") + " " + rounded(slice.proceeds) + " " +
+                   rounded(slice.refunds) + ";";
         }
         return row;
     });
@@ -131,7 +138,7 @@ std::string ofApps(EarningsFixture& fixture, const AccountFile& account, const A
     all += listed("months", months, period);
     all += listed("years", yearStats(snapshot, calendar, apps), period);
     all += listed("sold", productStats(snapshot, rates, apps), [](const ProductStat& product) {
-        return product.title + " / " + product.subtitle + ": " + text(product.stats);
+        return product.title + " / " + formText(product) + ": " + text(product.stats);
     });
     all += listed("countries", countryStats(snapshot, rates, apps, mostCountries),
                   [](const CountryStat& country) { return country.country + " " + country.amount.text(); });

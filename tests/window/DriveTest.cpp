@@ -1,6 +1,6 @@
 #include "TrialHouse.h"
 #include "WindowDriver.h"
-#include "screens/components/DayText.h"
+#include "screens/words/DayText.h"
 #include "secrets/KeychainSecretStore.h"
 #include "testing/Golden.h"
 #include "testing/Keyring.h"

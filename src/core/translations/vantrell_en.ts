@@ -2,6 +2,71 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>PayoutRow</name>
+    <message numerus="yes">
+        <source>%1 units</source>
+        <translation>
+            <numerusform>%1 units</numerusform>
+            <numerusform>%1 units</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 returns</source>
+        <translation>
+            <numerusform>%1 returns</numerusform>
+            <numerusform>%1 returns</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SalesWords</name>
+    <message numerus="yes">
+        <source>%1 days</source>
+        <translation>
+            <numerusform>%1 days</numerusform>
+            <numerusform>%1 days</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 days fetched</source>
+        <translation>
+            <numerusform>%1 of %2 days fetched</numerusform>
+            <numerusform>%1 of %2 days fetched</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UnitsCaption</name>
+    <message numerus="yes">
+        <source>%1 app</source>
+        <translation>
+            <numerusform>%1 app</numerusform>
+            <numerusform>%1 app</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in-app</source>
+        <translation>
+            <numerusform>%1 in-app</numerusform>
+            <numerusform>%1 in-app</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 refunded</source>
+        <translation>
+            <numerusform>%1 refunded</numerusform>
+            <numerusform>%1 refunded</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 updates</source>
+        <translation>
+            <numerusform>%1 updates</numerusform>
+            <numerusform>%1 updates</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>vantrell::AppFilterPicker</name>
     <message numerus="yes">
         <source>%1 App(s)</source>

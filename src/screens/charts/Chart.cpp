@@ -1,8 +1,8 @@
 #include "screens/charts/Chart.h"
 
 #include "calendar/DayKey.h"
-#include "screens/components/RowText.h"
 #include "screens/components/ShownText.h"
+#include "screens/words/SalesWords.h"
 
 #include <algorithm>
 #include <utility>

@@ -25,7 +25,6 @@ class Chart : public QObject {
     Q_PROPERTY(vantrell::ChartAnnotation annotation READ annotation NOTIFY selectionChanged)
     Q_PROPERTY(vantrell::RowList* amounts READ amounts CONSTANT)
     Q_PROPERTY(bool opensDays READ opensDays NOTIFY contentChanged)
-    Q_PROPERTY(QString tableText READ tableText CONSTANT)
     Q_PROPERTY(vantrell::RowList* table READ table CONSTANT)
 
   public:
@@ -41,7 +40,6 @@ class Chart : public QObject {
     /// Those of the annotation.
     [[nodiscard]] RowList* amounts() { return &amounts_; }
     [[nodiscard]] virtual bool opensDays() const { return onSelectDay_ != nullptr; }
-    [[nodiscard]] QString tableText() const { return tr("Show as Table"); }
     /// Newest first; up to date after `fillTable` until the content changes.
     [[nodiscard]] RowList* table() { return &table_; }
 

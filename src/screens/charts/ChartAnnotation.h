@@ -1,7 +1,7 @@
 #pragma once
 
 #include "screens/charts/SeriesColor.h"
-#include "screens/components/StatusLabel.h"
+#include "screens/words/StatusLabel.h"
 
 #include <vector>
 

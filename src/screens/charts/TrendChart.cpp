@@ -1,6 +1,7 @@
 #include "screens/charts/TrendChart.h"
 
 #include "screens/components/ShownText.h"
+#include "screens/words/SalesWords.h"
 
 #include <algorithm>
 #include <iterator>
@@ -65,7 +66,8 @@ std::vector<ChartAmount> TrendChart::sliceLines(const TrendPoint& point) const {
     std::vector<ChartAmount> lines;
     for (const TrendSlice& slice : point.slices) {
         if (slice.proceeds > 0) {
-            ChartAmount line = chartAmount(slice.proceeds, shownText(slice.title, titleCharacters));
+            ChartAmount line = chartAmount(
+                slice.proceeds, slice.appID ? shownText(slice.title, titleCharacters) : otherAppsLabel());
             line.hasDot = usesSeriesColors_;
             line.dot = seriesColor(slice.colorIndex);
             line.isSmall = true;

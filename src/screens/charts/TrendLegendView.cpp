@@ -2,6 +2,7 @@
 
 #include "screens/AppIconProvider.h"
 #include "screens/components/ShownText.h"
+#include "screens/words/SalesWords.h"
 
 #include <utility>
 
@@ -24,7 +25,8 @@ void TrendLegendView::refresh() {
     std::vector<TrendLegendRow> rows;
     rows.reserve(items_.size());
     for (const TrendLegendItem& item : items_) {
-        rows.push_back({shownText(item.title), seriesColor(item.colorIndex), iconOf(item)});
+        rows.push_back({item.appID ? shownText(item.title) : otherAppsLabel(), seriesColor(item.colorIndex),
+                        iconOf(item)});
     }
     rows_.show(rows);
 }

@@ -16,7 +16,7 @@ AppFilterPicker::AppFilterPicker(EarningsStore& store, const Locale& locale, QOb
 QString AppFilterPicker::title() const {
     const AppFilter& filter = store_.appFilter();
     if (!filter) {
-        return allAppsTitle();
+        return tr("All Apps");
     }
     if (filter->empty()) {
         return tr("No Apps");

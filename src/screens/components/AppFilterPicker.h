@@ -28,9 +28,6 @@ class AppFilterPicker : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by its screen")
     Q_PROPERTY(QString title READ title NOTIFY changed)
-    Q_PROPERTY(QString symbol READ symbol CONSTANT)
-    Q_PROPERTY(QString help READ help CONSTANT)
-    Q_PROPERTY(QString allAppsTitle READ allAppsTitle CONSTANT)
     Q_PROPERTY(bool isAllOn READ isAllOn NOTIFY changed)
     Q_PROPERTY(vantrell::RowList* items READ items CONSTANT)
 
@@ -40,9 +37,6 @@ class AppFilterPicker : public QObject {
 
     /// "All Apps", "No Apps", the one app's title, or how many.
     [[nodiscard]] QString title() const;
-    [[nodiscard]] QString symbol() const { return QStringLiteral("line.3.horizontal.decrease.circle"); }
-    [[nodiscard]] QString help() const { return tr("Choose which apps to include"); }
-    [[nodiscard]] QString allAppsTitle() const { return tr("All Apps"); }
     [[nodiscard]] bool isAllOn() const { return !store_.appFilter().has_value(); }
     /// The apps of the catalog, in its order.
     [[nodiscard]] RowList* items() { return &items_; }

@@ -2,6 +2,7 @@
 
 #include "screens/components/RowText.h"
 #include "screens/components/ShownText.h"
+#include "screens/words/SalesWords.h"
 
 namespace vantrell {
 

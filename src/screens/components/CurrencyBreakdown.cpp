@@ -21,9 +21,9 @@ void CurrencyBreakdown::refresh() {
 
 QString CurrencyBreakdown::footerText() const {
     const auto fetchedAt = store().converter().fetchedAt;
-    return fetchedAt ? tr("Converted at today's rates · updated ") +
-                           fromUtf8(locale().relativeTime(*fetchedAt, parts().clock.now(),
-                                                          parts().localTime.zone()))
+    return fetchedAt ? tr("Converted at today's rates · updated %1")
+                           .arg(fromUtf8(locale().relativeTime(*fetchedAt, parts().clock.now(),
+                                                               parts().localTime.zone())))
                      : QString();
 }
 

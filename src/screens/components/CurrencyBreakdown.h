@@ -12,14 +12,12 @@ class CurrencyBreakdown : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by its screen")
-    Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(vantrell::RowList* rows READ rows CONSTANT)
     Q_PROPERTY(QString footer READ footer NOTIFY footerChanged)
 
   public:
     explicit CurrencyBreakdown(const ScreenParts& parts, QObject* parent = nullptr);
 
-    [[nodiscard]] QString title() const { return tr("By currency"); }
     [[nodiscard]] RowList* rows() { return &rows_; }
     /// How old the rates are; empty before any were fetched.
     [[nodiscard]] QString footer() const { return footer_; }

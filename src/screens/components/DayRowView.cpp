@@ -2,7 +2,8 @@
 
 #include "screens/components/RowText.h"
 #include "screens/components/ShownText.h"
-#include "screens/components/UnitsCaption.h"
+#include "screens/words/SalesWords.h"
+#include "screens/words/UnitsCaption.h"
 
 namespace vantrell {
 

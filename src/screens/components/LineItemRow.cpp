@@ -2,38 +2,20 @@
 
 #include "screens/components/RowText.h"
 #include "screens/components/ShownText.h"
-#include "screens/components/UnitsCaption.h"
+#include "screens/words/SalesWords.h"
+#include "screens/words/UnitsCaption.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 
 namespace vantrell {
 namespace {
-
-QString kindLabel(ProductKind kind, bool isRefund) {
-    switch (kind) {
-        case ProductKind::app:
-            return isRefund ? QCoreApplication::translate("LineItemRow", "App refund")
-                            : QCoreApplication::translate("LineItemRow", "App");
-        case ProductKind::iap:
-            return isRefund ? QCoreApplication::translate("LineItemRow", "In-app refund")
-                            : QCoreApplication::translate("LineItemRow", "In-app");
-        case ProductKind::update:
-            return QCoreApplication::translate("LineItemRow", "Update");
-        case ProductKind::redownload:
-            return QCoreApplication::translate("LineItemRow", "Redownload");
-        case ProductKind::other:
-            return QCoreApplication::translate("LineItemRow", "Other");
-    }
-    return {};
-}
 
 std::string_view orDollar(std::string_view currency) {
     return currency.empty() ? "USD" : currency;
 }
 
 QString caption(const SalesRowLite& row) {
-    QStringList parts{kindLabel(row.kind, row.units < 0)};
+    QStringList parts{lineLabel(row.kind, row.units < 0)};
     for (const std::string_view text : {row.country, row.productType}) {
         if (!text.empty()) {
             parts += shownText(text);

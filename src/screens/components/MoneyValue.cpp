@@ -16,8 +16,8 @@ QString warningText(const std::vector<std::string>& withoutRate) {
     for (const std::string& code : withoutRate) {
         codes += shownText(code);
     }
-    return QCoreApplication::translate("MoneyValue", "No exchange rate for: ") +
-           codes.join(QStringLiteral(", "));
+    return QCoreApplication::translate("MoneyValue", "No exchange rate for: %1")
+        .arg(codes.join(QStringLiteral(", ")));
 }
 
 }  // namespace

@@ -51,8 +51,6 @@ class MonthGrid : public QObject {
     Q_PROPERTY(QStringList weekdays READ weekdays CONSTANT)
     Q_PROPERTY(vantrell::RowList* days READ days CONSTANT)
     Q_PROPERTY(QString cursorText READ cursorText NOTIFY changed)
-    Q_PROPERTY(QString previousText READ previousText CONSTANT)
-    Q_PROPERTY(QString nextText READ nextText CONSTANT)
     Q_PROPERTY(bool hasPrevious READ hasPrevious NOTIFY changed)
     Q_PROPERTY(bool hasNext READ hasNext NOTIFY changed)
 
@@ -70,8 +68,6 @@ class MonthGrid : public QObject {
     [[nodiscard]] RowList* days() { return &days_; }
     /// The day under the cursor, for whoever can't see it.
     [[nodiscard]] QString cursorText() const;
-    [[nodiscard]] QString previousText() const { return tr("Previous month"); }
-    [[nodiscard]] QString nextText() const { return tr("Next month"); }
     [[nodiscard]] bool hasPrevious() const;
     [[nodiscard]] bool hasNext() const;
 

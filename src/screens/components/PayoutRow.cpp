@@ -3,7 +3,8 @@
 #include "screens/components/CurrencyBreakdownList.h"
 #include "screens/components/RowText.h"
 #include "screens/components/ShownText.h"
-#include "screens/components/UnitsCaption.h"
+#include "screens/words/SalesWords.h"
+#include "screens/words/UnitsCaption.h"
 
 #include <QCoreApplication>
 
@@ -21,11 +22,13 @@ QString datesText(const FigureContext& context, const FinancePeriodStat& period)
 }
 
 QString unitsText(const Locale& locale, const FinancePeriodStat& period) {
-    QStringList parts{fromUtf8(locale.count(period.units)) +
-                      QCoreApplication::translate("PayoutRow", " units")};
+    const auto counted = [&](std::int64_t count, const char* words) {
+        return QCoreApplication::translate("PayoutRow", words, nullptr, pluralNumber(count))
+            .arg(fromUtf8(locale.count(count)));
+    };
+    QStringList parts{counted(period.units, QT_TRANSLATE_N_NOOP("PayoutRow", "%1 units"))};
     if (period.returns != 0) {
-        parts +=
-            fromUtf8(locale.count(period.returns)) + QCoreApplication::translate("PayoutRow", " returns");
+        parts += counted(period.returns, QT_TRANSLATE_N_NOOP("PayoutRow", "%1 returns"));
     }
     return parts.join(captionJoiner());
 }
@@ -54,7 +57,7 @@ QString PayoutRow::spokenState() const {
 }
 
 PayoutRow payoutRow(const FigureContext& context, const FinancePeriodStat& period, bool isExpanded) {
-    return {.title = QCoreApplication::translate("PayoutRow", "Fiscal ") + shownText(period.label),
+    return {.title = QCoreApplication::translate("PayoutRow", "Fiscal %1").arg(shownText(period.label)),
             .dates = datesText(context, period),
             .units = unitsText(context.locale, period),
             .money = moneyValue(context, period.byCurrency, QCoreApplication::translate("PayoutRow", "Paid")),

@@ -2,7 +2,8 @@
 
 #include "screens/components/RowText.h"
 #include "screens/components/ShownText.h"
-#include "screens/components/UnitsCaption.h"
+#include "screens/words/SalesWords.h"
+#include "screens/words/UnitsCaption.h"
 
 namespace vantrell {
 
@@ -14,7 +15,7 @@ PeriodRowView periodRowView(const FigureContext& context, const PeriodStat& peri
                             const std::optional<QString>& titleOverride) {
     return {.title = titleOverride ? *titleOverride : shownText(period.label),
             .caption = unitsCaption(context.locale, period.stats, false),
-            .note = shownText(period.note),
+            .note = sourceLabel(context.locale, period),
             .money = moneyValue(context, period.stats.proceedsByCurrency, proceedsLabel())};
 }
 

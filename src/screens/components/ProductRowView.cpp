@@ -2,7 +2,8 @@
 
 #include "screens/components/RowText.h"
 #include "screens/components/ShownText.h"
-#include "screens/components/UnitsCaption.h"
+#include "screens/words/SalesWords.h"
+#include "screens/words/UnitsCaption.h"
 
 namespace vantrell {
 
@@ -12,7 +13,7 @@ QString ProductRowView::copyText() const {
 
 ProductRowView productRowView(const FigureContext& context, const ProductStat& product) {
     return {.title = shownText(product.title),
-            .subtitle = shownText(product.subtitle),
+            .subtitle = productLabel(product),
             .caption = unitsCaption(context.locale, product.stats, true),
             .money = moneyValue(context, product.stats.proceedsByCurrency, proceedsLabel())};
 }

@@ -8,7 +8,4 @@ namespace vantrell {
 /// What a copied row puts on the clipboard: its texts between tabs, without those that are empty.
 [[nodiscard]] QString rowText(QStringList texts);
 
-/// What a figure of proceeds is called for whoever hears it.
-[[nodiscard]] QString proceedsLabel();
-
 }  // namespace vantrell

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/components/StatusLabel.h"
+#include "screens/words/StatusLabel.h"
 
 namespace vantrell {
 

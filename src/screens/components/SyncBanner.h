@@ -17,8 +17,6 @@ class SyncBanner : public QObject {
     Q_PROPERTY(QString text READ text NOTIFY changed)
     Q_PROPERTY(bool isIndeterminate READ isIndeterminate NOTIFY changed)
     Q_PROPERTY(double fraction READ fraction NOTIFY changed)
-    Q_PROPERTY(QString stopText READ stopText CONSTANT)
-    Q_PROPERTY(QString progressName READ progressName CONSTANT)
 
   public:
     explicit SyncBanner(SyncEngine& engine, QObject* parent = nullptr);
@@ -29,8 +27,6 @@ class SyncBanner : public QObject {
     [[nodiscard]] bool isIndeterminate() const { return !share().has_value(); }
     /// 0 to 1.
     [[nodiscard]] double fraction() const { return share().value_or(0); }
-    [[nodiscard]] QString stopText() const { return tr("Stop"); }
-    [[nodiscard]] QString progressName() const { return tr("Sync progress"); }
 
     Q_INVOKABLE void stop() { engine_.requestStop(); }
 

@@ -14,9 +14,6 @@ class SyncToolbarButton : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by its screen")
-    Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QString symbol READ symbol CONSTANT)
-    Q_PROPERTY(QString help READ help CONSTANT)
     Q_PROPERTY(bool isSpinning READ isSpinning NOTIFY changed)
     Q_PROPERTY(bool isEnabled READ isEnabled NOTIFY changed)
 
@@ -24,9 +21,6 @@ class SyncToolbarButton : public QObject {
     /// `tasks` must outlive the engine.
     SyncToolbarButton(SyncEngine& engine, TaskScope& tasks, QObject* parent = nullptr);
 
-    [[nodiscard]] QString title() const { return tr("Sync Now"); }
-    [[nodiscard]] QString symbol() const { return QStringLiteral("arrow.clockwise"); }
-    [[nodiscard]] QString help() const { return tr("Fetch new reports from Apple"); }
     [[nodiscard]] bool isSpinning() const { return engine_.isSyncing(); }
     [[nodiscard]] bool isEnabled() const { return !engine_.isSyncing() && engine_.hasCredentials(); }
 

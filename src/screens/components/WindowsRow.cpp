@@ -2,7 +2,7 @@
 
 #include "screens/components/RowText.h"
 #include "screens/components/ShownText.h"
-#include "screens/components/UnitsCaption.h"
+#include "screens/words/UnitsCaption.h"
 
 #include <QCoreApplication>
 
@@ -46,7 +46,8 @@ WindowsRow windowsRow(const FigureContext& context, const AppTableEntry& entry) 
 WindowsRow windowsRow(const FigureContext& context, const ProductWindowStat& product) {
     WindowsRow row = withCells(context, product);
     row.appID = product.appID;
-    row.title = shownText(product.title);
+    row.title = product.isAppPurchases ? QCoreApplication::translate("AppsView", "Purchases")
+                                       : shownText(product.title);
     return row;
 }
 

@@ -28,8 +28,9 @@ ColumnTitles yearTitles(const FigureContext& context, const std::vector<std::str
     const std::string current = context.store.calendar().currentYearLabel();
     ColumnTitles titles{.name = QCoreApplication::translate("AppsView", "App"), .columns = {}};
     for (const std::string& year : years) {
-        const QString mark = year == current ? QCoreApplication::translate("AppsView", " (YTD)") : QString();
-        titles.columns += shownText(year) + mark;
+        const QString shown = shownText(year);
+        titles.columns +=
+            year == current ? QCoreApplication::translate("AppsView", "%1 (YTD)").arg(shown) : shown;
     }
     return titles;
 }

@@ -9,7 +9,7 @@ T.ApplicationWindow {
     required property AboutView model
     property bool mirrored: false
 
-    title: model.windowTitle
+    title: qsTr("About Vantrell")
     width: column.implicitWidth + 120
     height: column.implicitHeight + 72
     minimumWidth: width
@@ -46,7 +46,7 @@ T.ApplicationWindow {
         }
         PlainText {
             Layout.alignment: Qt.AlignHCenter
-            text: window.model.name
+            text: "Vantrell"
             font.pixelSize: Theme.title2
             font.weight: Font.DemiBold
         }

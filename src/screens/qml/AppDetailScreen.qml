@@ -30,7 +30,6 @@ BlockView {
                     width: chart.contentWidth
                     chartHeight: 220
                     chart: screen.detail.chart
-                    legend: screen.detail.legend
                     viewport: screen
                 }
             }

@@ -8,10 +8,10 @@ PushButton {
     required property AboutAndUpdateCommands commands
 
     borderless: true
-    help: commands.title
+    help: qsTr("Application menu")
     isQuiet: pane.visible
     Accessible.role: Accessible.ButtonMenu
-    Accessible.name: commands.title
+    Accessible.name: button.help
     onClicked: pane.visible ? pane.close() : pane.open()
 
     contentItem: Item {
@@ -21,7 +21,7 @@ PushButton {
             anchors.centerIn: parent
             width: 18
             height: 18
-            name: button.commands.symbol
+            name: "line.3.horizontal"
             color: Theme.secondary
         }
     }
@@ -37,7 +37,7 @@ PushButton {
                 width: 220
                 focus: true
                 KeyNavigation.down: updates
-                text: button.commands.aboutText
+                text: qsTr("About Vantrell")
                 onClicked: {
                     pane.close()
                     button.commands.openAbout()
@@ -48,7 +48,7 @@ PushButton {
                 id: updates
                 width: 220
                 KeyNavigation.up: about
-                text: button.commands.updatesText
+                text: qsTr("Check for Updates…")
                 enabled: button.commands.canCheckForUpdates
             }
         }

@@ -43,7 +43,7 @@ Item {
         visible: !screen.apps.isEmpty
         focus: true
         rows: screen.apps.rows
-        Accessible.name: screen.apps.title
+        Accessible.name: qsTr("Apps Overview")
         delegate: BlockDelegates {
             DelegateChoice {
                 roleValue: RowKind.WindowTitles

@@ -18,10 +18,10 @@ Popover {
     contentItem: ColumnLayout {
         spacing: 10
         Accessible.role: Accessible.Grouping
-        Accessible.name: popover.breakdown.title
+        Accessible.name: qsTr("By currency")
 
         PlainText {
-            text: popover.breakdown.title
+            text: qsTr("By currency")
             font.pixelSize: Theme.headline
             font.weight: Font.DemiBold
             Layout.minimumWidth: 202

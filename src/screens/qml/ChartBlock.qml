@@ -6,7 +6,6 @@ Column {
     id: block
 
     required property Chart chart
-    required property chartLegend legend
     required property Flickable viewport
     property real chartHeight: 220
 
@@ -24,14 +23,13 @@ Column {
         ChartLegendRow {
             anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
-            content: block.legend
         }
         PushButton {
             id: button
             anchors.right: parent.right
             anchors.rightMargin: -12
             borderless: true
-            text: block.chart.tableText
+            text: qsTr("Show as Table")
             textSize: Theme.smallest
             onClicked: table.active = !table.active
         }

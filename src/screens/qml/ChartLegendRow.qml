@@ -5,7 +5,6 @@ import Vantrell
 Row {
     id: legend
 
-    required property chartLegend content
 
     spacing: 14
 
@@ -32,16 +31,16 @@ Row {
 
     Entry {
         ink: Theme.chartProceeds
-        text: legend.content.proceeds
+        text: qsTr("Proceeds")
     }
     Entry {
         ink: Theme.chartRefunds
-        text: legend.content.refunds
+        text: qsTr("Refunds")
     }
     Entry {
         ink: Theme.chartMissing
         swatchWidth: 10
         swatchHeight: 2
-        text: legend.content.notFetched
+        text: qsTr("Not fetched")
     }
 }

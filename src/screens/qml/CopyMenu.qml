@@ -13,7 +13,7 @@ Popover {
     contentItem: MenuRow {
         implicitWidth: 180
         focus: true
-        text: Theme.clipboard.copyTitle
+        text: qsTr("Copy")
         onClicked: {
             menu.copied()
             menu.close()

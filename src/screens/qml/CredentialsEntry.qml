@@ -6,7 +6,10 @@ import Vantrell
 ColumnLayout {
     id: entry
 
-    required property credentialsField field
+    required property string label
+    // An example.
+    required property string prompt
+    required property string hint
     required property string value
     signal edited(string text)
 
@@ -15,16 +18,16 @@ ColumnLayout {
 
     PlainText {
         spoken: false
-        text: entry.field.label
+        text: entry.label
         font.pixelSize: Theme.callout
         font.weight: Font.Medium
     }
     TextEntry {
         Layout.fillWidth: true
-        name: entry.field.label
-        prompt: entry.field.prompt
+        name: entry.label
+        prompt: entry.prompt
         text: entry.value
         onTextEdited: entry.edited(text)
     }
-    FormNote { text: entry.field.hint }
+    FormNote { text: entry.hint }
 }

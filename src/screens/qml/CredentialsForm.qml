@@ -12,32 +12,40 @@ ColumnLayout {
     spacing: 16
 
     CredentialsEntry {
-        field: form.model.issuerField
+        label: qsTr("Issuer ID")
+        prompt: "3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15"
+        hint: qsTr("The UUID shown at the top of the Integrations → App Store Connect API page.")
         value: form.model.issuerID
         onEdited: text => form.model.issuerID = text
     }
     CredentialsEntry {
-        field: form.model.keyField
+        label: qsTr("Key ID")
+        prompt: "7QK2MZ8T5W"
+        hint: qsTr("10 characters, listed beside the key on the same page. Auto-fills when you import an "
+            + "AuthKey_<Key ID>.p8 file.")
         value: form.model.keyID
         onEdited: text => form.model.keyID = text
     }
     CredentialsEntry {
-        field: form.model.vendorField
+        label: qsTr("Vendor Number")
+        prompt: "60419372"
+        hint: qsTr("The 8-digit number in the top-left corner of Payments and Financial Reports.")
         value: form.model.vendorNumber
         onEdited: text => form.model.vendorNumber = text
     }
     ColumnLayout {
         spacing: 10
         PlainText {
-            text: form.model.fileTitle
+            text: qsTr("Private Key")
             font.pixelSize: Theme.callout
             font.weight: Font.Medium
         }
         RowLayout {
             spacing: 12
             PushButton {
+                id: importer
                 symbol: "key.fill"
-                text: form.model.importText
+                text: form.model.hasKey ? qsTr("Replace .p8 Key…") : qsTr("Import .p8 Key…")
                 onClicked: dialog.open()
             }
             RowLayout {
@@ -50,25 +58,28 @@ ColumnLayout {
                     color: Theme.good
                 }
                 PlainText {
-                    text: form.model.loadedText
+                    text: qsTr("Key loaded")
                     font.pixelSize: Theme.caption
                     color: Theme.good
                 }
             }
         }
-        FormNote { text: form.model.fileHint }
+        FormNote {
+            text: qsTr("The AuthKey_….p8 file you downloaded when the key was created — Apple offers that "
+                + "download only once.")
+        }
     }
     Flow {
         Layout.fillWidth: true
         spacing: 10
         PushButton {
             prominent: true
-            text: form.model.saveText
+            text: qsTr("Save")
             enabled: form.model.isComplete
             onClicked: form.model.save()
         }
         PushButton {
-            text: form.model.testText
+            text: qsTr("Test Connection")
             spinning: form.model.isTesting
             enabled: form.model.isComplete && !form.model.isTesting
             onClicked: form.model.test()
@@ -76,7 +87,7 @@ ColumnLayout {
         PushButton {
             visible: form.model.canRemove
             destructive: true
-            text: form.model.removeText
+            text: qsTr("Remove Key")
             onClicked: form.model.removeKey()
         }
     }
@@ -91,10 +102,10 @@ ColumnLayout {
     }
     FileDialog {
         id: dialog
-        title: form.model.importText
+        title: importer.text
         fileMode: FileDialog.OpenFile
         currentFolder: form.model.fileFolder
-        nameFilters: form.model.fileFilters
+        nameFilters: [qsTr("Private keys (*.p8)"), qsTr("Text files (*.txt *.pem)"), qsTr("All files (*)")]
         onAccepted: form.model.importKey(selectedFile)
     }
 }

@@ -26,7 +26,7 @@ ScreenScroll {
         PushButton {
             anchors.horizontalCenter: parent.horizontalCenter
             prominent: true
-            text: screen.model.fetchText
+            text: qsTr("Fetch Reports")
             enabled: screen.model.canFetch
             onClicked: screen.model.fetch()
         }
@@ -57,7 +57,6 @@ ScreenScroll {
                 width: parent.width
                 chartHeight: 240
                 chart: screen.model.chart
-                legend: screen.model.legend
                 viewport: screen
             }
         }

@@ -30,7 +30,7 @@ FocusScope {
         PushButton {
             prominent: true
             focus: true
-            text: detail.day.doneText
+            text: qsTr("Done")
             onClicked: detail.done()
         }
     }
@@ -51,7 +51,7 @@ FocusScope {
         keyNavigationEnabled: true
         model: detail.day.lines
         Accessible.role: Accessible.List
-        Accessible.name: detail.day.linesTitle
+        Accessible.name: qsTr("Line items")
         T.ScrollBar.vertical: ScrollLine {}
         header: DaySummary {
             width: lines.width - 32

@@ -22,7 +22,7 @@ Column {
             ColumnLayout {
                 spacing: 2
                 DataText {
-                    text: summary.day.proceedsTitle
+                    text: qsTr("Proceeds")
                     font.pixelSize: Theme.caption
                     color: Theme.secondary
                 }
@@ -42,7 +42,7 @@ Column {
         }
     }
     PlainText {
-        text: summary.day.linesTitle
+        text: qsTr("Line items")
         font.pixelSize: Theme.caption
         font.weight: Font.Medium
         color: Theme.secondary

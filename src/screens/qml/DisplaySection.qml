@@ -7,26 +7,27 @@ FormSection {
 
     required property DisplaySettings model
 
-    heading: model.title
+    heading: qsTr("Display")
 
     FormRow {
-        label: section.model.currencyLabel
+        id: currency
+        label: qsTr("Display currency")
         ChoiceBox {
             Layout.preferredWidth: 120
-            name: section.model.currencyLabel
+            name: currency.label
             model: section.model.currencies
             currentIndex: section.model.chosenCurrency
             onActivated: place => section.model.chooseCurrency(place)
         }
     }
     FormRow {
-        label: section.model.ratesLabel
+        label: qsTr("Exchange rates")
         PlainText {
             text: section.model.ratesAge
             color: Theme.secondary
         }
         PushButton {
-            text: section.model.refreshText
+            text: qsTr("Refresh")
             onClicked: section.model.refreshRates()
         }
     }

@@ -8,21 +8,23 @@ FormSection {
 
     required property ExportSettings model
 
-    heading: model.title
+    heading: qsTr("Export")
 
     FormRow {
-        label: section.model.kindLabel
+        id: choice
+        label: qsTr("Data")
         ChoiceBox {
             Layout.preferredWidth: 210
-            name: section.model.kindLabel
+            name: choice.label
             model: section.model.kinds
             currentIndex: section.model.chosenKind
             onActivated: place => section.model.chooseKind(place)
         }
     }
     PushButton {
+        id: exporter
         symbol: "square.and.arrow.up"
-        text: section.model.exportText
+        text: qsTr("Export CSV…")
         enabled: section.model.canExport
         Accessible.description: section.model.problem
         onClicked: {
@@ -35,14 +37,17 @@ FormSection {
         text: section.model.problem
         color: Theme.bad
     }
-    FormNote { text: section.model.caption }
+    FormNote {
+        text: qsTr("Exports use the display currency for converted columns; the by-currency column is "
+            + "exact. Days, months and years cover all apps together.")
+    }
     FileDialog {
         id: dialog
-        title: section.model.exportText
+        title: exporter.text
         fileMode: FileDialog.SaveFile
-        acceptLabel: section.model.saveText
-        defaultSuffix: section.model.fileSuffix
-        nameFilters: section.model.fileFilters
+        acceptLabel: qsTr("Save")
+        defaultSuffix: "csv"
+        nameFilters: [qsTr("Comma-separated values (*.csv)")]
         onAccepted: section.model.save(selectedFile)
     }
 }

@@ -9,8 +9,8 @@ PushButton {
     required property AppFilterPicker picker
 
     text: picker.title
-    symbol: picker.symbol
-    help: picker.help
+    symbol: "line.3.horizontal.decrease.circle"
+    help: qsTr("Choose which apps to include")
     isQuiet: menu.visible
     Accessible.role: Accessible.ButtonMenu
     onClicked: menu.visible ? menu.close() : menu.open()
@@ -26,7 +26,7 @@ PushButton {
                 width: list.width
                 focus: true
                 KeyNavigation.down: list
-                text: button.picker.allAppsTitle
+                text: qsTr("All Apps")
                 isOn: button.picker.isAllOn
                 onToggledTo: isOn => button.picker.setAllOn(isOn)
             }

@@ -7,6 +7,6 @@ BlockView {
     required property HistoryView history
     focus: true
     rows: screen.history.rows
-    Accessible.name: screen.history.title
+    Accessible.name: qsTr("History")
     delegate: BlockDelegates {}
 }

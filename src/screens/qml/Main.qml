@@ -9,7 +9,7 @@ T.ApplicationWindow {
 
     required property RootView root
 
-    title: root.windowTitle
+    title: "Vantrell"
     width: 1150
     height: 760
     minimumWidth: 640

@@ -28,13 +28,13 @@ Popover {
             }
             ArrowButton {
                 symbol: leaf.mirrored ? "chevron.right" : "chevron.left"
-                name: leaf.grid.previousText
+                name: qsTr("Previous month")
                 enabled: leaf.grid.hasPrevious
                 onClicked: leaf.grid.moveByMonths(-1)
             }
             ArrowButton {
                 symbol: leaf.mirrored ? "chevron.left" : "chevron.right"
-                name: leaf.grid.nextText
+                name: qsTr("Next month")
                 enabled: leaf.grid.hasNext
                 onClicked: leaf.grid.moveByMonths(1)
             }

@@ -7,7 +7,6 @@ ColumnLayout {
     id: detail
 
     required property var currencies
-    property string refetchText: ""
     property bool canRefetch: true
     property real codeWidth: 40
     property real convertedWidth: 80
@@ -52,7 +51,7 @@ ColumnLayout {
     }
     PushButton {
         Layout.topMargin: 4
-        text: detail.refetchText
+        text: qsTr("Re-fetch This Period")
         textSize: Theme.caption
         enabled: detail.canRefetch
         onClicked: detail.refetch()

@@ -40,7 +40,6 @@ FocusScope {
         anchors.rightMargin: 16
         sourceComponent: PayoutDetail {
             currencies: entry.row.currencies
-            refetchText: entry.model.refetchText
             canRefetch: entry.model.canRefetch
             onRefetch: entry.model.refetch(entry.index)
         }

@@ -37,12 +37,12 @@ Item {
         model: screen.model.rows
         T.ScrollBar.vertical: ScrollLine {}
         Accessible.role: Accessible.List
-        Accessible.name: screen.model.listTitle
+        Accessible.name: qsTr("Finance reports")
         header: PlainText {
             width: list.rowWidth
             bottomPadding: 8
             leftPadding: 4
-            text: screen.model.listTitle
+            text: qsTr("Finance reports")
             font.pixelSize: Theme.headline
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
@@ -51,7 +51,9 @@ Item {
             width: Math.min(list.rowWidth, 720)
             topPadding: 12
             leftPadding: 4
-            text: screen.model.footer
+            text: qsTr("What Apple actually paid, by fiscal month, in the payout currencies. Fiscal months "
+                + "end on Saturdays; reports appear about a week after close. Sales proceeds and payouts "
+                + "for the same span will be close, never identical.")
         }
         // The rows may come after the list, which would then begin below its heading.
         Timer {

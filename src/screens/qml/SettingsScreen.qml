@@ -16,8 +16,12 @@ FocusScope {
 
         FormSection {
             width: parent.width
-            heading: screen.model.credentialsTitle
-            footer: screen.model.credentialsFooter
+            heading: qsTr("App Store Connect API")
+            footer: qsTr("Generate a team key under Users and Access → Integrations → App Store Connect "
+                + "API with the Finance role. An In-App Purchase key looks identical but is rejected by "
+                + "the reports endpoints. Your vendor number is on Payments and Financial Reports. "
+                + "Credentials are stored in the Keychain and sync through iCloud Keychain — never in the "
+                + "app's database.")
             CredentialsForm { model: screen.model.credentials }
         }
         DisplaySection {
@@ -31,9 +35,9 @@ FocusScope {
         }
         FormSection {
             width: parent.width
-            heading: screen.model.updatesTitle
+            heading: qsTr("Updates")
             FormRow {
-                label: screen.model.versionLabel
+                label: "Vantrell"
                 PlainText {
                     text: screen.model.version
                     color: Theme.secondary
@@ -46,9 +50,9 @@ FocusScope {
         }
         FormSection {
             width: parent.width
-            heading: screen.model.privacyTitle
+            heading: qsTr("Privacy & Sync")
             FormRow {
-                label: screen.model.cloudLabel
+                label: qsTr("iCloud sync")
                 DataText {
                     Layout.maximumWidth: 420
                     text: screen.model.cloudStatus

@@ -30,7 +30,7 @@ Rectangle {
         model: sidebar.root.destinations
         keyNavigationEnabled: false
         Accessible.role: Accessible.List
-        Accessible.name: sidebar.root.sidebarName
+        Accessible.name: qsTr("Screens")
         Keys.onUpPressed: sidebar.root.selectNext(-1)
         Keys.onDownPressed: sidebar.root.selectNext(1)
         delegate: T.ItemDelegate {

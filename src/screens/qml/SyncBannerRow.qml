@@ -14,7 +14,7 @@ RowLayout {
         Layout.preferredWidth: 220
         indeterminate: row.banner.isIndeterminate
         value: row.banner.fraction
-        Accessible.name: row.banner.progressName
+        Accessible.name: qsTr("Sync progress")
     }
     DataText {
         Layout.fillWidth: true
@@ -24,7 +24,7 @@ RowLayout {
     }
     PushButton {
         borderless: true
-        text: row.banner.stopText
+        text: qsTr("Stop")
         textSize: Theme.caption
         onClicked: row.banner.stop()
     }

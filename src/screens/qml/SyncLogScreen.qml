@@ -28,7 +28,7 @@ ListView {
     model: list.log.rows
     T.ScrollBar.vertical: ScrollLine {}
     Accessible.role: Accessible.List
-    Accessible.name: list.log.title
+    Accessible.name: qsTr("Sync Log")
     delegate: SyncLogLine { width: list.rowWidth }
 
     Shortcut {

@@ -8,7 +8,7 @@ FormSection {
     required property SyncSettings model
     signal logPressed()
 
-    heading: model.title
+    heading: qsTr("Sync")
 
     SyncBannerRow {
         Layout.fillWidth: true
@@ -21,48 +21,53 @@ FormSection {
     RowLayout {
         spacing: 10
         PushButton {
-            text: section.model.syncText
+            text: qsTr("Sync Now")
             symbol: "arrow.clockwise"
             onClicked: section.model.sync()
         }
         PushButton {
-            text: section.model.backfillText
+            text: qsTr("Full Backfill")
             onClicked: section.model.backfill()
         }
     }
     FormRow {
-        label: section.model.dayLabel
+        id: oneDay
+        label: qsTr("Re-fetch one day")
         DatePicker {
             showsTitle: false
             field: section.model.day
         }
         PushButton {
-            text: section.model.fetchText
+            text: qsTr("Fetch")
             enabled: section.model.canFetchDay
-            Accessible.description: section.model.dayLabel
+            Accessible.description: oneDay.label
             onClicked: section.model.fetchDay()
         }
     }
     FormRow {
-        label: section.model.monthLabel
+        id: oneMonth
+        label: qsTr("Re-fetch a month (2026-08)")
         TextEntry {
             Layout.preferredWidth: 130
-            name: section.model.monthLabel
+            name: oneMonth.label
             text: section.model.month
             onTextEdited: section.model.month = text
             onAccepted: section.model.fetchMonth()
         }
         PushButton {
-            text: section.model.fetchText
+            text: qsTr("Fetch")
             enabled: section.model.canFetchMonth
-            Accessible.description: section.model.monthLabel
+            Accessible.description: oneMonth.label
             onClicked: section.model.fetchMonth()
         }
     }
     NavigationRow {
         Layout.fillWidth: true
-        text: section.model.logText
+        text: qsTr("Sync Log")
         onClicked: section.logPressed()
     }
-    FormNote { text: section.model.caption }
+    FormNote {
+        text: qsTr("Apple restates reports; re-fetching an already-held report replaces its rows and is "
+            + "always safe.")
+    }
 }

@@ -17,14 +17,14 @@ Popover {
             id: cut
             focus: pane.hasChosen
             enabled: pane.hasChosen
-            text: Theme.clipboard.cutTitle
+            text: qsTr("Cut")
             KeyNavigation.down: copy
             onClicked: pane.field.cut()
         }
         Entry {
             id: copy
             enabled: pane.hasChosen
-            text: Theme.clipboard.copyTitle
+            text: qsTr("Copy")
             KeyNavigation.up: cut
             KeyNavigation.down: paste
             onClicked: pane.field.copy()
@@ -32,7 +32,7 @@ Popover {
         Entry {
             id: paste
             enabled: pane.field.canPaste
-            text: Theme.clipboard.pasteTitle
+            text: qsTr("Paste")
             KeyNavigation.up: copy
             KeyNavigation.down: all
             onClicked: pane.field.paste()
@@ -42,7 +42,7 @@ Popover {
             id: all
             focus: !pane.hasChosen
             enabled: pane.field.length > 0
-            text: Theme.clipboard.selectAllTitle
+            text: qsTr("Select All")
             KeyNavigation.up: paste
             onClicked: pane.field.selectAll()
         }

@@ -18,8 +18,8 @@ Rectangle {
         spacing: 8
         PushButton {
             visible: toolbar.root.canGoBack
-            text: toolbar.root.backText
-            symbol: toolbar.root.backSymbol
+            text: qsTr("Back")
+            symbol: toolbar.LayoutMirroring.enabled ? "chevron.right" : "chevron.left"
             onClicked: toolbar.root.goBack()
         }
         DataText {
@@ -36,11 +36,11 @@ Rectangle {
         }
         PushButton {
             visible: toolbar.root.hasToolbarControls
-            text: toolbar.root.syncButton.title
-            symbol: toolbar.root.syncButton.symbol
+            text: qsTr("Sync Now")
+            symbol: "arrow.clockwise"
             spinning: toolbar.root.syncButton.isSpinning
             enabled: toolbar.root.syncButton.isEnabled
-            help: toolbar.root.syncButton.help
+            help: qsTr("Fetch new reports from Apple")
             onClicked: toolbar.root.syncButton.press()
         }
     }

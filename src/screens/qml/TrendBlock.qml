@@ -14,14 +14,14 @@ Column {
         width: parent.width
         spacing: 16
         SegmentedPicker {
-            name: block.model.windowName
-            titles: block.model.windowTitles
+            name: qsTr("Window")
+            titles: [qsTr("30 days"), qsTr("90 days"), qsTr("365 days"), qsTr("Custom")]
             place: block.model.windowPlace
             onChosen: place => block.model.selectWindow(place)
         }
         SegmentedPicker {
-            name: block.model.granularityName
-            titles: block.model.granularityTitles
+            name: qsTr("Granularity")
+            titles: [qsTr("Daily"), qsTr("Weekly"), qsTr("Monthly")]
             place: block.model.granularityPlace
             onChosen: place => block.model.selectGranularity(place)
         }
@@ -36,7 +36,6 @@ Column {
     ChartBlock {
         width: parent.width
         chart: block.model.chart
-        legend: block.model.legend
         viewport: block.viewport
     }
     TrendLegendGrid {

@@ -8,7 +8,7 @@ BlockView {
     required property ByDayView trends
 
     rows: screen.trends.rows
-    Accessible.name: screen.trends.title
+    Accessible.name: qsTr("Trends Over Time")
     delegate: BlockDelegates {
         DelegateChoice {
             roleValue: RowKind.Chart

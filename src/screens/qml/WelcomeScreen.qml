@@ -20,13 +20,13 @@ ScreenScroll {
             Layout.alignment: Qt.AlignHCenter
             Layout.preferredWidth: 64
             Layout.preferredHeight: 64
-            name: screen.model.symbol
+            name: "chart.line.uptrend.xyaxis.circle.fill"
             color: Theme.accent
         }
         PlainText {
             Layout.alignment: Qt.AlignHCenter
             Layout.topMargin: -8
-            text: screen.model.name
+            text: "Vantrell"
             font.pixelSize: Theme.largeTitle
             font.weight: Font.Bold
             Accessible.role: Accessible.Heading
@@ -37,7 +37,8 @@ ScreenScroll {
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
             lineHeight: 1.2
-            text: screen.model.introduction
+            text: qsTr("Your App Store earnings by app, day, month and year — plus what Apple actually "
+                + "paid. Fetched straight from Apple, stored only on your devices.")
             color: Theme.secondary
         }
         ErrorBox {
@@ -52,14 +53,14 @@ ScreenScroll {
             }
             LinkText {
                 Layout.leftMargin: 32
-                text: screen.model.linkText
+                text: qsTr("Open App Store Connect…")
                 address: screen.model.linkAddress
             }
         }
         WelcomeCard {
             spacing: 10
             PlainText {
-                text: screen.model.connectTitle
+                text: qsTr("Connect")
                 font.pixelSize: Theme.headline
                 font.weight: Font.DemiBold
                 Accessible.role: Accessible.Heading
@@ -71,7 +72,8 @@ ScreenScroll {
         }
         FormNote {
             horizontalAlignment: Text.AlignHCenter
-            text: screen.model.footnote
+            text: qsTr("The first sync fetches about a year of daily reports plus yearly, monthly and "
+                + "finance reports — roughly six minutes. The dashboard fills in as days land.")
             color: Theme.tertiary
         }
     }

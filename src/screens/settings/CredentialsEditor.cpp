@@ -42,48 +42,15 @@ void CredentialsEditor::appear() {
     Q_EMIT valuesChanged();
 }
 
-CredentialsField CredentialsEditor::issuerField() const {
-    return {.label = tr("Issuer ID"),
-            .prompt = QStringLiteral("3f7a91c2-5d04-4be8-9a16-c07e2d8b4f15"),
-            .hint = tr("The UUID shown at the top of the Integrations → App Store Connect API page.")};
-}
-
-CredentialsField CredentialsEditor::keyField() const {
-    return {.label = tr("Key ID"),
-            .prompt = QStringLiteral("7QK2MZ8T5W"),
-            .hint = tr("10 characters, listed beside the key on the same page. Auto-fills when you import "
-                       "an AuthKey_<Key ID>.p8 file.")};
-}
-
-CredentialsField CredentialsEditor::vendorField() const {
-    return {.label = tr("Vendor Number"),
-            .prompt = QStringLiteral("60419372"),
-            .hint = tr("The 8-digit number in the top-left corner of Payments and Financial Reports.")};
-}
-
-QString CredentialsEditor::fileHint() const {
-    return tr(
-        "The AuthKey_….p8 file you downloaded when the key was created — Apple offers that download "
-        "only once.");
-}
-
 QUrl CredentialsEditor::fileFolder() const {
     return QUrl::fromLocalFile(
         userFolder(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)).path());
 }
 
-QStringList CredentialsEditor::fileFilters() const {
-    return {tr("Private keys (*.p8)"), tr("Text files (*.txt *.pem)"), tr("All files (*)")};
-}
-
-QString CredentialsEditor::importText() const {
-    return hasKey() ? tr("Replace .p8 Key…") : tr("Import .p8 Key…");
-}
-
 void CredentialsEditor::importKey(const QUrl& file) {
     auto read = keyFileText(file);
     if (const auto* error = std::get_if<FileReadError>(&read)) {
-        say(tr("Could not read the key file: ") + shownText(error->description), true);
+        say(tr("Could not read the key file: %1").arg(shownText(error->description)), true);
         return;
     }
     values_.privateKeyPEM = std::get<std::string>(std::move(read));
@@ -116,7 +83,7 @@ void CredentialsEditor::removeKey() {
     try {
         parts_.engine.account().remove();
     } catch (const CredentialsError& error) {
-        say(tr("Could not remove from the Keychain: ") + shownText(error.what()), true);
+        say(tr("Could not remove from the Keychain: %1").arg(shownText(error.what())), true);
         return;
     }
     replace(values_, {values_.issuerID, values_.keyID, {}, values_.vendorNumber});
@@ -152,7 +119,7 @@ bool CredentialsEditor::isSaved() {
     try {
         parts_.engine.account().save(values_);
     } catch (const CredentialsError& error) {
-        say(tr("Could not save to the Keychain: ") + shownText(error.what()), true);
+        say(tr("Could not save to the Keychain: %1").arg(shownText(error.what())), true);
         return false;
     }
     say(tr("Saved to the Keychain."), false);

@@ -2,7 +2,6 @@
 
 #include "data/APICredentials.h"
 #include "screens/ScreenParts.h"
-#include "screens/settings/CredentialsField.h"
 
 #include <QObject>
 #include <QPointer>
@@ -18,23 +17,12 @@ class CredentialsEditor : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by its screen")
-    Q_PROPERTY(vantrell::CredentialsField issuerField READ issuerField CONSTANT)
-    Q_PROPERTY(vantrell::CredentialsField keyField READ keyField CONSTANT)
-    Q_PROPERTY(vantrell::CredentialsField vendorField READ vendorField CONSTANT)
     Q_PROPERTY(QString issuerID READ issuerID WRITE setIssuerID NOTIFY valuesChanged)
     Q_PROPERTY(QString keyID READ keyID WRITE setKeyID NOTIFY valuesChanged)
     Q_PROPERTY(QString vendorNumber READ vendorNumber WRITE setVendorNumber NOTIFY valuesChanged)
-    Q_PROPERTY(QString fileTitle READ fileTitle CONSTANT)
-    Q_PROPERTY(QString fileHint READ fileHint CONSTANT)
     Q_PROPERTY(QUrl fileFolder READ fileFolder CONSTANT)
-    Q_PROPERTY(QStringList fileFilters READ fileFilters CONSTANT)
-    Q_PROPERTY(QString importText READ importText NOTIFY valuesChanged)
     Q_PROPERTY(bool hasKey READ hasKey NOTIFY valuesChanged)
-    Q_PROPERTY(QString loadedText READ loadedText CONSTANT)
     Q_PROPERTY(bool isComplete READ isComplete NOTIFY valuesChanged)
-    Q_PROPERTY(QString saveText READ saveText CONSTANT)
-    Q_PROPERTY(QString testText READ testText CONSTANT)
-    Q_PROPERTY(QString removeText READ removeText CONSTANT)
     Q_PROPERTY(bool canRemove READ canRemove NOTIFY canRemoveChanged)
     Q_PROPERTY(bool isTesting READ isTesting NOTIFY outcomeChanged)
     Q_PROPERTY(QString status READ status NOTIFY outcomeChanged)
@@ -47,9 +35,6 @@ class CredentialsEditor : public QObject {
     /// To be called whenever the form comes into sight: it begins with what the engine holds, if anything.
     void appear();
 
-    [[nodiscard]] CredentialsField issuerField() const;
-    [[nodiscard]] CredentialsField keyField() const;
-    [[nodiscard]] CredentialsField vendorField() const;
     [[nodiscard]] QString issuerID() const { return QString::fromStdString(values_.issuerID); }
     void setIssuerID(const QString& text) { set(values_.issuerID, text); }
     [[nodiscard]] QString keyID() const { return QString::fromStdString(values_.keyID); }
@@ -57,23 +42,15 @@ class CredentialsEditor : public QObject {
     [[nodiscard]] QString vendorNumber() const { return QString::fromStdString(values_.vendorNumber); }
     void setVendorNumber(const QString& text) { set(values_.vendorNumber, text); }
 
-    [[nodiscard]] QString fileTitle() const { return tr("Private Key"); }
-    [[nodiscard]] QString fileHint() const;
     /// Where browsers put what was downloaded.
     [[nodiscard]] QUrl fileFolder() const;
-    [[nodiscard]] QStringList fileFilters() const;
-    [[nodiscard]] QString importText() const;
     [[nodiscard]] bool hasKey() const { return !values_.privateKeyPEM.empty(); }
-    [[nodiscard]] QString loadedText() const { return tr("Key loaded"); }
     /// Takes the key from a file of at most 64 KiB, and its ID from a name like "AuthKey_<Key ID>.p8". What
     /// is imported has to be saved yet.
     Q_INVOKABLE void importKey(const QUrl& file);
 
     /// None of the four is empty, so that they can be saved and tried.
     [[nodiscard]] bool isComplete() const { return values_.isComplete(); }
-    [[nodiscard]] QString saveText() const { return tr("Save"); }
-    [[nodiscard]] QString testText() const { return tr("Test Connection"); }
-    [[nodiscard]] QString removeText() const { return tr("Remove Key"); }
     [[nodiscard]] bool canRemove() const { return parts_.engine.hasCredentials(); }
     /// Saves, and fetches everything if nothing was fetched yet.
     Q_INVOKABLE void save();

@@ -33,8 +33,9 @@ void DisplaySettings::chooseCurrency(int place) {
 
 QString DisplaySettings::ratesAge() const {
     const auto fetchedAt = parts_.store.converter().fetchedAt;
-    return fetchedAt ? tr("Updated ") + fromUtf8(parts_.locale.relativeTime(*fetchedAt, parts_.clock.now(),
-                                                                            parts_.localTime.zone()))
+    return fetchedAt ? tr("Updated %1")
+                           .arg(fromUtf8(parts_.locale.relativeTime(*fetchedAt, parts_.clock.now(),
+                                                                    parts_.localTime.zone())))
                      : tr("Not fetched yet");
 }
 

@@ -16,27 +16,19 @@ class DisplaySettings : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by its screen")
-    Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QString currencyLabel READ currencyLabel CONSTANT)
     Q_PROPERTY(QStringList currencies READ currencies NOTIFY currenciesChanged)
     Q_PROPERTY(int chosenCurrency READ chosenCurrency NOTIFY currenciesChanged)
-    Q_PROPERTY(QString ratesLabel READ ratesLabel CONSTANT)
     Q_PROPERTY(QString ratesAge READ ratesAge NOTIFY ratesAgeChanged)
-    Q_PROPERTY(QString refreshText READ refreshText CONSTANT)
     Q_PROPERTY(QString caption READ caption CONSTANT)
 
   public:
     explicit DisplaySettings(const ScreenParts& parts, QObject* parent = nullptr);
 
-    [[nodiscard]] QString title() const { return tr("Display"); }
-    [[nodiscard]] QString currencyLabel() const { return tr("Display currency"); }
     [[nodiscard]] QStringList currencies() const;
     [[nodiscard]] int chosenCurrency() const;
     /// `place` is that of one of `currencies`; others change nothing.
     Q_INVOKABLE void chooseCurrency(int place);
-    [[nodiscard]] QString ratesLabel() const { return tr("Exchange rates"); }
     [[nodiscard]] QString ratesAge() const;
-    [[nodiscard]] QString refreshText() const { return tr("Refresh"); }
     Q_INVOKABLE void refreshRates();
     [[nodiscard]] QString caption() const;
 

@@ -3,6 +3,7 @@
 #include "files/AtomicFile.h"
 #include "screens/components/ShownText.h"
 #include "screens/settings/UserFolder.h"
+#include "screens/words/SalesWords.h"
 
 #include <utility>
 
@@ -24,7 +25,7 @@ ExportSettings::~ExportSettings() {
 QStringList ExportSettings::kinds() const {
     QStringList labels;
     for (const ExportKind kind : exportKinds) {
-        labels += fromUtf8(exportLabel(kind));
+        labels += exportLabel(kind);
     }
     return labels;
 }
@@ -37,12 +38,6 @@ void ExportSettings::chooseKind(int place) {
     }
 }
 
-QString ExportSettings::caption() const {
-    return tr(
-        "Exports use the display currency for converted columns; the by-currency column is exact. "
-        "Days, months and years cover all apps together.");
-}
-
 QString ExportSettings::problem() const {
     return canExport()
                ? problem_
@@ -52,7 +47,7 @@ QString ExportSettings::problem() const {
 QUrl ExportSettings::prepare() {
     say({});
     text_ = vantrell::exportText(store_, kind_);
-    const QString name = fromUtf8(exportFileName(kind_)) + QLatin1Char('.') + fileSuffix();
+    const QString name = fromUtf8(exportFileName(kind_)) + QStringLiteral(".csv");
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QUrl::fromLocalFile(userFolder(documents).filePath(name));
 }

@@ -18,15 +18,8 @@ class ExportSettings : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by its screen")
-    Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QString kindLabel READ kindLabel CONSTANT)
     Q_PROPERTY(QStringList kinds READ kinds CONSTANT)
     Q_PROPERTY(int chosenKind READ chosenKind NOTIFY chosenKindChanged)
-    Q_PROPERTY(QString exportText READ exportText CONSTANT)
-    Q_PROPERTY(QString saveText READ saveText CONSTANT)
-    Q_PROPERTY(QString fileSuffix READ fileSuffix CONSTANT)
-    Q_PROPERTY(QStringList fileFilters READ fileFilters CONSTANT)
-    Q_PROPERTY(QString caption READ caption CONSTANT)
     Q_PROPERTY(bool canExport READ canExport NOTIFY outcomeChanged)
     Q_PROPERTY(QString problem READ problem NOTIFY outcomeChanged)
 
@@ -35,17 +28,10 @@ class ExportSettings : public QObject {
     /// Waits for the file that is being written.
     ~ExportSettings() override;
 
-    [[nodiscard]] QString title() const { return tr("Export"); }
-    [[nodiscard]] QString kindLabel() const { return tr("Data"); }
     [[nodiscard]] QStringList kinds() const;
     [[nodiscard]] int chosenKind() const { return static_cast<int>(kind_); }
     /// `place` is that of one of `kinds`; others change nothing.
     Q_INVOKABLE void chooseKind(int place);
-    [[nodiscard]] QString exportText() const { return tr("Export CSV…"); }
-    [[nodiscard]] QString saveText() const { return tr("Save"); }
-    [[nodiscard]] QString fileSuffix() const { return QStringLiteral("csv"); }
-    [[nodiscard]] QStringList fileFilters() const { return {tr("Comma-separated values (*.csv)")}; }
-    [[nodiscard]] QString caption() const;
     /// False while the store is damaged, since a file would lack what can't be read.
     [[nodiscard]] bool canExport() const { return !health_.isDamaged(); }
     /// Why nothing can be exported, or why the last file wasn't written; empty if neither is so.

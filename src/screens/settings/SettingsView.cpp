@@ -16,14 +16,6 @@ SettingsView::SettingsView(const ScreenParts& parts, QObject* parent)
     connect(this, &Screen::inSightChanged, this, &SettingsView::appearOrLeave);
 }
 
-QString SettingsView::credentialsFooter() const {
-    return tr(
-        "Generate a team key under Users and Access → Integrations → App Store Connect API with the "
-        "Finance role. An In-App Purchase key looks identical but is rejected by the reports endpoints. "
-        "Your vendor number is on Payments and Financial Reports. Credentials are stored in the Keychain "
-        "and sync through iCloud Keychain — never in the app's database.");
-}
-
 QString SettingsView::cloudStatus() const {
     return parts().cloudSyncActive ? tr("Active") : tr("Not active — data is stored on this device only");
 }

@@ -17,18 +17,11 @@ class SettingsView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")
-    Q_PROPERTY(QString title READ title CONSTANT)
-    Q_PROPERTY(QString credentialsTitle READ credentialsTitle CONSTANT)
-    Q_PROPERTY(QString credentialsFooter READ credentialsFooter CONSTANT)
     Q_PROPERTY(vantrell::CredentialsEditor* credentials READ credentials CONSTANT)
     Q_PROPERTY(vantrell::DisplaySettings* display READ display CONSTANT)
     Q_PROPERTY(vantrell::SyncSettings* sync READ sync CONSTANT)
     Q_PROPERTY(vantrell::ExportSettings* exports READ exports CONSTANT)
-    Q_PROPERTY(QString updatesTitle READ updatesTitle CONSTANT)
-    Q_PROPERTY(QString versionLabel READ versionLabel CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
-    Q_PROPERTY(QString privacyTitle READ privacyTitle CONSTANT)
-    Q_PROPERTY(QString cloudLabel READ cloudLabel CONSTANT)
     Q_PROPERTY(QString cloudStatus READ cloudStatus CONSTANT)
     Q_PROPERTY(vantrell::Tone::Value cloudTone READ cloudTone CONSTANT)
     Q_PROPERTY(QString privacyText READ privacyText CONSTANT)
@@ -38,27 +31,19 @@ class SettingsView : public vantrell::Screen {
   public:
     explicit SettingsView(const ScreenParts& parts, QObject* parent = nullptr);
 
-    [[nodiscard]] QString title() const { return tr("Settings"); }
-    [[nodiscard]] QString credentialsTitle() const { return tr("App Store Connect API"); }
-    [[nodiscard]] QString credentialsFooter() const;
     [[nodiscard]] CredentialsEditor* credentials() { return &credentials_; }
     [[nodiscard]] DisplaySettings* display() { return &display_; }
     [[nodiscard]] SyncSettings* sync() { return &sync_; }
     [[nodiscard]] ExportSettings* exports() { return &exports_; }
 
-    [[nodiscard]] QString updatesTitle() const { return tr("Updates"); }
-    [[nodiscard]] QString versionLabel() const { return QStringLiteral("Vantrell"); }
     [[nodiscard]] QString version() const { return AboutView::version(); }
 
-    [[nodiscard]] QString privacyTitle() const { return tr("Privacy & Sync"); }
-    [[nodiscard]] QString cloudLabel() const { return tr("iCloud sync"); }
     [[nodiscard]] QString cloudStatus() const;
     [[nodiscard]] Tone::Value cloudTone() const;
     [[nodiscard]] QString privacyText() const;
 
     /// The log lies over the settings until the user goes back.
     [[nodiscard]] SyncLogView* log() { return &log_; }
-    [[nodiscard]] QString logTitle() const { return log_.title(); }
     [[nodiscard]] bool isLogShown() const { return isLogShown_; }
     Q_INVOKABLE void openLog() { showLog(true); }
     Q_INVOKABLE void closeLog() { showLog(false); }

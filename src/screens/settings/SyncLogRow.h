@@ -3,7 +3,7 @@
 #include "base/LocalTime.h"
 #include "data/SyncLogEntry.h"
 #include "locale/Locale.h"
-#include "screens/components/StatusLabel.h"
+#include "screens/words/StatusLabel.h"
 
 #include <QObject>
 #include <QString>

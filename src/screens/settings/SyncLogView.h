@@ -11,13 +11,11 @@ class SyncLogView : public vantrell::Screen {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by its screen")
-    Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(vantrell::RowList* rows READ rows CONSTANT)
 
   public:
     explicit SyncLogView(const ScreenParts& parts, QObject* parent = nullptr);
 
-    [[nodiscard]] QString title() const { return tr("Sync Log"); }
     /// At most 500, newest first.
     [[nodiscard]] RowList* rows() { return &rows_; }
 

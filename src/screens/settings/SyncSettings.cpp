@@ -8,7 +8,7 @@
 namespace vantrell {
 
 SyncSettings::SyncSettings(const ScreenParts& parts, QObject* parent)
-    : QObject(parent), parts_(parts), banner_(parts.engine), day_(parts.locale, dayLabel()) {
+    : QObject(parent), parts_(parts), banner_(parts.engine), day_(parts.locale, tr("Re-fetch one day")) {
     connect(&parts.engine, &SyncEngine::lastRunChanged, this, &SyncSettings::summaryChanged);
     connect(&parts.engine, &SyncEngine::isSyncingChanged, this, &SyncSettings::requestsChanged);
     connect(&day_, &DateField::picked, this, &SyncSettings::chooseDay);
@@ -42,12 +42,6 @@ void SyncSettings::fetchMonth() {
     if (canFetchMonth()) {
         parts_.tasks.spawn(parts_.engine.refetchMonth(month_.toStdString()));
     }
-}
-
-QString SyncSettings::caption() const {
-    return tr(
-        "Apple restates reports; re-fetching an already-held report replaces its rows and is always "
-        "safe.");
 }
 
 // A window may stay open for days: the last choice of another day would be a trap.

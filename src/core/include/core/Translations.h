@@ -16,6 +16,7 @@ class Translations {
   private:
     QTranslator english_;
     QTranslator own_;
+    QTranslator ofQt_;  ///< of its dialogs, where they are installed
 };
 
 }  // namespace vantrell

@@ -3,6 +3,7 @@
 #include "currency/CurrencyConverter.h"
 #include "figures/EarningsStore.h"
 #include "figures/Periods.h"
+#include "figures/Products.h"
 
 #include <array>
 #include <string>
@@ -19,8 +20,6 @@ enum class ExportKind { days, months, years, payouts, products };
 inline constexpr std::array exportKinds{ExportKind::days, ExportKind::months, ExportKind::years,
                                         ExportKind::payouts, ExportKind::products};
 
-/// What the user chooses by, such as "Daily (last 365 days)".
-[[nodiscard]] std::string_view exportLabel(ExportKind kind);
 /// Without an extension.
 [[nodiscard]] std::string_view exportFileName(ExportKind kind);
 /// The whole file.
@@ -32,6 +31,11 @@ inline constexpr std::array exportKinds{ExportKind::days, ExportKind::months, Ex
 [[nodiscard]] std::string exportPeriods(const EarningsStore& store, const std::vector<PeriodStat>& periods);
 [[nodiscard]] std::string exportPayouts(const EarningsStore& store);
 [[nodiscard]] std::string exportProducts(const EarningsStore& store);
+
+// The words of the files, which are English in every language.
+[[nodiscard]] std::string sourceText(PeriodSource source);
+/// What a product is, and of which app.
+[[nodiscard]] std::string formText(const ProductStat& product);
 
 /// The columns that all exports but the payouts share.
 [[nodiscard]] std::vector<std::string> statsHeader(const CurrencyConverter& converter);

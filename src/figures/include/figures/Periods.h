@@ -10,11 +10,17 @@
 
 namespace vantrell {
 
+/// Which reports a period's figures come from.
+enum class PeriodSource { dailyReports, monthToDate, yearToDate, monthlyReport, yearlyReport };
+
 /// One month, year or other stretch of a list.
 struct PeriodStat {
     std::string label;
-    std::string note;  ///< where the figures come from, for the user
+    PeriodSource source = PeriodSource::dailyReports;
     AggregateStats stats;
+    // Of a bucket: how many days it has, and how many of them need no further request.
+    int days = 0;
+    int fetchedDays = 0;
     bool operator==(const PeriodStat&) const = default;
 };
 

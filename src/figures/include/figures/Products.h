@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,7 +20,7 @@ namespace vantrell {
 struct ProductWindowStat {
     std::int64_t productID = 0;
     std::int64_t appID = 0;
-    std::string title;
+    std::string title;            ///< empty for the paid downloads
     bool isAppPurchases = false;  ///< paid downloads of the app itself
     AggregateStats last30;        ///< windows and sort value as those of an app
     AggregateStats last365;
@@ -31,11 +32,15 @@ struct ProductWindowStat {
 
 using ProductWindows = std::map<std::int64_t, std::vector<ProductWindowStat>>;  ///< by app
 
+/// What a product is; unknown for one that the catalog doesn't hold.
+enum class ProductForm { unknown, app, inAppPurchase, subscription };
+
 /// What one app or product sold in all time.
 struct ProductStat {
     std::int64_t productID = 0;  ///< Apple identifier; 0 for lines that have none
     std::string title;
-    std::string subtitle;  ///< what it is, and of which app
+    ProductForm form = ProductForm::unknown;
+    std::optional<std::string> appTitle;  ///< of the app that it is a product of
     AggregateStats stats;
     double sortValue = 0;  ///< in the display currency; what has no rate counts for nothing
     bool operator==(const ProductStat&) const = default;

@@ -29,7 +29,7 @@ struct TrendBuckets {
 /// The share of one app, or of all others together, in a bucket; in the display currency and only for
 /// drawing.
 struct TrendSlice {
-    std::optional<std::int64_t> appID;  ///< absent for "Other"
+    std::optional<std::int64_t> appID;  ///< absent for all others together, which have no title
     std::string title;
     std::optional<int> colorIndex;  ///< from 0 to 7; absent for an app that is not among the largest
     double proceeds = 0;            ///< sum of the lines worth more than 0
@@ -51,7 +51,7 @@ struct TrendLegendItem {
 
 struct Trend {
     std::vector<TrendPoint> points;       ///< oldest first
-    std::vector<TrendLegendItem> legend;  ///< apps by size, then "Other"
+    std::vector<TrendLegendItem> legend;  ///< apps by size, then all others together
 };
 
 /// The first day of the bucket that `day` lies in.
@@ -68,13 +68,13 @@ struct Trend {
                                         TrendGranularity granularity);
 /// The bucket that begins with `start`, for the user.
 [[nodiscard]] std::string bucketLabel(const Locale& locale, CivilDate start, TrendGranularity granularity);
-/// Each bucket's figures with a note on how many of its days were fetched, newest first.
+/// Each bucket's figures and how many of its days were fetched, newest first.
 [[nodiscard]] std::vector<PeriodStat> bucketStats(const SharedSnapshot& snapshot, const Locale& locale,
                                                   const std::string& from, const std::string& to,
                                                   TrendGranularity granularity, const AppFilter& apps);
 /// Each bucket split by app. The eight apps that earned most in all time have a colour, which thus depends on
-/// neither range nor filter. Without a filter what belongs to no app with a colour falls under "Other"; with
-/// one every app of the filter stands by itself. Lines without a rate are left out.
+/// neither range nor filter. Without a filter what belongs to no app with a colour falls under all others
+/// together; with one every app of the filter stands by itself. Lines without a rate are left out.
 [[nodiscard]] Trend trend(const SharedSnapshot& snapshot, const CurrencyConverter& converter,
                           const Locale& locale, const std::string& from, const std::string& to,
                           TrendGranularity granularity, const AppFilter& apps);

@@ -42,8 +42,6 @@ class Locale {
     [[nodiscard]] std::optional<std::string> regionCode() const;
     /// BCP 47 tag of the messages locale, such as "de-DE".
     [[nodiscard]] std::string languageTag() const;
-    /// Whether the messages locale's script is.
-    [[nodiscard]] bool isRightToLeft() const;
     /// The name of an ISO 3166 region in the messages locale; an unknown code as it is.
     [[nodiscard]] std::string regionName(std::string_view code) const;
 

@@ -1,4 +1,4 @@
-#include "screens/StoreNotice.h"
+#include "screens/words/StoreNotice.h"
 
 #include "data/ReportFrequency.h"
 #include "screens/components/ShownText.h"

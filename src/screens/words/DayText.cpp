@@ -1,4 +1,4 @@
-#include "screens/components/DayText.h"
+#include "screens/words/DayText.h"
 
 #include "calendar/DayKey.h"
 #include "calendar/YearMonth.h"
@@ -8,12 +8,12 @@
 
 namespace vantrell {
 
-std::string dayShortText(const ReportCalendar& calendar, const Locale& locale, const std::string& key) {
+QString dayShortText(const ReportCalendar& calendar, const Locale& locale, const std::string& key) {
     if (key == calendar.dayKey(1)) {
-        return QCoreApplication::translate("DayText", "Yesterday").toStdString();
+        return QCoreApplication::translate("DayText", "Yesterday");
     }
     const auto day = dateFromDayKey(key);
-    return day ? locale.weekdayMonthDay(*day) : key;
+    return day ? fromUtf8(locale.weekdayMonthDay(*day)) : shownText(key);
 }
 
 QString dayTitle(const Locale& locale, std::string_view key) {

@@ -11,8 +11,8 @@
 namespace vantrell {
 
 /// "Yesterday", else abbreviated weekday, month and day; a key that is no date stays as it is.
-[[nodiscard]] std::string dayShortText(const ReportCalendar& calendar, const Locale& locale,
-                                       const std::string& key);
+[[nodiscard]] QString dayShortText(const ReportCalendar& calendar, const Locale& locale,
+                                   const std::string& key);
 
 /// The day written out, such as "Tuesday, Mar 3, 2026"; a key that is no date stays as it is.
 [[nodiscard]] QString dayTitle(const Locale& locale, std::string_view key);

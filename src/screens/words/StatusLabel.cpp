@@ -1,4 +1,4 @@
-#include "screens/components/StatusLabel.h"
+#include "screens/words/StatusLabel.h"
 
 #include <QCoreApplication>
 
