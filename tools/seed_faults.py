@@ -2,17 +2,21 @@
 """A test of the tests: seeds the faults of faults.txt, one at a time, into a copy of the sources, and counts those
 that the suites catch. Each is one that a developer could make. What no suite catches is named.
 
-    tools/seed_faults.py [--only text] [cmake option ...]
+    tools/seed_faults.py [--only text | --drawn N --below folder[,folder] [--seed N]] [cmake option ...]
 
---only takes the faults whose line has this text. Options such as -DVANTRELL_SANITIZE=ON go to the build, which is a
-debug build without sanitizers at first and stays in build/faults.
+--only takes the faults whose line has this text; --drawn seeds faults drawn at random from the sources below the
+folders instead, until so many that build are counted. Options such as -DVANTRELL_SANITIZE=ON go to the build, which
+is a debug build without sanitizers at first and stays in build/faults.
 """
 
+import argparse
 import functools
 import os
 import pathlib
 import subprocess
 import sys
+
+import draw_faults
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 COPY = ROOT / "build/faults"
@@ -23,11 +27,15 @@ ENVIRONMENT = os.environ | ({"TMPDIR": "/dev/shm"} if os.access("/dev/shm", os.W
 
 # The suites that are asked about a fault below a folder, the quickest first.
 SUITES = {
-    "src/data": ["store", "sync", "earnings", "torture_storage", "torture_bad-stores"],
     "src/data/Sqlite": ["store", "sync", "torture_storage"],
+    "src/data": ["store", "sync", "earnings", "torture_storage", "torture_bad-stores"],
+    "src/calendar": ["calendar", "sync", "earnings", "exports"],
+    "src/currency": ["currency", "sync", "earnings", "exports"],
+    "src/reports": ["reports", "sync", "exports"],
+    "src/figures": ["earnings", "figures_of_any_account", "exports", "transcripts", "window"],
     "src/sync": ["sync", "screens", "secrets_in_memory", "torture_storage"],
     "src/files": ["json_defaults", "files", "settings", "torture_storage"],
-    "src/screens": ["settings", "screens"],
+    "src/screens": ["charts", "settings", "screens", "transcripts", "window", "drive", "trial"],
 }
 TORTURE = ["vantrell-demo", "vantrell_storage_shim"]
 
@@ -94,22 +102,52 @@ def outcome(file, old, new):
     return "SURVIVES"
 
 
-def main():
-    options = sys.argv[1:]
-    only = options.pop(options.index("--only") + 1) if "--only" in options else ""
-    options = [option for option in options if option != "--only"]
+def count_drawn(chosen):
+    """Until so many were seeded; a fault that doesn't build was sprung by the compiler."""
+    seeded = caught = 0
+    faults = draw_faults.drawn(ROOT, chosen.below.split(","), 4 * chosen.drawn, chosen.seed)
+    while seeded < chosen.drawn:
+        fault = next(faults)
+        told = outcome(*fault)
+        show(told, fault)
+        seeded += not told.startswith("NOT SEEDED")
+        caught += told.startswith("caught")
+    return seeded, caught
+
+
+def count_listed(only):
     faults = [fault for fault in read_faults() if only in " @@ ".join(fault)]
+    told = []
+    for fault in faults:
+        told.append(outcome(*fault))
+        show(told[-1], fault)
+    return len(faults), sum(one.startswith("caught") for one in told)
+
+
+def show(told, fault):
+    file, old, new = fault
+    common = len(os.path.commonprefix([old, new]))
+    start = old.rfind("\n", 0, common) + 1
+    print(f"{told}: {file}: {old[start:].strip()} => {new[start:].strip() or '(nothing)'}".replace("\n", " "),
+          flush=True)
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--only", default="")
+    parser.add_argument("--drawn", type=int, default=0)
+    parser.add_argument("--below", default="src/screens")
+    parser.add_argument("--seed", type=int, default=1)
+    chosen, options = parser.parse_known_args()
     copy_sources()
-    configured = run("cmake", "-S", COPY, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug", *options)
+    # One source a compilation, since one at a time is changed.
+    configured = run("cmake", "-S", COPY, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
+                     "-DVANTRELL_UNITY=OFF", *options)
     if configured.returncode != 0:
         raise SystemExit(configured.stderr)
-    caught = 0
-    for file, old, new in faults:
-        told = outcome(file, old, new)
-        caught += told.startswith("caught")
-        print(f"{told}: {file}: {old} => {new or '(nothing)'}".replace("\n", " "), flush=True)
-    print(f"seeded faults: {len(faults)}, caught {caught}")
-    return 0 if caught >= MARK * len(faults) else 1
+    seeded, caught = count_drawn(chosen) if chosen.drawn else count_listed(chosen.only)
+    print(f"seeded faults: {seeded}, caught {caught}")
+    return 0 if caught >= MARK * seeded else 1
 
 
 if __name__ == "__main__":

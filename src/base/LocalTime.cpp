@@ -80,7 +80,7 @@ TimeZone TimeZone::ofHost() {
     } else if (const auto own = QTimeZone::systemTimeZone(); own.isValid()) {
         rules = own;
     }
-    return TimeZone(std::make_shared<const Zone>(Zone{std::move(rules)}));
+    return TimeZone(std::make_shared<const Zone>(Zone{rules}));
 }
 
 std::string TimeZone::id() const {

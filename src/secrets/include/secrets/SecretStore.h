@@ -41,7 +41,7 @@ class SecretStore {
     [[nodiscard]] virtual std::optional<SecretError> remove(std::string_view service,
                                                             std::string_view account) = 0;
     /// `tell` is called, once for each, with the answer to a read that was given up because it took too long.
-    virtual void whenAnsweredLate(std::function<void(const SecretRead&)> /*tell*/) {}
+    virtual void whenAnsweredLate(const std::function<void(const SecretRead&)>& /*tell*/) {}
 };
 
 }  // namespace vantrell
