@@ -1,5 +1,8 @@
 #include "core/MyApp.h"
 
+#include "CoreLog.h"
+#include "base/ProgramVersion.h"
+
 #include <chrono>
 #include <tuple>
 #include <utility>
@@ -9,6 +12,8 @@ namespace vantrell {
 std::variant<std::unique_ptr<MyApp>, StartFailure> MyApp::start(const MyAppParts& parts,
                                                                 const std::filesystem::path& storeFile,
                                                                 const SyncEngineSettings& settings) {
+    qCInfo(coreLog) << "version" << QByteArray::fromStdString(std::string(programVersion())) << "on Qt"
+                    << qVersion();
     bool cloudSyncActive = true;
     auto opened = ModelContainer::open({.file = storeFile, .cloudDatabase = CloudDatabase::automatic});
     if (std::holds_alternative<StoreError>(opened)) {
@@ -17,6 +22,7 @@ std::variant<std::unique_ptr<MyApp>, StartFailure> MyApp::start(const MyAppParts
         opened = ModelContainer::open({.file = storeFile, .cloudDatabase = CloudDatabase::none});
     }
     if (const auto* error = std::get_if<StoreError>(&opened)) {
+        qCWarning(coreLog) << "no store:" << error->description.c_str();
         return StartFailure{"Could not create the model container: " + error->description};
     }
     auto& container = std::get<std::unique_ptr<ModelContainer>>(opened);

@@ -1,5 +1,7 @@
 #include "currency/RatesFetcher.h"
 
+#include "CurrencyLog.h"
+
 #include <chrono>
 #include <utility>
 
@@ -30,7 +32,13 @@ QCoro::Task<RatesAnswer> RatesFetcher::fetch(HttpClient& http, std::string origi
     if (const auto* failure = std::get_if<HttpFailure>(&result)) {
         co_return RatesError{failure->description};
     }
-    co_return parse(std::get<HttpResponse>(result).body);
+    auto answer = parse(std::get<HttpResponse>(result).body);
+    if (const auto* rates = std::get_if<Rates>(&answer)) {
+        qCInfo(currencyLog) << rates->size() << "rates";
+    } else {
+        qCWarning(currencyLog) << std::get<RatesError>(answer).description.c_str();
+    }
+    co_return answer;
 }
 
 RatesAnswer RatesFetcher::parse(std::string_view body) {

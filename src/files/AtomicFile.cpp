@@ -1,5 +1,7 @@
 #include "files/AtomicFile.h"
 
+#include "FilesLog.h"
+
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -116,7 +118,12 @@ std::optional<std::string> writeAtomically(const fs::path& file, std::string_vie
     const bool isDone = draft.isMade() && draft.write(bytes) &&
                         (!takesOver || draft.setMode(old.st_mode & permissionBits)) && draft.finish() &&
                         draft.takePlace();
-    return isDone ? std::nullopt : std::optional(told(file, lastError()));
+    if (isDone) {
+        return std::nullopt;
+    }
+    auto problem = told(file, lastError());
+    qCWarning(filesLog) << problem.c_str();
+    return problem;
 }
 
 }  // namespace vantrell

@@ -1,5 +1,6 @@
 #include "icons/IconLookup.h"
 
+#include "IconsLog.h"
 #include "net/RequestUrl.h"
 
 #include <chrono>
@@ -94,7 +95,9 @@ QCoro::Task<IconAddresses> IconLookup::fetch(HttpClient& http, std::string servi
                         .maxErrorBodyBytes = maxBodyBytes};
     const HttpResult result = co_await http.get(std::move(request), std::move(cancel));
     const auto* response = std::get_if<HttpResponse>(&result);
-    co_return response == nullptr ? IconAddresses() : parse(response->body);
+    auto found = response == nullptr ? IconAddresses() : parse(response->body);
+    qCInfo(iconsLog) << found.size() << "icons of" << appleIDs.size() << "apps";
+    co_return found;
 }
 
 IconAddresses IconLookup::parse(std::string_view body) {

@@ -1,6 +1,7 @@
 #include "HttpExchange.h"
 
 #include "HttpFailureText.h"
+#include "NetLog.h"
 
 #include <algorithm>
 #include <memory>
@@ -40,6 +41,15 @@ class SystemProxies final : public QNetworkProxyFactory {
 
 QByteArray toQt(std::string_view text) {
     return {text.data(), static_cast<qsizetype>(text.size())};
+}
+
+/// For a diagnostic line.
+QString outcomeOf(const HttpResult& result) {
+    if (const auto* failure = std::get_if<HttpFailure>(&result)) {
+        return QString::fromStdString(failure->description);
+    }
+    const auto& answer = std::get<HttpResponse>(result);
+    return QStringLiteral("%1, %2 bytes").arg(answer.status.value_or(0)).arg(answer.body.size());
 }
 
 bool isWebAddress(const QUrl& url) {
@@ -227,6 +237,8 @@ bool HttpExchange::follow(int status) {
 
 void HttpExchange::finish(HttpResult result) {
     result_ = std::move(result);
+    // A query may hold what only the service should know.
+    qCInfo(netLog).noquote() << url_.host() << url_.path() << outcomeOf(*result_);
     idle_.stop();
     total_.stop();
     // Neither an abort nor the waiting code from within a signal of the reply: Qt takes the one badly, and

@@ -1,7 +1,11 @@
 #include "screens/AboutView.h"
 
 #include "base/ProgramVersion.h"
+#include "screens/Diagnostics.h"
 #include "screens/components/ShownText.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 namespace vantrell {
 
@@ -16,6 +20,10 @@ void AboutView::open() {
 
 void AboutView::close() {
     setOpen(false);
+}
+
+void AboutView::copyDiagnostics() const {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(diagnosticsText(parts_)));
 }
 
 void AboutView::setOpen(bool isOpen) {

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "screens/ScreenParts.h"
+
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
 namespace vantrell {
 
-/// The small window that says which program and version this is; open at most once.
+/// The small window that says which program and version this is, and copies what a report of a fault needs;
+/// open at most once.
 class AboutView : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -15,13 +18,16 @@ class AboutView : public QObject {
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
 
   public:
-    using QObject::QObject;
+    explicit AboutView(const ScreenParts& parts, QObject* parent = nullptr)
+        : QObject(parent), parts_(parts) {}
 
     [[nodiscard]] static QString version();
     [[nodiscard]] bool isOpen() const { return isOpen_; }
     /// Where it is open already, it comes to the front.
     Q_INVOKABLE void open();
     Q_INVOKABLE void close();
+    /// To the clipboard, for a report of a fault.
+    Q_INVOKABLE void copyDiagnostics() const;
 
   Q_SIGNALS:
     void isOpenChanged();
@@ -30,6 +36,7 @@ class AboutView : public QObject {
   private:
     void setOpen(bool isOpen);
 
+    ScreenParts parts_;
     bool isOpen_ = false;
 };
 

@@ -23,6 +23,7 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
       payouts_(parts),
       settings_(parts),
       welcome_(parts),
+      about_(parts),
       menu_(about_) {
     destinations_.show(destinationItems());
     connect(&parts.appearance, &Appearance::isDarkChanged, this, &RootView::isDarkChanged);

@@ -1,6 +1,7 @@
 #include "secrets/KeychainSecretStore.h"
 
 #include "SecretServiceLock.h"
+#include "SecretsLog.h"
 
 #include <utility>
 
@@ -58,6 +59,7 @@ KeychainSecretStore::KeychainSecretStore(std::chrono::milliseconds readPatience,
 SecretRead KeychainSecretStore::read(std::string_view service, std::string_view account) {
     const auto outcome =
         run(std::make_unique<QKeychain::ReadPasswordJob>(QString::fromUtf8(service)), account, readPatience_);
+    qCInfo(secretsLog) << "read:" << outcome.error << outcome.message.c_str();
     if (outcome.isLate) {
         tellWhenAnswered(std::string(service), std::string(account));
         return SecretUnreadable{outcome.message};

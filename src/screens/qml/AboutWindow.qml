@@ -56,5 +56,17 @@ T.ApplicationWindow {
             font.pixelSize: Theme.callout
             color: Theme.secondary
         }
+        PushButton {
+            property bool isDone: false
+
+            Layout.alignment: Qt.AlignHCenter
+            Layout.topMargin: 10
+            text: isDone ? qsTr("Copied") : qsTr("Copy Diagnostics")
+            help: qsTr("Copies version, system and the state of store and reports, without key, names or amounts.")
+            onClicked: {
+                window.model.copyDiagnostics()
+                isDone = true
+            }
+        }
     }
 }

@@ -31,9 +31,7 @@ class KeychainSecretStore final : public SecretStore {
                                                  std::string_view secret) override;
     [[nodiscard]] std::optional<SecretError> remove(std::string_view service,
                                                     std::string_view account) override;
-    void whenAnsweredLate(const std::function<void(const SecretRead&)>& tell) override {
-        tellLate_ = tell;
-    }
+    void whenAnsweredLate(const std::function<void(const SecretRead&)>& tell) override { tellLate_ = tell; }
 
   private:
     struct Outcome;

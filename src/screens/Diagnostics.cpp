@@ -1,0 +1,58 @@
+#include "screens/Diagnostics.h"
+
+#include "base/ProgramVersion.h"
+#include "data/ReportFrequency.h"
+#include "screens/StoreNotice.h"
+
+#include <map>
+#include <sstream>
+
+#include <QGuiApplication>
+#include <QSysInfo>
+
+namespace vantrell {
+namespace {
+
+void tellReports(ModelContext& context, std::ostream& text) {
+    std::map<std::string, std::map<std::string_view, int>> counts;
+    for (const auto& [id, report] : context.salesReports().all()) {
+        const auto frequency = reportFrequency(report.frequencyRaw);
+        ++counts[frequency ? std::string(lowerCaseText(*frequency)) : "other"][rawText(report.status())];
+    }
+    for (const auto& [id, report] : context.financeReports().all()) {
+        ++counts["finance"][rawText(report.status())];
+    }
+    for (const auto& [kind, byStatus] : counts) {
+        text << "Reports, " << kind << ":";
+        for (const auto& [status, count] : byStatus) {
+            text << " " << count << " " << status;
+        }
+        text << "\n";
+    }
+}
+
+void tellRuns(const SyncEngine& engine, std::ostream& text) {
+    text << "Key: " << (engine.hasCredentials() ? "stored" : engine.credentialsProblem().value_or("none"))
+         << "\n";
+    text << "Last run: " << (engine.lastRunSummary().empty() ? "none" : engine.lastRunSummary()) << "\n";
+    if (const auto& error = engine.lastError()) {
+        text << "Last error: " << *error << "\n";
+    }
+}
+
+}  // namespace
+
+std::string diagnosticsText(const ScreenParts& parts) {
+    std::ostringstream text;
+    text << "Vantrell " << programVersion() << " (" << programBuild() << ")\n";
+    text << "System: " << QSysInfo::prettyProductName().toStdString() << ", "
+         << QSysInfo::currentCpuArchitecture().toStdString() << ", Qt " << qVersion() << ", "
+         << QGuiApplication::platformName().toStdString() << "\n";
+    text << "Language: " << parts.locale.languageTag() << ", zone " << parts.localTime.zone().id() << "\n";
+    text << "Store: " << storeProblem(parts.context.health()).value_or("well") << "\n";
+    tellReports(parts.context, text);
+    tellRuns(parts.engine, text);
+    return text.str();
+}
+
+}  // namespace vantrell
