@@ -2,7 +2,8 @@
 
 #include "base/ProgramVersion.h"
 #include "data/ReportFrequency.h"
-#include "screens/StoreNotice.h"
+#include "screens/words/RunWords.h"
+#include "screens/words/StoreNotice.h"
 
 #include <map>
 #include <sstream>
@@ -31,12 +32,14 @@ void tellReports(ModelContext& context, std::ostream& text) {
     }
 }
 
-void tellRuns(const SyncEngine& engine, std::ostream& text) {
-    text << "Key: " << (engine.hasCredentials() ? "stored" : engine.credentialsProblem().value_or("none"))
-         << "\n";
-    text << "Last run: " << (engine.lastRunSummary().empty() ? "none" : engine.lastRunSummary()) << "\n";
+void tellRuns(const ScreenParts& parts, std::ostream& text) {
+    SyncEngine& engine = parts.engine;
+    const Account& account = engine.account();
+    text << "Key: " << (account.hasCredentials() ? "stored" : account.problem().value_or("none")) << "\n";
+    const QString run = runText(engine.lastRun(), parts.locale, parts.localTime.zone());
+    text << "Last run: " << (run.isEmpty() ? "none" : run.toStdString()) << "\n";
     if (const auto& error = engine.lastError()) {
-        text << "Last error: " << *error << "\n";
+        text << "Last error: " << runText(error).toStdString() << "\n";
     }
 }
 
@@ -51,7 +54,7 @@ std::string diagnosticsText(const ScreenParts& parts) {
     text << "Language: " << parts.locale.languageTag() << ", zone " << parts.localTime.zone().id() << "\n";
     text << "Store: " << storeProblem(parts.context.health()).value_or("well") << "\n";
     tellReports(parts.context, text);
-    tellRuns(parts.engine, text);
+    tellRuns(parts, text);
     return text.str();
 }
 

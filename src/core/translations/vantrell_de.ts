@@ -7,6 +7,18 @@
         <source>About Vantrell</source>
         <translation>Über Vantrell</translation>
     </message>
+    <message>
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+    <message>
+        <source>Copy Diagnostics</source>
+        <translation>Diagnose kopieren</translation>
+    </message>
+    <message>
+        <source>Copies version, system and the state of store and reports, without key, names or amounts.</source>
+        <translation>Kopiert Version, System und den Zustand von Datenbank und Berichten, ohne Schlüssel, Namen oder Beträge.</translation>
+    </message>
 </context>
 <context>
     <name>ApplicationMenu</name>
