@@ -15,7 +15,7 @@ TEST(Diagnostics, TellHowThingsStandAndNothingThatIsTheUsersAlone) {
                              "\nReports, daily: 1 error 1 ok\n", "\nKey: stored\n", "\nLast run: none\n"}) {
         EXPECT_NE(text.find(line), std::string::npos) << line << "in\n" << text;
     }
-    const APICredentials& credentials = fixture.engine().credentials();
+    const APICredentials& credentials = fixture.engine().account().credentials();
     for (const std::string& secret : {credentials.issuerID, credentials.keyID, credentials.vendorNumber}) {
         ASSERT_NE(secret, "");
         EXPECT_EQ(text.find(secret), std::string::npos) << secret;
