@@ -8,7 +8,6 @@
 #include <cmath>
 #include <utility>
 
-#include <QAccessible>
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -33,32 +32,12 @@ qreal missingHeight(const QQuickItem& item) {
     return missing;
 }
 
-QAccessibleInterface* pressableBelow(QAccessibleInterface& item, const QString& name) {
-    if (item.state().invisible) {
-        return nullptr;
-    }
-    const bool isNamed = item.text(QAccessible::Name).startsWith(name);
-    if (isNamed && item.actionInterface() != nullptr &&
-        item.actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction())) {
-        return &item;
-    }
-    for (int number = 0; number < item.childCount(); ++number) {
-        QAccessibleInterface* child = item.child(number);
-        QAccessibleInterface* found = child == nullptr ? nullptr : pressableBelow(*child, name);
-        if (found != nullptr) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
 }  // namespace
 
 ScreenCamera::ScreenCamera(FixedAppearance& appearance, std::filesystem::path folder)
     : appearance_(appearance), folder_(std::move(folder)) {
     std::error_code error;
     std::filesystem::create_directories(folder_, error);
-    QAccessible::setActive(true);
     // Nothing is pictured half-way.
     appearance_.setReducesMotion(true);
 }
@@ -69,7 +48,8 @@ void ScreenCamera::take(QQuickWindow& window, const std::string& name) {
     appearance_.setDark(true);
     takePicture(window, name + "-dark.png");
     appearance_.setDark(false);
-    takeText(window, name + ".txt");
+    const std::filesystem::path file = folder_ / (name + ".txt");
+    note(!writeAtomically(file, textOf(window)).has_value(), "could not write " + file.string());
 }
 
 // Pictures of apps are decoded on another thread, and layouts settle over several rounds.
@@ -89,7 +69,7 @@ void ScreenCamera::takePicture(QQuickWindow& window, const std::string& fileName
     note(isMade && !writeAtomically(file, bytes.toStdString()), "could not write " + file.string());
 }
 
-void ScreenCamera::takeText(QQuickWindow& window, const std::string& fileName) {
+std::string ScreenCamera::textOf(QQuickWindow& window) {
     constexpr int mostRounds = 8;
     const QSize size = window.size();
     for (int round = 0; round < mostRounds; ++round) {
@@ -100,20 +80,10 @@ void ScreenCamera::takeText(QQuickWindow& window, const std::string& fileName) {
         window.resize(size.width(), window.height() + static_cast<int>(std::ceil(missing)));
         settle();
     }
-    const std::filesystem::path file = folder_ / fileName;
-    note(!writeAtomically(file, spokenText(window)).has_value(), "could not write " + file.string());
+    std::string text = spokenText(window);
     window.resize(size);
     settle();
-}
-
-void ScreenCamera::press(QQuickWindow& window, const QString& name) {
-    settle();
-    QAccessibleInterface* root = QAccessible::queryAccessibleInterface(&window);
-    QAccessibleInterface* item = root == nullptr ? nullptr : pressableBelow(*root, name);
-    note(item != nullptr, "there is nothing to press that is called " + name.toStdString());
-    if (item != nullptr) {
-        item->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    }
+    return text;
 }
 
 void ScreenCamera::note(bool isDone, const std::string& problem) {

@@ -11,7 +11,8 @@
 #include "trial/ExportFiles.h"
 #include "trial/ProgressLines.h"
 #include "trial/RunSummary.h"
-#include "trial/ScreenPictures.h"
+#include "trial/ScreenCamera.h"
+#include "trial/ScreenTour.h"
 #include "trial/TrialSurroundings.h"
 
 #include <algorithm>
@@ -79,7 +80,14 @@ bool exported(const EarningsStore& store, const fs::path& folder, std::ostream& 
 
 bool pictured(MyApp& app, TrialSurroundings& surroundings, const fs::path& folder, std::ostream& output,
               std::ostream& errors) {
-    if (const auto problem = writeScreens(app, surroundings, folder)) {
+    FixedAppearance appearance;
+    ScreenCamera camera(appearance, folder);
+    AppWindowsParts windowParts = surroundings.windowParts(appearance);
+    windowParts.placementFile.reset();
+    const auto stopped =
+        showScreens({app, surroundings.parts(), windowParts, surroundings.storeFile()},
+                    [&](QQuickWindow& window, const std::string& name) { camera.take(window, name); });
+    if (const auto problem = stopped ? stopped : camera.problem()) {
         errors << onOneLine(*problem) << std::endl;
         return false;
     }

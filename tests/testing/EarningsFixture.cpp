@@ -57,6 +57,7 @@ void ShortReports::parsedReport(ReportFrequency frequency, const std::string& da
     SalesReport record;
     record.frequencyRaw = raw;
     record.reportDate = date;
+    record.rowCount = static_cast<std::int64_t>(rows.size());
     record.setStatus(status);
     if (const auto known = context().salesReports().find(salesReportKey(raw, date))) {
         context().salesReports().update(known->id, record);
@@ -80,6 +81,7 @@ void ShortReports::parsedPayments(const std::string& fiscalPeriod, const std::ve
     context().replaceFinanceRows("ZZ", fiscalPeriod, rows);
     FinanceReport record;
     record.fiscalPeriod = fiscalPeriod;
+    record.rowCount = static_cast<std::int64_t>(rows.size());
     record.setStatus(status);
     context().financeReports().insert(record);
 }

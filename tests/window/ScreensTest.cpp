@@ -30,7 +30,6 @@ std::string walkThrough(WindowHouse& house) {
 
 struct Look {
     const char* name;
-    bool hasReports;
     bool isDark;
     const char* locale;
     QSize size;
@@ -40,27 +39,20 @@ class EveryScreen : public ::testing::TestWithParam<Look> {};
 
 TEST_P(EveryScreen, LoadsWithoutAComplaint) {
     Complaints complaints;
-    const auto& [name, hasReports, isDark, locale, size] = GetParam();
+    const auto& [name, isDark, locale, size] = GetParam();
     WindowHouse house({locale, locale, locale, locale, locale});
     house.appearance().setDark(isDark);
     house.window().resize(size);
-    if (hasReports) {
-        house.daily("2026-11-20", "Notebook", "USD", 3);
-        house.daily("2026-11-21", "Notebook", "EUR", 3);
-    }
+    house.sold("2026-11-20", "Notebook", "USD", 3);
+    house.sold("2026-11-21", "Notebook", "EUR", 3);
     house.show();
-    const std::string heard = walkThrough(house);
-    EXPECT_EQ(heard.find("Notebook") != std::string::npos, hasReports);
-    EXPECT_EQ(heard.find("No reports yet") == std::string::npos, hasReports);
+    EXPECT_NE(walkThrough(house).find("Notebook"), std::string::npos);
     EXPECT_EQ(complaints.take(), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Looks, EveryScreen,
-                         ::testing::Values(Look{"empty", false, false, "en_US", {1150, 760}},
-                                           Look{"full", true, false, "en_US", {1150, 760}},
-                                           Look{"dark", true, true, "de_DE", {800, 600}},
-                                           Look{"Japanese", true, false, "ja_JP", {1920, 1080}},
-                                           Look{"Arabic", true, true, "ar_EG", {800, 600}}),
+                         ::testing::Values(Look{"German", true, "de_DE", {800, 600}},
+                                           Look{"Japanese", false, "ja_JP", {1920, 1080}}),
                          [](const auto& look) { return look.param.name; });
 
 // Every text of a report, a service or a file may be anything: it is shown as it stands, cut to a bearable
@@ -88,7 +80,7 @@ TEST(Screens, ShowHostileTextsAsPlainText) {
         SCOPED_TRACE(shown);
         Complaints complaints;
         WindowHouse house;
-        house.daily("2026-11-21", text, text);
+        house.sold("2026-11-21", text, text);
         house.show();
         house.windows().root().dashboard()->selectedDay()->open("2026-11-21", {});
         const std::string heard = walkThrough(house);

@@ -29,7 +29,7 @@ using testing::WindowHouse;
 class Steps : public ::testing::Test {
   public:
     Steps() {
-        house.daily("2026-11-21", "Notebook", "USD", 3);
+        house.sold("2026-11-21", "Notebook", "USD", 3);
         house.show();
     }
     ~Steps() override { EXPECT_EQ(complaints.take(), ""); }

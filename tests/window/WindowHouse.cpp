@@ -18,19 +18,28 @@ WindowHouse::WindowHouse(const LocaleNames& locale) : locale_(locale) {
     defaults_.setDate("lastAutoSyncAt", clock_.now());
     CredentialsKeychain(secrets_).store({"issuer", "key", "not a key", "vendor"});
     http_.respond = [](const HttpRequest&) { return HttpFailure{"nobody is there"}; };
-    const MyAppParts parts{http_, clock_, worker_, localTime_, locale_, secrets_, defaults_};
-    auto begun = MyApp::start(parts, folder_.path() / "vantrell.sqlite",
+    auto begun = MyApp::start(parts(), folder_.path() / "vantrell.sqlite",
                               {origins_.reportService, origins_.rateService, {}});
     app_ = std::move(std::get<std::unique_ptr<MyApp>>(begun));
-    windows_ = std::make_unique<AppWindows>(*app_, parts,
-                                            AppWindowsParts{.origins = origins_,
-                                                            .appearance = appearance_,
-                                                            .icons = {.folder = folder_.path() / "icons"},
-                                                            .placementFile = std::nullopt});
+    windows_ = std::make_unique<AppWindows>(*app_, parts(), windowParts());
 }
 
-void WindowHouse::daily(const std::string& date, const std::string& title, const std::string& currency,
-                        int lines) {
+AppWindowsParts WindowHouse::windowParts() {
+    return {.origins = origins_,
+            .appearance = appearance_,
+            .icons = {.folder = folder_.path() / "icons"},
+            .placementFile = std::nullopt};
+}
+
+TourParts WindowHouse::tour() {
+    windows_.reset();
+    std::ignore = app_->context().save();
+    app_->store().reload(app_->context());
+    return {*app_, parts(), windowParts(), folder_.path() / "vantrell.sqlite"};
+}
+
+void WindowHouse::sold(const std::string& date, const std::string& title, const std::string& currency,
+                       int lines) {
     SalesRowView row;
     row.beginDate = row.endDate = clock_.now();
     row.appleID = 1;

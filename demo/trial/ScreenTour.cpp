@@ -1,8 +1,6 @@
-#include "trial/ScreenPictures.h"
+#include "trial/ScreenTour.h"
 
-#include "core/AppWindows.h"
 #include "figures/Apps.h"
-#include "screens/Appearance.h"
 #include "screens/components/StatTile.h"
 #include "trial/CannedHttp.h"
 #include "trial/ScreenCamera.h"
@@ -11,25 +9,13 @@
 #include <algorithm>
 #include <exception>
 #include <set>
+#include <stdexcept>
 
+#include <QAccessible>
 #include <QGuiApplication>
 
 namespace vantrell {
 namespace {
-
-/// The trial's surroundings as every picture needs them.
-struct Studio {
-    MyApp& app;
-    TrialSurroundings& surroundings;
-    FixedAppearance& appearance;
-    ScreenCamera& camera;
-
-    [[nodiscard]] AppWindowsParts windowParts() const {
-        AppWindowsParts parts = surroundings.windowParts(appearance);
-        parts.placementFile.reset();
-        return parts;
-    }
-};
 
 constexpr int roundsForIcons = 6;
 
@@ -41,26 +27,56 @@ std::string newestDayWithRows(const EarningsStore& store) {
     return newest == statuses.rend() ? store.calendar().dayKey(1) : newest->first;
 }
 
-/// Takes the pictures of one window after the other.
+QAccessibleInterface* pressableBelow(QAccessibleInterface& item, const QString& name) {
+    if (item.state().invisible) {
+        return nullptr;
+    }
+    const bool isNamed = item.text(QAccessible::Name).startsWith(name);
+    if (isNamed && item.actionInterface() != nullptr &&
+        item.actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction())) {
+        return &item;
+    }
+    for (int number = 0; number < item.childCount(); ++number) {
+        QAccessibleInterface* child = item.child(number);
+        QAccessibleInterface* found = child == nullptr ? nullptr : pressableBelow(*child, name);
+        if (found != nullptr) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+// As assistive technology would press the first item with this name.
+void press(QQuickWindow& window, const QString& name) {
+    ScreenCamera::settle();
+    QAccessibleInterface* root = QAccessible::queryAccessibleInterface(&window);
+    QAccessibleInterface* item = root == nullptr ? nullptr : pressableBelow(*root, name);
+    if (item == nullptr) {
+        throw std::runtime_error("there is nothing to press that is called " + name.toStdString());
+    }
+    item->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+}
+
+/// Shows one screen of a window after the other.
 class Session {
   public:
-    Session(AppWindows& windows, ScreenCamera& camera, EarningsStore& store)
-        : root_(windows.root()), window_(windows.mainWindow()), camera_(camera), store_(store) {}
+    Session(AppWindows& windows, const Visit& visit, EarningsStore& store)
+        : root_(windows.root()), window_(windows.mainWindow()), visit_(visit), store_(store) {}
 
     void takeDashboard() {
         take(Destination::dashboard, "dashboard");
         // The newest days may not be published yet.
         root_.dashboard()->chart()->selectNewest();
         root_.dashboard()->chart()->moveSelection(-5);
-        camera_.take(window_, "chart-hover");
+        visit_(window_, "chart-hover");
         root_.dashboard()->chart()->clearSelection();
         takeDay("day", newestDayWithRows(store_));
         const auto tiles = root_.dashboard()->tiles();
         const QString allTime =
             tiles->at<StatTile>(static_cast<std::size_t>(tiles->count() - 1)).money.spoken;
-        camera_.press(window_, allTime);
-        camera_.take(window_, "breakdown");
-        camera_.press(window_, allTime);
+        press(window_, allTime);
+        visit_(window_, "breakdown");
+        press(window_, allTime);
     }
 
     void takeApps() {
@@ -71,11 +87,11 @@ class Session {
         }
         take(Destination::apps, "apps");
         store_.setAppFilter(std::set<std::int64_t>());
-        camera_.take(window_, "apps-none-selected");
+        visit_(window_, "apps-none-selected");
         store_.setAppFilter(std::nullopt);
         const auto apps = appTable(store_.snapshot(), store_.converter(), store_.calendar());
         root_.openApp(apps.empty() ? 0 : apps.front().app.id);
-        camera_.take(window_, "app-detail");
+        visit_(window_, "app-detail");
         root_.goBack();
     }
 
@@ -84,10 +100,10 @@ class Session {
         constexpr int custom = 3;
         take(Destination::byDay, "trends");
         root_.byDay()->selectGranularity(months);
-        camera_.take(window_, "trends-months");
+        visit_(window_, "trends-months");
         root_.byDay()->selectGranularity(0);
         root_.byDay()->selectWindow(custom);
-        camera_.take(window_, "trends-custom");
+        visit_(window_, "trends-custom");
     }
 
     void takeOthers() {
@@ -104,7 +120,7 @@ class Session {
         ScreenCamera::settle();
         for (QWindow* window : QGuiApplication::topLevelWindows()) {
             if (auto* about = qobject_cast<QQuickWindow*>(window); about != nullptr && about != &window_) {
-                camera_.take(*about, "about");
+                visit_(*about, "about");
             }
         }
         root_.about()->close();
@@ -122,79 +138,74 @@ class Session {
   private:
     void take(Destination::Value destination, const std::string& name) {
         root_.select(destination);
-        camera_.take(window_, name);
+        visit_(window_, name);
     }
     void takeDay(const std::string& name, const std::string& dayKey) {
         root_.dashboard()->selectedDay()->open(dayKey, store_.appFilter());
-        camera_.take(window_, name);
+        visit_(window_, name);
         root_.dashboard()->selectedDay()->dismiss();
     }
     void takeLog(const std::string& name) {
         root_.settings()->openLog();
-        camera_.take(window_, name);
+        visit_(window_, name);
         root_.settings()->closeLog();
     }
 
     RootView& root_;
     QQuickWindow& window_;
-    ScreenCamera& camera_;
+    const Visit& visit_;
     EarningsStore& store_;
 };
 
 // States that the trial's run did not lead to.
 
-void takeSyncing(const Studio& studio) {
-    SilentHttp http(studio.surroundings.parts().clock);
-    SideProgram side(studio.surroundings.parts(), http, studio.windowParts(), SideProgram::Key::stored,
-                     studio.surroundings.storeFile());
+void takeSyncing(const TourParts& tour, const Visit& visit) {
+    SilentHttp http(tour.parts.clock);
+    SideProgram side(tour.parts, http, tour.windowParts, SideProgram::Key::stored, tour.storeFile);
     side.app().tasks().spawn(side.app().engine().runSync());
-    studio.camera.take(side.window(), "dashboard-syncing");
+    visit(side.window(), "dashboard-syncing");
 }
 
-void takeError(const Studio& studio) {
+void takeError(const TourParts& tour, const Visit& visit) {
     BusyHttp http;
-    SideProgram side(studio.surroundings.parts(), http, studio.windowParts(), SideProgram::Key::stored,
-                     studio.surroundings.storeFile());
+    SideProgram side(tour.parts, http, tour.windowParts, SideProgram::Key::stored, tour.storeFile);
     side.app().tasks().spawn(side.app().engine().runSync());
-    studio.camera.take(side.window(), "dashboard-error");
+    visit(side.window(), "dashboard-error");
 }
 
-void takeEmpty(const Studio& studio) {
+void takeEmpty(const TourParts& tour, const Visit& visit) {
     BusyHttp http;
-    SideProgram side(studio.surroundings.parts(), http, studio.windowParts(), SideProgram::Key::stored);
-    Session(side.windows(), studio.camera, side.app().store()).takeEmpty();
+    SideProgram side(tour.parts, http, tour.windowParts, SideProgram::Key::stored);
+    Session(side.windows(), visit, side.app().store()).takeEmpty();
 }
 
-void takeWelcome(const Studio& studio) {
+void takeWelcome(const TourParts& tour, const Visit& visit) {
     BusyHttp http;
-    SideProgram side(studio.surroundings.parts(), http, studio.windowParts(), SideProgram::Key::none);
-    studio.camera.take(side.window(), "welcome");
+    SideProgram side(tour.parts, http, tour.windowParts, SideProgram::Key::none);
+    visit(side.window(), "welcome");
 }
 
 }  // namespace
 
-std::optional<std::string> writeScreens(MyApp& app, TrialSurroundings& surroundings,
-                                        const std::filesystem::path& folder) {
-    FixedAppearance appearance;
-    ScreenCamera camera(appearance, folder);
-    const Studio studio{app, surroundings, appearance, camera};
-    AppWindows windows(app, surroundings.parts(), studio.windowParts());
-    windows.mainWindow().show();
+std::optional<std::string> showScreens(const TourParts& parts, const Visit& visit) {
+    QAccessible::setActive(true);
     try {
-        Session session(windows, camera, app.store());
+        AppWindows windows(parts.app, parts.parts, parts.windowParts);
+        windows.mainWindow().show();
+        Session session(windows, visit, parts.app.store());
         session.takeDashboard();
         session.takeApps();
         session.takeTrends();
         session.takeOthers();
         session.takeAbout();
-        takeSyncing(studio);
-        takeError(studio);
-        takeWelcome(studio);
-        takeEmpty(studio);
+        takeSyncing(parts, visit);
+        takeError(parts, visit);
+        takeWelcome(parts, visit);
+        takeEmpty(parts, visit);
     } catch (const std::exception& error) {
         return error.what();
     }
-    return camera.problem();
+    return std::nullopt;
 }
 
 }  // namespace vantrell
