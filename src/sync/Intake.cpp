@@ -175,36 +175,31 @@ class Intake::OneReport {
     // What each answer makes of the report. Only good data and the word that there is none touch its rows: a
     // failure never loses what was there.
     void settle(const ReportResponse& answer, Record& report) {
-        const auto attempted = [&report](ReportStatus status, const std::string& message) {
+        using enum ReportStatus;
+        const auto noted = [&report](ReportStatus status, const std::string& message) {
             report.setStatus(status);
             report.message = message;
         };
-        std::visit(
-            Overloaded{
-                [&](const response::Success&) {
-                    if (!isReport_ && request_.lineCount(context_) > 0) {
-                        attempted(ReportStatus::error, notAReport);
-                        return;
-                    }
-                    attempted(ReportStatus::ok, isReport_ ? message_ : notAReport);
-                    store(report);
-                },
-                [&](const response::NoSales& none) {
-                    attempted(ReportStatus::empty, none.message);
-                    report.rowCount = 0;
-                    request_.replaceLines(context_, {});
-                },
-                [&](const response::NotYetAvailable& early) {
-                    attempted(ReportStatus::pending, early.message);
-                },
-                [&](const response::Gone& gone) { attempted(ReportStatus::unavailable, gone.message); },
-                [&](const response::WrongVersion& wrong) { attempted(ReportStatus::error, wrong.detail); },
-                [&](const response::AuthFailure& refused) {
-                    attempted(ReportStatus::error, refused.message);
-                },
-                [](const response::RateLimited&) {},
-                [&](const response::Failure& failure) { attempted(ReportStatus::error, failure.message); }},
-            answer);
+        std::visit(Overloaded{[&](const response::Success&) {
+                                  if (!isReport_ && request_.lineCount(context_) > 0) {
+                                      noted(error, notAReport);
+                                      return;
+                                  }
+                                  noted(ok, isReport_ ? message_ : notAReport);
+                                  store(report);
+                              },
+                              [&](const response::NoSales& none) {
+                                  noted(empty, none.message);
+                                  report.rowCount = 0;
+                                  request_.replaceLines(context_, {});
+                              },
+                              [&](const response::NotYetAvailable& early) { noted(pending, early.message); },
+                              [&](const response::Gone& gone) { noted(unavailable, gone.message); },
+                              [&](const response::WrongVersion& wrong) { noted(error, wrong.detail); },
+                              [&](const response::AuthFailure& refused) { noted(error, refused.message); },
+                              [](const response::RateLimited&) {},
+                              [&](const response::Failure& failure) { noted(error, failure.message); }},
+                   answer);
     }
 
     void store(Record& report) {
