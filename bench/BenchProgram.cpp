@@ -11,7 +11,7 @@ namespace vantrell::bench {
 namespace {
 
 template <typename Request>
-QCoro::Task<> storeReport(Intake& intake, ModelContext& context, Request request) {
+QCoro::Task<> storeReport(Intake& intake, const ModelContext& context, Request request) {
     std::ignore = co_await intake.take(request);
     const auto stored = Request::records(context).find(request.recordKey());
     if (!stored || stored->record.status() != ReportStatus::ok) {
@@ -44,7 +44,8 @@ BenchProgram::BenchProgram(HttpClient& service, Clock& clock, Worker& worker,
         throw std::runtime_error(failure->text);
     }
     app_ = std::move(std::get<std::unique_ptr<MyApp>>(started));
-    intake_.emplace(IntakeParts{context(), service_, clock_, worker_, client_, origin, {}, [] {}});
+    intake_.emplace(
+        IntakeParts{app_->contextToChange(), service_, clock_, worker_, client_, origin, {}, [] {}});
 }
 
 QCoro::Task<> BenchProgram::fetchSales(ReportFrequency frequency, std::string label) {

@@ -58,7 +58,7 @@ class BenchProgram {
     }
 
     [[nodiscard]] MyApp& app() { return *app_; }
-    [[nodiscard]] ModelContext& context() { return app_->context(); }
+    [[nodiscard]] const ModelContext& context() const { return app_->context(); }
     [[nodiscard]] EarningsStore& store() { return app_->store(); }
     [[nodiscard]] const Locale& locale() const { return locale_; }
 

@@ -22,12 +22,8 @@ void storeFile(const std::string& input) {
         return;
     }
     ModelContext& context = std::get<std::unique_ptr<ModelContainer>>(opened)->mainContext();
-    try {
-        static_cast<void>(context.fetchSalesRows());
-        static_cast<void>(context.fetchFinanceRows());
-    } catch (const SqliteError&) {
-        // Lines that can't be read are told of elsewhere.
-    }
+    static_cast<void>(context.fetchSalesRows());
+    static_cast<void>(context.fetchFinanceRows());
     const Locale locale(LocaleNames{"C", "C", "C", "C", "C"});
     static_cast<void>(SnapshotLoader(locale).load(context, {}));
     context.syncLog().insert({});

@@ -26,7 +26,7 @@ void writeCounts(const std::string& kind, const CountsByStatus& counts, std::ost
     output << "\n";
 }
 
-void writeReports(ModelContext& context, std::ostream& output) {
+void writeReports(const ModelContext& context, std::ostream& output) {
     std::map<ReportFrequency, CountsByStatus> sales;
     for (const auto& [id, report] : context.salesReports().all()) {
         ++sales[reportFrequency(report.frequencyRaw).value_or(ReportFrequency::daily)][report.status()];

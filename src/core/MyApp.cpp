@@ -52,9 +52,9 @@ void MyApp::close() {
     constexpr auto patience = std::chrono::seconds(10);
     engine_.close();
     tasks_.finish(patience);
-    context().holdSaves(false);
+    contextToChange().holdSaves(false);
     // Told by the store's health to whoever asks before the store is closed.
-    std::ignore = context().save();
+    std::ignore = contextToChange().save();
 }
 
 }  // namespace vantrell

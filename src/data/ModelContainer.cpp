@@ -1,5 +1,6 @@
 #include "data/ModelContainer.h"
 
+#include "FileCheck.h"
 #include "Migrations.h"
 #include "Schema.h"
 #include "StoreCopy.h"
@@ -106,5 +107,7 @@ ModelContainer::ModelContainer(std::unique_ptr<SqliteDatabase> database)
     : fileCheck_(std::make_shared<FileCheck>(database->path())),
       database_(std::move(database)),
       context_(*database_, fileCheck_) {}
+
+ModelContainer::~ModelContainer() = default;
 
 }  // namespace vantrell

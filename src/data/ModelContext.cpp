@@ -1,5 +1,9 @@
 #include "data/ModelContext.h"
 
+#include "FileCheck.h"
+#include "LineCoding.h"
+#include "LineRejected.h"
+#include "OpenStore.h"
 #include "StoreFailures.h"
 
 #include <utility>
@@ -10,10 +14,10 @@ namespace {
 // A few milliseconds' work.
 constexpr std::int64_t linesAhead = 2'500;
 
-template <typename Row, typename Line, typename... Dictionaries>
+template <typename Texts, typename Row, typename Line, typename... Dictionaries>
 void appendEncoded(std::span<const Row> rows, std::vector<Line>& lines, TextDictionary& dictionary,
                    Dictionaries&... others) {
-    LineTexts texts(dictionary);
+    Texts texts(dictionary);
     for (const Row& row : rows) {
         lines.push_back(encoded(row, texts, others...));
     }
@@ -22,65 +26,58 @@ void appendEncoded(std::span<const Row> rows, std::vector<Line>& lines, TextDict
 }  // namespace
 
 ModelContext::ModelContext(SqliteDatabase& database, std::shared_ptr<FileCheck> fileCheck)
-    : database_(database),
-      fileCheck_(std::move(fileCheck)),
-      texts_(std::make_shared<TextDictionary>(database)),
-      offers_(database),
-      salesReports_(database, health_),
-      financeReports_(database, health_),
-      rateSets_(database, health_),
-      syncLog_(database, health_),
-      salesLines_(database, health_),
-      financeLines_(database, health_) {
+    : database_(database), fileCheck_(std::move(fileCheck)), parts_(OpenStore{database, health_}) {
     checkCounts();
 }
 
+ModelContext::~ModelContext() = default;
+
 // Lines that are gone with what named them are told by the reports alone.
 void ModelContext::checkCounts() {
-    for (const auto& [id, report] : salesReports_.all()) {
-        const auto first = salesReports_.find(salesReportKey(report.frequencyRaw, report.reportDate));
+    for (const auto& [id, report] : salesReports().all()) {
+        const auto first = salesReports().find(salesReportKey(report.frequencyRaw, report.reportDate));
         if (first->id == id &&
-            report.rowCount != salesLines_.lineCount(report.frequencyRaw, report.reportDate)) {
+            report.rowCount != salesLines().lineCount(report.frequencyRaw, report.reportDate)) {
             health_.addDamagedReport({report.frequencyRaw, report.reportDate});
         }
     }
-    for (const auto& [id, report] : financeReports_.all()) {
-        const auto first = financeReports_.find(financeReportKey(report.region, report.fiscalPeriod));
+    for (const auto& [id, report] : financeReports().all()) {
+        const auto first = financeReports().find(financeReportKey(report.region, report.fiscalPeriod));
         if (first->id == id &&
-            report.rowCount != financeLines_.lineCount(report.region, report.fiscalPeriod)) {
+            report.rowCount != financeLines().lineCount(report.region, report.fiscalPeriod)) {
             health_.addDamagedReport({report.region, report.fiscalPeriod});
         }
     }
 }
 
 void ModelContext::encode(std::span<const SalesRowView> rows, std::vector<SalesLine>& lines) {
-    appendEncoded(rows, lines, *texts_, offers_);
+    appendEncoded<SalesTexts>(rows, lines, own<TextDictionary>(), own<OfferDictionary>());
 }
 
 void ModelContext::encode(std::span<const ParsedFinanceRow> rows, std::vector<FinanceLine>& lines) {
-    appendEncoded(rows, lines, *texts_);
+    appendEncoded<FinanceTexts>(rows, lines, own<TextDictionary>());
 }
 
 DictionarySizes ModelContext::dictionarySizes() const {
-    return {texts_->size(), offers_.size(), texts_->bytes() + offers_.bytes()};
+    return {texts().size(), offers().size(), texts().bytes() + offers().bytes()};
 }
 
 void ModelContext::forgetUnsaved(const DictionarySizes& before) {
-    offers_.shrink(before.offers);
-    texts_->shrink(before.texts);
+    own<OfferDictionary>().shrink(before.offers);
+    own<TextDictionary>().shrink(before.texts);
 }
 
 // What was written ahead may be of the lines that are replaced, and is undone.
 void ModelContext::replaceSalesLines(const std::string& frequencyRaw, const std::string& reportDate,
                                      std::vector<SalesLine> lines) {
     rollBack();
-    salesLines_.replace(frequencyRaw, reportDate, std::move(lines));
+    own<LineTable<SalesLine>>().replace(frequencyRaw, reportDate, std::move(lines));
 }
 
 void ModelContext::replaceFinanceLines(const std::string& region, const std::string& fiscalPeriod,
                                        std::vector<FinanceLine> lines) {
     rollBack();
-    financeLines_.replace(region, fiscalPeriod, std::move(lines));
+    own<LineTable<FinanceLine>>().replace(region, fiscalPeriod, std::move(lines));
 }
 
 void ModelContext::replaceSalesRows(const std::string& frequencyRaw, const std::string& reportDate,
@@ -99,32 +96,33 @@ void ModelContext::replaceFinanceRows(const std::string& region, const std::stri
     replaceFinanceLines(region, fiscalPeriod, std::move(lines));
 }
 
-std::vector<SalesRow> ModelContext::fetchSalesRows() {
+std::vector<SalesRow> ModelContext::fetchSalesRows() const {
     std::vector<SalesRow> rows;
-    for (const LineBatch& batch : salesLines_.batches()) {
-        salesLines_.readLines(batch, [&](const SalesLine& line) {
+    for (const LineBatch& batch : salesLines().batches()) {
+        salesLines().readLines(batch, [&](const SalesLine& line) {
             rows.push_back({.frequencyRaw = batch.group,
                             .reportDate = batch.label,
-                            .line = decoded(line, *texts_, offers_)});
+                            .line = decoded(line, texts(), offers())});
         });
     }
     return rows;
 }
 
-std::vector<FinanceRow> ModelContext::fetchFinanceRows() {
+std::vector<FinanceRow> ModelContext::fetchFinanceRows() const {
     std::vector<FinanceRow> rows;
-    for (const LineBatch& batch : financeLines_.batches()) {
-        financeLines_.readLines(batch, [&](const FinanceLine& line) {
+    for (const LineBatch& batch : financeLines().batches()) {
+        financeLines().readLines(batch, [&](const FinanceLine& line) {
             rows.push_back(
-                {.region = batch.group, .fiscalPeriod = batch.label, .line = decoded(line, *texts_)});
+                {.region = batch.group, .fiscalPeriod = batch.label, .line = decoded(line, texts())});
         });
     }
     return rows;
 }
 
-bool ModelContext::hasChanges() const {
-    return salesReports_.hasChanges() || financeReports_.hasChanges() || rateSets_.hasChanges() ||
-           syncLog_.hasChanges() || salesLines_.hasChanges() || financeLines_.hasChanges();
+bool ModelContext::hasChanges() {
+    bool any = false;
+    parts_.each([&any](auto& part) { any = any || part.hasChanges(); });
+    return any;
 }
 
 std::optional<StoreError> ModelContext::save() {
@@ -138,7 +136,7 @@ std::optional<StoreError> ModelContext::save() {
     bool isCommitting = false;
     try {
         begin();
-        write();
+        parts_.each([](auto& part) { part.write(); });
         isCommitting = true;
         transaction_->commit();
     } catch (const LineRejected& error) {
@@ -156,7 +154,7 @@ std::optional<StoreError> ModelContext::save() {
     }
     isUnsure_ = false;
     transaction_.reset();
-    committed();
+    parts_.each([](auto& part) { part.committed(); });
     health_.setUnsaved(std::nullopt);
     return std::nullopt;
 }
@@ -170,20 +168,22 @@ StoreError ModelContext::failed(StoreError error) {
 }
 
 void ModelContext::takeBack(const ReportName& report) {
-    salesLines_.takeBack(report.group, report.label);
-    financeLines_.takeBack(report.group, report.label);
+    own<LineTable<SalesLine>>().takeBack(report.group, report.label);
+    own<LineTable<FinanceLine>>().takeBack(report.group, report.label);
 }
 
 bool ModelContext::writeAhead() {
-    if (!mayWrite() || (!salesLines_.hasUnwrittenLines() && !financeLines_.hasUnwrittenLines())) {
+    if (!mayWrite() || (!own<LineTable<SalesLine>>().hasUnwrittenLines() &&
+                        !own<LineTable<FinanceLine>>().hasUnwrittenLines())) {
         return false;
     }
     try {
         begin();
         std::int64_t most = linesAhead;
-        salesLines_.writeLines(most);
-        financeLines_.writeLines(most);
-        return salesLines_.hasUnwrittenLines() || financeLines_.hasUnwrittenLines();
+        own<LineTable<SalesLine>>().writeLines(most);
+        own<LineTable<FinanceLine>>().writeLines(most);
+        return own<LineTable<SalesLine>>().hasUnwrittenLines() ||
+               own<LineTable<FinanceLine>>().hasUnwrittenLines();
     } catch (const SqliteError&) {
         rollBack();
         return false;
@@ -194,49 +194,16 @@ void ModelContext::begin() {
     if (transaction_) {
         return;
     }
-    transaction_.emplace(database_);
+    transaction_ = std::make_unique<SqliteTransaction>(database_);
     if (isUnsure_) {
-        removeUnsaved();
+        parts_.each([](auto& part) { part.removeUnsaved(); });
     }
-}
-
-void ModelContext::removeUnsaved() {
-    texts_->removeUnsaved();
-    offers_.removeUnsaved();
-    salesReports_.removeUnsaved();
-    financeReports_.removeUnsaved();
-    rateSets_.removeUnsaved();
-    syncLog_.removeUnsaved();
-    salesLines_.removeUnsaved();
-    financeLines_.removeUnsaved();
 }
 
 void ModelContext::rollBack() {
     transaction_.reset();
-    salesLines_.rolledBack();
-    financeLines_.rolledBack();
-}
-
-void ModelContext::write() {
-    texts_->write();
-    offers_.write();
-    salesReports_.write();
-    financeReports_.write();
-    rateSets_.write();
-    syncLog_.write();
-    salesLines_.write();
-    financeLines_.write();
-}
-
-void ModelContext::committed() {
-    texts_->committed();
-    offers_.committed();
-    salesReports_.committed();
-    financeReports_.committed();
-    rateSets_.committed();
-    syncLog_.committed();
-    salesLines_.committed();
-    financeLines_.committed();
+    own<LineTable<SalesLine>>().rolledBack();
+    own<LineTable<FinanceLine>>().rolledBack();
 }
 
 }  // namespace vantrell

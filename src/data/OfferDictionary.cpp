@@ -1,13 +1,12 @@
 #include "data/OfferDictionary.h"
 
-#include "PackedDecimal.h"
-#include "data/LineWriter.h"
+#include "Layouts.h"
+#include "OpenStore.h"
+#include "RowWriter.h"
 
 #include <algorithm>
 #include <functional>
 #include <string>
-
-#include <sqlite3.h>
 
 namespace vantrell {
 namespace {
@@ -25,38 +24,25 @@ std::uint64_t folded(const Decimal& value) {
                  : std::hash<std::string>()(value.text());
 }
 
-std::uint64_t folded(TextID first, TextID second) {
-    return std::uint64_t{first} << 32U | second;
+std::uint64_t folded(std::int64_t value) {
+    return static_cast<std::uint64_t>(value);
 }
 
-StoredOffer readOffer(const SqliteStatement& row) {
-    return {.sku = readID(row, 1),
-            .title = readID(row, 2),
-            .productType = readID(row, 3),
-            .parentSKU = readID(row, 4),
-            .proceedsPerUnit = readDecimal(row, 5),
-            .proceedsCurrency = readID(row, 6),
-            .customerPrice = readDecimal(row, 7),
-            .customerCurrency = readID(row, 8),
-            .appleID = row.integer(9)};
-}
+constexpr auto& columns = Layout<StoredOffer>::columns;
 
 }  // namespace
 
 std::size_t OfferDictionary::Hash::operator()(const StoredOffer& offer) const {
-    std::size_t hash = mixed(static_cast<std::uint64_t>(offer.appleID), folded(offer.sku, offer.title));
-    hash = mixed(hash, folded(offer.productType, offer.parentSKU));
-    hash = mixed(hash, folded(offer.proceedsCurrency, offer.customerCurrency));
-    return mixed(mixed(hash, folded(offer.proceedsPerUnit)), folded(offer.customerPrice));
+    std::size_t hash = 0;
+    forEach(columns, [&](const auto& column) { hash = mixed(hash, folded(offer.*column.member)); });
+    return hash;
 }
 
-OfferDictionary::OfferDictionary(SqliteDatabase& database) : database_(database) {
-    auto select = database_.prepare(
-        "SELECT id, sku, title, productType, parentSKU, proceedsPerUnit, proceedsCurrency, customerPrice,"
-        " customerCurrency, appleID FROM sales_offer ORDER BY id");
+OfferDictionary::OfferDictionary(const OpenStore& store) : database_(store.database) {
+    auto select = database_.prepare("SELECT id, " + names(columns) + " FROM sales_offer ORDER BY id");
     while (select.step()) {
         const auto id = static_cast<std::int64_t>(offers_.size());
-        if (select.integer(0) != id || intern(readOffer(select)) != id) {
+        if (select.integer(0) != id || intern(readRow<StoredOffer>(select, columns, 1)) != id) {
             throw SqliteError(SQLITE_CORRUPT, "the dictionary of offers has gaps");
         }
     }
@@ -90,22 +76,15 @@ void OfferDictionary::write() {
     if (saved_ == offers_.size()) {
         return;
     }
-    auto insert = database_.prepare(
-        "INSERT INTO sales_offer (id, sku, title, productType, parentSKU, proceedsPerUnit, proceedsCurrency,"
-        " customerPrice, customerCurrency, appleID) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
-    LineWriter writer(insert);
+    auto insert = database_.prepare(insertSQL(Layout<StoredOffer>::table, columns));
+    RowWriter writer(insert, columns);
     for (std::size_t id = saved_; id < offers_.size(); ++id) {
-        const StoredOffer& offer = *offers_[id];
-        writer << offer.sku << offer.title << offer.productType << offer.parentSKU << offer.proceedsPerUnit
-               << offer.proceedsCurrency << offer.customerPrice << offer.customerCurrency << offer.appleID;
-        writer.insert(static_cast<std::int64_t>(id));
+        writer.write(static_cast<std::int64_t>(id), *offers_[id]);
     }
 }
 
 void OfferDictionary::removeUnsaved() {
-    auto remove = database_.prepare("DELETE FROM sales_offer WHERE id >= ?");
-    remove.bind(0, static_cast<std::int64_t>(saved_));
-    remove.run();
+    database_.run("DELETE FROM sales_offer WHERE id >= ?", static_cast<std::int64_t>(saved_));
 }
 
 }  // namespace vantrell

@@ -50,4 +50,10 @@ std::string decimalTextSQL(const std::string& column) {
            ")) END";
 }
 
+std::string decimalDamageSQL(const std::string& column) {
+    return "CASE typeof(" + column + ") WHEN 'integer' THEN FALSE WHEN 'text' THEN " + column +
+           " GLOB '*[^-.0-9]*' OR " + column + " NOT GLOB '*[0-9]*' OR substr(" + column +
+           ", 2) GLOB '*-*' OR " + column + " GLOB '*.*.*' ELSE TRUE END";
+}
+
 }  // namespace vantrell

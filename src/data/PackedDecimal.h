@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Sqlite.h"
 #include "base/Decimal.h"
-#include "data/Sqlite.h"
 
 #include <cstdint>
 #include <optional>
@@ -18,5 +18,7 @@ namespace vantrell {
 
 /// An SQL expression that gives the exact decimal text of such a column: "-12.5".
 [[nodiscard]] std::string decimalTextSQL(const std::string& column);
+/// One that is true where such a column holds no decimal.
+[[nodiscard]] std::string decimalDamageSQL(const std::string& column);
 
 }  // namespace vantrell

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "data/Sqlite.h"
+#include "Sqlite.h"
 
 #include <cstdint>
+#include <map>
+#include <string>
 
 namespace vantrell {
 
@@ -15,7 +17,9 @@ inline constexpr std::int64_t storeVersion = 2;
 /// Tables hold the data compactly; the views, named after the record types, show every property of every
 /// record readably: exact decimal text and ISO dates in UTC.
 void createSchema(SqliteDatabase& database);
-// The views alone; likewise.
+/// The statements that make the views, by their names.
+[[nodiscard]] std::map<std::string, std::string> viewsSQL();
+// Inside the caller's transaction as well.
 void createViews(SqliteDatabase& database);
 void dropViews(SqliteDatabase& database);
 

@@ -1,9 +1,7 @@
-#include "data/Sqlite.h"
+#include "Sqlite.h"
 
 #include <array>
 #include <utility>
-
-#include <sqlite3.h>
 
 namespace vantrell {
 namespace {
@@ -17,17 +15,6 @@ SqliteError sqliteError(int result, sqlite3* database) {
 void check(int result, sqlite3* database) {
     if (result != SQLITE_OK) {
         throw sqliteError(result, database);
-    }
-}
-
-sqlite3* connection(sqlite3_stmt* statement) {
-    return sqlite3_db_handle(statement);
-}
-
-// Values are bound by the million, so that the connection is looked up only for an error.
-void checkBound(int result, sqlite3_stmt* statement) {
-    if (result != SQLITE_OK) {
-        check(result, connection(statement));
     }
 }
 
@@ -58,20 +45,19 @@ void SqliteStatement::Finalizer::operator()(sqlite3_stmt* statement) const {
     sqlite3_finalize(statement);
 }
 
-void SqliteStatement::bind(int index, std::int64_t value) {
-    checkBound(sqlite3_bind_int64(statement_.get(), index + 1, value), statement_.get());
+void SqliteStatement::failed(int result) const {
+    throw sqliteError(result, sqlite3_db_handle(statement_.get()));
 }
 
 void SqliteStatement::bind(int index, std::string_view text) {
     // An empty view may have no address, which SQLite would take for NULL.
     const char* bytes = text.empty() ? "" : text.data();
     checkBound(
-        sqlite3_bind_text64(statement_.get(), index + 1, bytes, text.size(), SQLITE_STATIC, SQLITE_UTF8),
-        statement_.get());
+        sqlite3_bind_text64(statement_.get(), index + 1, bytes, text.size(), SQLITE_STATIC, SQLITE_UTF8));
 }
 
 void SqliteStatement::bindNull(int index) {
-    check(sqlite3_bind_null(statement_.get(), index + 1), connection(statement_.get()));
+    checkBound(sqlite3_bind_null(statement_.get(), index + 1));
 }
 
 bool SqliteStatement::step() {
@@ -82,7 +68,7 @@ bool SqliteStatement::step() {
     if (result == SQLITE_DONE) {
         return false;
     }
-    const SqliteError failure = sqliteError(result, connection(statement_.get()));
+    const SqliteError failure = sqliteError(result, sqlite3_db_handle(statement_.get()));
     reset();
     throw failure;
 }
@@ -95,10 +81,6 @@ void SqliteStatement::run() {
 
 void SqliteStatement::reset() {
     sqlite3_reset(statement_.get());
-}
-
-std::int64_t SqliteStatement::integer(int column) const {
-    return sqlite3_column_int64(statement_.get(), column);
 }
 
 std::string_view SqliteStatement::text(int column) const {
@@ -143,6 +125,12 @@ SqliteStatement SqliteDatabase::prepare(std::string_view sql) {
                              SQLITE_PREPARE_PERSISTENT, &statement, nullptr),
           database_.get());
     return SqliteStatement(statement);
+}
+
+void SqliteDatabase::run(std::string_view sql, std::int64_t parameter) {
+    auto statement = prepare(sql);
+    statement.bind(0, parameter);
+    statement.run();
 }
 
 std::int64_t SqliteDatabase::integer(std::string_view sql) {

@@ -1,5 +1,7 @@
 #include "data/StoreCheck.h"
 
+#include "FileCheck.h"
+
 #include <functional>
 #include <utility>
 

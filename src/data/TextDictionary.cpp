@@ -1,9 +1,8 @@
 #include "data/TextDictionary.h"
 
-#include <algorithm>
-#include <limits>
+#include "OpenStore.h"
 
-#include <sqlite3.h>
+#include <algorithm>
 
 namespace vantrell {
 namespace {
@@ -13,13 +12,7 @@ constexpr std::size_t entryBytes = 136;
 
 }  // namespace
 
-std::uint32_t readID(const SqliteStatement& row, int column) {
-    const std::int64_t value = row.integer(column);
-    return value < 0 || value > std::numeric_limits<std::uint32_t>::max() ? 0
-                                                                          : static_cast<std::uint32_t>(value);
-}
-
-TextDictionary::TextDictionary(SqliteDatabase& database) : database_(database) {
+TextDictionary::TextDictionary(const OpenStore& store) : database_(store.database) {
     auto select = database_.prepare("SELECT id, value FROM text ORDER BY id");
     while (select.step()) {
         if (select.integer(0) != static_cast<std::int64_t>(texts_.size())) {
@@ -75,9 +68,7 @@ void TextDictionary::write() {
 }
 
 void TextDictionary::removeUnsaved() {
-    auto remove = database_.prepare("DELETE FROM text WHERE id >= ?");
-    remove.bind(0, static_cast<std::int64_t>(saved_));
-    remove.run();
+    database_.run("DELETE FROM text WHERE id >= ?", static_cast<std::int64_t>(saved_));
 }
 
 }  // namespace vantrell

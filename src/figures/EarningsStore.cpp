@@ -22,7 +22,7 @@ EarningsStore::EarningsStore(Defaults& defaults, const Locale& locale, const Rep
     converter_.displayCurrency = initialCurrency(defaults, locale);
 }
 
-void EarningsStore::reload(ModelContext& context) {
+void EarningsStore::reload(const ModelContext& context) {
     const SharedSnapshot before = std::exchange(snapshot_, loader_.load(context, *snapshot_));
     if (const auto& sets = context.rateSets().all(); !sets.empty()) {
         const RateSet& set = sets.begin()->second;

@@ -54,7 +54,7 @@ SalesOffer salesOffer(const StoredOffer& stored, const TextDictionary& texts,
             .stored = stored};
 }
 
-void takeStatuses(Snapshot& snapshot, ModelContext& context) {
+void takeStatuses(Snapshot& snapshot, const ModelContext& context) {
     for (const auto& [id, report] : context.salesReports().all()) {
         switch (reportFrequency(report.frequencyRaw).value_or(ReportFrequency::daily)) {
             case ReportFrequency::weekly:
@@ -84,12 +84,12 @@ void takeStatuses(Snapshot& snapshot, ModelContext& context) {
 
 }  // namespace
 
-bool SnapshotLoader::readAhead(ModelContext& context) {
+bool SnapshotLoader::readAhead(const ModelContext& context) {
     return readSome(context.salesLines(), sales_, context) > fewLines ||
            readSome(context.financeLines(), finance_, context) > fewLines;
 }
 
-SharedSnapshot SnapshotLoader::load(ModelContext& context, const Snapshot& before) {
+SharedSnapshot SnapshotLoader::load(const ModelContext& context, const Snapshot& before) {
     auto next = std::make_shared<Snapshot>();
     auto chunks = readRest(context.salesLines(), sales_, context);
     next->salesRows = SalesRows(std::move(chunks), offerTable(context), context.sharedTexts(), ++load_);
@@ -100,8 +100,8 @@ SharedSnapshot SnapshotLoader::load(ModelContext& context, const Snapshot& befor
     return next;
 }
 
-std::shared_ptr<const SalesChunk> SnapshotLoader::read(LineTable<SalesLine>& lines, const LineBatch& batch,
-                                                       const ModelContext& context) {
+std::shared_ptr<const SalesChunk> SnapshotLoader::read(const LineTable<SalesLine>& lines,
+                                                       const LineBatch& batch, const ModelContext& context) {
     auto chunk = std::make_shared<SalesChunk>();
     chunk->frequency = reportFrequency(batch.group).value_or(ReportFrequency::daily);
     chunk->reportDate = batch.label;
@@ -122,7 +122,7 @@ std::shared_ptr<const SalesChunk> SnapshotLoader::read(LineTable<SalesLine>& lin
     return chunk;
 }
 
-std::shared_ptr<const FinanceChunk> SnapshotLoader::read(LineTable<FinanceLine>& lines,
+std::shared_ptr<const FinanceChunk> SnapshotLoader::read(const LineTable<FinanceLine>& lines,
                                                          const LineBatch& batch,
                                                          const ModelContext& context) const {
     auto chunk = std::make_shared<FinanceChunk>();
@@ -143,7 +143,7 @@ std::shared_ptr<const FinanceChunk> SnapshotLoader::read(LineTable<FinanceLine>&
 }
 
 template <typename Line, typename Chunk>
-std::size_t SnapshotLoader::readSome(LineTable<Line>& lines, ChunksByBatch<Chunk>& known,
+std::size_t SnapshotLoader::readSome(const LineTable<Line>& lines, ChunksByBatch<Chunk>& known,
                                      const ModelContext& context) {
     std::size_t count = 0;
     for (const LineBatch& batch : lines.batches()) {
@@ -159,7 +159,7 @@ std::size_t SnapshotLoader::readSome(LineTable<Line>& lines, ChunksByBatch<Chunk
 }
 
 template <typename Line, typename Chunk>
-std::vector<std::shared_ptr<const Chunk>> SnapshotLoader::readRest(LineTable<Line>& lines,
+std::vector<std::shared_ptr<const Chunk>> SnapshotLoader::readRest(const LineTable<Line>& lines,
                                                                    ChunksByBatch<Chunk>& known,
                                                                    const ModelContext& context) {
     const auto before = std::exchange(known, {});

@@ -14,7 +14,7 @@
 namespace vantrell {
 namespace {
 
-void tellReports(ModelContext& context, std::ostream& text) {
+void tellReports(const ModelContext& context, std::ostream& text) {
     std::map<std::string, std::map<std::string_view, int>> counts;
     for (const auto& [id, report] : context.salesReports().all()) {
         const auto frequency = reportFrequency(report.frequencyRaw);

@@ -25,7 +25,7 @@ class DriveLoop : public QObject {
     struct Parts {
         SyncEngine& engine;
         EarningsStore& store;
-        ModelContext& context;
+        const ModelContext& context;
         Clock& clock;
         TaskScope& tasks;
     };

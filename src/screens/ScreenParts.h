@@ -27,7 +27,7 @@ struct ServiceOrigins {
 struct ScreenParts {
     EarningsStore& store;
     SyncEngine& engine;
-    ModelContext& context;
+    const ModelContext& context;
     Clock& clock;
     const LocalTime& localTime;
     const Locale& locale;

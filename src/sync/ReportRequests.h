@@ -35,7 +35,7 @@ struct SalesReportRequest {
         return {.frequencyRaw = std::string(rawText(frequency)), .reportDate = reportDate};
     }
     [[nodiscard]] std::string recordKey() const { return salesReportKey(rawText(frequency), reportDate); }
-    [[nodiscard]] static auto& records(ModelContext& context) { return context.salesReports(); }
+    [[nodiscard]] static auto& records(auto& context) { return context.salesReports(); }
 
     [[nodiscard]] QCoro::Task<ReportResponse> fetch(ASCClient& client, std::stop_token cancel) const {
         return client.fetchSales(frequency, reportDate, std::nullopt, std::move(cancel));
@@ -43,7 +43,7 @@ struct SalesReportRequest {
     /// What the body of the report says; needs nothing but the body.
     [[nodiscard]] static auto reader(std::string body) { return readSales(std::move(body)); }
 
-    [[nodiscard]] std::int64_t lineCount(ModelContext& context) const {
+    [[nodiscard]] std::int64_t lineCount(const ModelContext& context) const {
         return context.salesLines().lineCount(std::string(rawText(frequency)), reportDate);
     }
     void replaceLines(ModelContext& context, std::vector<Line> lines) const {
@@ -67,14 +67,14 @@ struct FinanceReportRequest {
     [[nodiscard]] std::string logKey() const { return "finance ZZ " + fiscalPeriod; }
     [[nodiscard]] FinanceReport newRecord() const { return {.region = region, .fiscalPeriod = fiscalPeriod}; }
     [[nodiscard]] std::string recordKey() const { return financeReportKey(region, fiscalPeriod); }
-    [[nodiscard]] static auto& records(ModelContext& context) { return context.financeReports(); }
+    [[nodiscard]] static auto& records(auto& context) { return context.financeReports(); }
 
     [[nodiscard]] QCoro::Task<ReportResponse> fetch(ASCClient& client, std::stop_token cancel) const {
         return client.fetchFinance(fiscalPeriod, std::move(cancel));
     }
     [[nodiscard]] static auto reader(std::string body) { return readFinance(std::move(body)); }
 
-    [[nodiscard]] std::int64_t lineCount(ModelContext& context) const {
+    [[nodiscard]] std::int64_t lineCount(const ModelContext& context) const {
         return context.financeLines().lineCount(region, fiscalPeriod);
     }
     void replaceLines(ModelContext& context, std::vector<Line> lines) const {

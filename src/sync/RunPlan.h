@@ -27,7 +27,7 @@ struct RunStep {
 struct RunBasis {
     const Clock& clock;
     ReportCalendar calendar;
-    ModelContext& store;
+    const ModelContext& store;
 };
 
 /// One step after another. Each is worked out when it is its turn, from the day that it is then and from what

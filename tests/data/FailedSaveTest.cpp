@@ -1,4 +1,5 @@
 #include "testing/FaultyVfs.h"
+#include "testing/PlainClient.h"
 #include "testing/StoreFixture.h"
 
 #include <gtest/gtest.h>
@@ -87,10 +88,9 @@ TEST(FailedSave, OfOneReportWhoseLinesAreRefusedKeepsItsOldOnesAndLetsAllElseBeS
     StoreFixture store;
     fillFirst(*store.open());
     store.close();
-    SqliteDatabase(store.file(), SqliteDatabase::Mode::readWrite)
-        .execute(
-            "CREATE TRIGGER refuse BEFORE INSERT ON sales_line WHEN new.units = 5"
-            " BEGIN SELECT RAISE(ABORT, 'no five'); END");
+    testing::changed(store.file(),
+                     "CREATE TRIGGER refuse BEFORE INSERT ON sales_line WHEN new.units = 5"
+                     " BEGIN SELECT RAISE(ABORT, 'no five'); END");
     ModelContext* context = store.open();
     changeEverything(*context);
     const auto error = context->save();

@@ -1,5 +1,6 @@
 #include "data/StoreCheck.h"
 #include "testing/Cases.h"
+#include "testing/PlainClient.h"
 #include "testing/StoreFixture.h"
 
 namespace vantrell {
@@ -23,7 +24,7 @@ ModelContext& openDamaged(StoreFixture& store, const std::string& sql) {
     storeDay(*context, secondDay);
     EXPECT_EQ(context->save(), std::nullopt);
     store.close();
-    SqliteDatabase(store.file(), SqliteDatabase::Mode::readWrite).execute(sql);
+    testing::changed(store.file(), sql);
     context = store.open();
     if (context == nullptr) {
         throw std::runtime_error(store.error());

@@ -1,6 +1,6 @@
-#include "data/Sqlite.h"
 #include "testing/Cases.h"
 #include "testing/Golden.h"
+#include "testing/PlainClient.h"
 #include "testing/StoreFixture.h"
 
 #include <fstream>
@@ -19,7 +19,7 @@ void write(const fs::path& file, const std::string& bytes) {
 }
 
 void withSQL(const fs::path& file, const std::string& sql) {
-    SqliteDatabase(file, SqliteDatabase::Mode::readWrite).execute(sql);
+    testing::changed(file, sql);
 }
 
 TEST(StoreFile, OfSomebodyElseStopsTheStartAndIsNotTouched) {
@@ -114,21 +114,13 @@ TEST(StoreFile, ShowsDatesAndTextsReadably) {
     context->syncLog().insert({.date = testing::noon(2026, 8, 15) + std::chrono::microseconds(1234)});
     ASSERT_EQ(context->save(), std::nullopt);
     store.close();
-    SqliteDatabase database(store.file(), SqliteDatabase::Mode::peek);
-    auto row =
-        database.prepare("SELECT beginDate, title, proceedsPerUnit, customerPrice, units FROM SalesRow");
-    ASSERT_TRUE(row.step());
-    EXPECT_EQ(row.text(0), "2026-08-14T12:00:00Z");
-    EXPECT_EQ(row.text(1), testing::fullSalesRow().title);
-    EXPECT_EQ(row.text(2), "1.4");
-    EXPECT_EQ(row.text(3), "-1.99");
-    EXPECT_EQ(row.integer(4), -3);
-    auto report = database.prepare("SELECT fetchedAt FROM SalesReport");
-    ASSERT_TRUE(report.step());
-    EXPECT_EQ(report.text(0), "0001-01-01T00:00:00.000000Z");
-    auto entry = database.prepare("SELECT date FROM SyncLogEntry");
-    ASSERT_TRUE(entry.step());
-    EXPECT_EQ(entry.text(0), "2026-08-15T12:00:00.001234Z");
+    EXPECT_EQ(testing::asked(store.file(),
+                             "SELECT beginDate, title, proceedsPerUnit, customerPrice, units FROM SalesRow;"
+                             "SELECT fetchedAt FROM SalesReport; SELECT date FROM SyncLogEntry"),
+              "2026-08-14T12:00:00Z\t" + std::string(testing::fullSalesRow().title) +
+                  "\t1.4\t-1.99\t-3\n"
+                  "0001-01-01T00:00:00.000000Z\n"
+                  "2026-08-15T12:00:00.001234Z\n");
 }
 
 }  // namespace

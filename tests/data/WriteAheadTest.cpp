@@ -1,4 +1,5 @@
 #include "testing/FaultyVfs.h"
+#include "testing/PlainClient.h"
 #include "testing/StoreFixture.h"
 
 #include <gtest/gtest.h>
@@ -20,8 +21,7 @@ std::vector<SalesRowView> longReport(std::int64_t units, std::int64_t lines = fe
 }
 
 std::int64_t linesInFile(const StoreFixture& store) {
-    return SqliteDatabase(store.file(), SqliteDatabase::Mode::peek)
-        .integer("SELECT count(*) FROM sales_line");
+    return std::stoll(testing::asked(store.file(), "SELECT count(*) FROM sales_line"));
 }
 
 enum class Then { save, end, replaceAgain };

@@ -9,6 +9,7 @@
 #include "sample/SampleTotals.h"
 #include "testing/Cases.h"
 #include "testing/Golden.h"
+#include "testing/PlainClient.h"
 #include "testing/TemporaryFolder.h"
 #include "trial/TrialProgram.h"
 
@@ -143,8 +144,7 @@ TEST(TrialProgram, SaysInItsExitCodeAndLastLineWhatWentWrong) {
         EXPECT_EQ(trial.errors(),
                   "Could not create the model container: the store is in use by another process\n");
     }
-    SqliteDatabase((trial.folder() / "vantrell.sqlite").string(), SqliteDatabase::Mode::readWrite)
-        .execute("UPDATE sales_report SET rowCount = 7 WHERE id = 1");
+    testing::changed(trial.folder() / "vantrell.sqlite", "UPDATE sales_report SET rowCount = 7 WHERE id = 1");
     EXPECT_EQ(trial.run(DoRates(), trial.folder() / "csv"), TrialEnd::notStored);
     EXPECT_NE(trial.errors().find("This store is damaged: the daily report of "), std::string::npos)
         << trial.errors();

@@ -1,10 +1,11 @@
-#include "data/Sqlite.h"
 #include "figures/Exports.h"
 #include "testing/AccountFile.h"
 #include "testing/CsvRecords.h"
+#include "testing/PlainClient.h"
 
 #include <fstream>
 #include <map>
+#include <sstream>
 
 #include <gtest/gtest.h>
 
@@ -30,14 +31,13 @@ std::vector<std::string> documentedQueries() {
 /// The answers to a query, "EUR 1.5; USD -2" by the value of the first column, or the second column as it is.
 std::map<std::string, std::string> answers(const std::filesystem::path& file, const std::string& query,
                                            bool isMoney) {
-    SqliteDatabase database(file, SqliteDatabase::Mode::peek);
     std::map<std::string, std::string> result;
-    auto rows = database.prepare(query);
-    while (rows.step()) {
-        std::string& text = result[std::string(rows.text(0))];
-        const std::string value(rows.text(1));
+    std::istringstream rows(testing::asked(file, query));
+    for (std::string key, value, last;
+         std::getline(rows, key, '\t') && std::getline(rows, value, '\t') && std::getline(rows, last);) {
+        std::string& text = result[key];
         text += text.empty() ? "" : "; ";
-        text += isMoney ? value + " " + Decimal::scaled(rows.integer(2), -6).text() : value;
+        text += isMoney ? value + " " + Decimal::scaled(std::stoll(last), -6).text() : value;
     }
     return result;
 }

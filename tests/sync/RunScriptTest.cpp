@@ -56,11 +56,9 @@ class RunScript {
         } else if (verb == "show") {
             show();
         } else if (verb == "test") {
-            const auto test = QCoro::waitFor(fixture_->engine().account().testConnection()).value();
+            const std::string said = QCoro::waitFor(fixture_->engine().account().testConnection());
             tellRequests();
-            const auto* failure = std::get_if<response::Failure>(&test.answer);
-            say("answer " + std::to_string(test.answer.index()) + ", " + std::to_string(test.lines) +
-                " lines" + (failure ? ": " + failure->message : ""));
+            say(said);
         } else if (verb == "progress") {
             tellAll(std::exchange(told_, {}));
         } else if (verb == "plan") {

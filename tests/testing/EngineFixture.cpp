@@ -1,5 +1,7 @@
 #include "testing/EngineFixture.h"
 
+#include "testing/PlainClient.h"
+
 #include <QUrl>
 
 #include <gtest/gtest.h>
@@ -35,7 +37,7 @@ ModelContext* opened(StoreFixture& store, const std::string& vfs, const std::str
     if (!sql.empty()) {
         store.open();
         store.close();
-        SqliteDatabase(store.file(), SqliteDatabase::Mode::readWrite).execute(sql);
+        changed(store.file(), sql);
     }
     return store.open(vfs);
 }

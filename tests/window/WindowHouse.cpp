@@ -33,7 +33,7 @@ AppWindowsParts WindowHouse::windowParts() {
 
 TourParts WindowHouse::tour() {
     windows_.reset();
-    std::ignore = app_->context().save();
+    std::ignore = app_->contextToChange().save();
     app_->store().reload(app_->context());
     return {*app_, parts(), windowParts(), folder_.path() / "vantrell.sqlite"};
 }
@@ -48,15 +48,15 @@ void WindowHouse::sold(const std::string& date, const std::string& title, const 
     row.units = 1;
     row.proceedsPerUnit = 1;
     row.proceedsCurrency = row.customerCurrency = row.country = currency;
-    app_->context().replaceSalesRows("DAILY", date,
-                                     std::vector<SalesRowView>(static_cast<std::size_t>(lines), row));
+    app_->contextToChange().replaceSalesRows("DAILY", date,
+                                             std::vector<SalesRowView>(static_cast<std::size_t>(lines), row));
     SalesReport report{.reportDate = date, .message = title};
     report.setStatus(ReportStatus::ok);
-    app_->context().salesReports().insert(report);
+    app_->contextToChange().salesReports().insert(report);
 }
 
 void WindowHouse::show() {
-    std::ignore = app_->context().save();
+    std::ignore = app_->contextToChange().save();
     windows_->show();
     EXPECT_TRUE(QTest::qWaitFor([this] { return app_->store().isLoaded(); }));
 }

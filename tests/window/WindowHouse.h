@@ -25,7 +25,7 @@ class WindowHouse final : public ShortReports {
     static LocaleNames usDollars() { return {"en_US", "en_US", "en_US", "en_US", "en_US"}; }
 
     [[nodiscard]] MyApp& app() { return *app_; }
-    [[nodiscard]] ModelContext& context() override { return app_->context(); }
+    [[nodiscard]] ModelContext& context() override { return app_->contextToChange(); }
     [[nodiscard]] AppWindows& windows() { return *windows_; }
     [[nodiscard]] QQuickWindow& window() { return windows_->mainWindow(); }
     [[nodiscard]] ScriptedHttp& http() { return http_; }

@@ -5,7 +5,6 @@
 #include "files/TextFile.h"
 #include "screens/components/ShownText.h"
 #include "screens/settings/UserFolder.h"
-#include "screens/words/RunWords.h"
 
 #include <utility>
 
@@ -94,9 +93,9 @@ void CredentialsEditor::removeKey() {
 
 QCoro::Task<> CredentialsEditor::runTest(Account& account, QPointer<CredentialsEditor> editor,
                                          int appearance) {
-    const auto test = co_await account.testConnection();
+    const std::string result = co_await account.testConnection();
     if (editor != nullptr) {
-        editor->tested(connectionText(test).toStdString(), appearance);
+        editor->tested(result, appearance);
     }
 }
 

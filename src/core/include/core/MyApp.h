@@ -46,7 +46,10 @@ class MyApp {
     /// not be saved; reports not yet reached keep their status.
     void close();
 
-    [[nodiscard]] ModelContext& context() { return container_->mainContext(); }
+    /// To read: the engine alone changes the store.
+    [[nodiscard]] const ModelContext& context() const { return container_->mainContext(); }
+    /// For what works as the engine does.
+    [[nodiscard]] ModelContext& contextToChange() { return container_->mainContext(); }
     /// The store mirrors through the platform's cloud.
     [[nodiscard]] bool cloudSyncActive() const { return cloudSyncActive_; }
     [[nodiscard]] EarningsStore& store() { return store_; }

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "data/FinanceRow.h"
-#include "data/LineTexts.h"
+#include "data/TextDictionary.h"
 
 namespace vantrell {
 
 /// A finance line as it is stored: a parsed one with its texts as numbers of the dictionary.
 struct FinanceLine {
+    using Figures = FinanceLine;
+
     Instant startDate;
     Instant endDate;
     TextID vendorIdentifier = 0;
@@ -23,8 +25,5 @@ struct FinanceLine {
     Decimal customerPrice;
     TextID customerCurrency = 0;
 };
-
-[[nodiscard]] FinanceLine encoded(const ParsedFinanceRow& row, LineTexts& texts);
-[[nodiscard]] ParsedFinanceRow decoded(const FinanceLine& line, const TextDictionary& texts);
 
 }  // namespace vantrell

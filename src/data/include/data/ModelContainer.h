@@ -1,7 +1,6 @@
 #pragma once
 
 #include "data/ModelContext.h"
-#include "data/Sqlite.h"
 #include "data/StoreError.h"
 
 #include <filesystem>
@@ -32,6 +31,8 @@ class ModelContainer {
 
     ModelContainer(const ModelContainer&) = delete;
     ModelContainer& operator=(const ModelContainer&) = delete;
+
+    ~ModelContainer();
 
     [[nodiscard]] ModelContext& mainContext() { return context_; }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "data/FileCheck.h"
-#include "data/LineMappings.h"
-#include "data/RecordMappings.h"
+#include "data/FinanceRow.h"
+#include "data/SalesRow.h"
 #include "data/StoreHealth.h"
+#include "data/StoreParts.h"
 
 #include <cstddef>
 #include <memory>
@@ -14,6 +14,9 @@
 
 namespace vantrell {
 
+class FileCheck;
+class SqliteTransaction;
+
 /// How far the dictionaries had come at some time.
 struct DictionarySizes {
     std::size_t texts = 0;
@@ -21,9 +24,10 @@ struct DictionarySizes {
     std::size_t bytes = 0;  ///< of memory, about
 };
 
-/// The records of the store with their pending changes. Every reader sees a change at once; `save` makes all
-/// of them durable in one transaction or none. After a save that failed they wait for the next one, which
-/// begins by removing what may yet stand in the file of the one that failed.
+/// The records of the store with their pending changes. Whoever holds it as const reads, and sees every
+/// change at once; else `save` makes all changes durable in one transaction or none. After a save that failed
+/// they wait for the next one, which begins by removing what may yet stand in the file of the one that
+/// failed.
 ///
 /// Main thread only. Lines that can't be read are left out and told by `health`; all else is in memory and
 /// can't fail.
@@ -32,13 +36,40 @@ class ModelContext {
     /// Reads everything but the lines, and holds the numbers of lines against what the reports say. Throws
     /// SqliteError where the store can't be shown even in part.
     ModelContext(SqliteDatabase& database, std::shared_ptr<FileCheck> fileCheck);
+    ~ModelContext();
     ModelContext(const ModelContext&) = delete;
     ModelContext& operator=(const ModelContext&) = delete;
 
-    [[nodiscard]] RecordTable<SalesReport>& salesReports() { return salesReports_; }
-    [[nodiscard]] RecordTable<FinanceReport>& financeReports() { return financeReports_; }
-    [[nodiscard]] RecordTable<RateSet>& rateSets() { return rateSets_; }
-    [[nodiscard]] RecordTable<SyncLogEntry>& syncLog() { return syncLog_; }
+    [[nodiscard]] const auto& salesReports() const { return *parts_.get<RecordTable<SalesReport>>(); }
+    [[nodiscard]] const auto& financeReports() const { return *parts_.get<RecordTable<FinanceReport>>(); }
+    [[nodiscard]] const auto& rateSets() const { return *parts_.get<RecordTable<RateSet>>(); }
+    [[nodiscard]] const auto& syncLog() const { return *parts_.get<RecordTable<SyncLogEntry>>(); }
+    /// The stored lines by report, in the order of frequency, report date and file, with texts as numbers of
+    /// `texts` and offers as numbers of `offers`. A batch never changes: other lines for the same report come
+    /// as another batch.
+    [[nodiscard]] const auto& salesLines() const { return *parts_.get<LineTable<SalesLine>>(); }
+    [[nodiscard]] const auto& financeLines() const { return *parts_.get<LineTable<FinanceLine>>(); }
+    [[nodiscard]] const auto& texts() const { return *parts_.get<TextDictionary>(); }
+    /// For those whose texts must outlive the context.
+    [[nodiscard]] std::shared_ptr<const TextDictionary> sharedTexts() const {
+        return parts_.get<TextDictionary>();
+    }
+    [[nodiscard]] const auto& offers() const { return *parts_.get<OfferDictionary>(); }
+
+    /// Whole records, in the order of the store; for exports and checks, since they are large.
+    [[nodiscard]] std::vector<SalesRow> fetchSalesRows() const;
+    [[nodiscard]] std::vector<FinanceRow> fetchFinanceRows() const;
+
+    /// Whether what is pending could be stored and what is stored could be read.
+    [[nodiscard]] const StoreHealth& health() const { return health_; }
+
+    // What follows changes the store.
+
+    [[nodiscard]] auto& salesReports() { return *parts_.get<RecordTable<SalesReport>>(); }
+    [[nodiscard]] auto& financeReports() { return *parts_.get<RecordTable<FinanceReport>>(); }
+    [[nodiscard]] auto& rateSets() { return *parts_.get<RecordTable<RateSet>>(); }
+    [[nodiscard]] auto& syncLog() { return *parts_.get<RecordTable<SyncLogEntry>>(); }
+    [[nodiscard]] StoreHealth& health() { return health_; }
 
     /// How rows are kept, in this order: appended to `lines`, so that a long report can be gone through in
     /// steps.
@@ -61,24 +92,7 @@ class ModelContext {
     void replaceFinanceRows(const std::string& region, const std::string& fiscalPeriod,
                             const std::vector<ParsedFinanceRow>& rows);
 
-    /// The stored lines by report, in the order of frequency, report date and file, with texts as numbers of
-    /// `texts` and offers as numbers of `offers`. A batch never changes: other lines for the same report come
-    /// as another batch.
-    [[nodiscard]] LineTable<SalesLine>& salesLines() { return salesLines_; }
-    [[nodiscard]] LineTable<FinanceLine>& financeLines() { return financeLines_; }
-    [[nodiscard]] const TextDictionary& texts() const { return *texts_; }
-    /// For those whose texts must outlive the context.
-    [[nodiscard]] std::shared_ptr<const TextDictionary> sharedTexts() const { return texts_; }
-    [[nodiscard]] const OfferDictionary& offers() const { return offers_; }
-
-    /// Whole records, in the order of the store; for exports and checks, since they are large.
-    [[nodiscard]] std::vector<SalesRow> fetchSalesRows();
-    [[nodiscard]] std::vector<FinanceRow> fetchFinanceRows();
-
-    /// Whether what is pending could be stored and what is stored could be read.
-    [[nodiscard]] StoreHealth& health() { return health_; }
-
-    [[nodiscard]] bool hasChanges() const;
+    [[nodiscard]] bool hasChanges();
     /// Writes some of the pending lines, for the next save to make durable with all else, so that it is
     /// quick. True while there are more: whoever saves a long report calls it until there are none. A failure
     /// undoes what was written ahead, and is left to the save to tell.
@@ -94,29 +108,23 @@ class ModelContext {
     void holdSaves(bool hold) { savesHeld_ = hold; }
 
   private:
+    template <typename Part>
+    [[nodiscard]] Part& own() {
+        return *parts_.get<Part>();
+    }
     void checkCounts();
     [[nodiscard]] bool mayWrite() const { return !savesHeld_ && !health_.isDamaged(); }
     [[nodiscard]] StoreError failed(StoreError error);
     void takeBack(const ReportName& report);
     void begin();
-    void removeUnsaved();
-    void write();
-    void committed();
     void rollBack();
 
     SqliteDatabase& database_;
     std::shared_ptr<FileCheck> fileCheck_;
     StoreHealth health_;
-    std::shared_ptr<TextDictionary> texts_;
-    OfferDictionary offers_;
-    RecordTable<SalesReport> salesReports_;
-    RecordTable<FinanceReport> financeReports_;
-    RecordTable<RateSet> rateSets_;
-    RecordTable<SyncLogEntry> syncLog_;
-    LineTable<SalesLine> salesLines_;
-    LineTable<FinanceLine> financeLines_;
+    StoreParts parts_;
     // Open from the first line written ahead to the save.
-    std::optional<SqliteTransaction> transaction_;
+    std::unique_ptr<SqliteTransaction> transaction_;
     // A commit failed, and what it was to make durable may stand in the file or not.
     bool isUnsure_ = false;
     bool savesHeld_ = false;

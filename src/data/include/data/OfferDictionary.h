@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/Decimal.h"
-#include "data/Sqlite.h"
 #include "data/TextDictionary.h"
 
 #include <cstdint>
@@ -32,7 +31,7 @@ using OfferID = std::uint32_t;
 class OfferDictionary {
   public:
     /// Reads what is stored; throws SqliteError.
-    explicit OfferDictionary(SqliteDatabase& database);
+    explicit OfferDictionary(const OpenStore& store);
     OfferDictionary(const OfferDictionary&) = delete;
     OfferDictionary& operator=(const OfferDictionary&) = delete;
 
@@ -45,6 +44,9 @@ class OfferDictionary {
     [[nodiscard]] std::size_t bytes() const { return offers_.size() * (sizeof(StoredOffer) + 48); }
     void shrink(std::size_t size);
 
+  private:
+    friend class ModelContext;
+    [[nodiscard]] static bool hasChanges() { return false; }
     /// Inserts the offers that aren't stored yet, inside the caller's transaction; throws SqliteError.
     void write();
     /// Removes what a save has left whose commit failed; likewise.
@@ -52,7 +54,6 @@ class OfferDictionary {
     /// To be called when that transaction was committed.
     void committed() { saved_ = offers_.size(); }
 
-  private:
     struct Hash {
         std::size_t operator()(const StoredOffer& offer) const;
     };

@@ -1,8 +1,11 @@
 #pragma once
 
-#include "data/LineTexts.h"
+#include "base/Instant.h"
 #include "data/OfferDictionary.h"
 #include "data/SalesRow.h"
+#include "data/TextDictionary.h"
+
+#include <cstdint>
 
 namespace vantrell {
 
@@ -15,8 +18,9 @@ struct SalesFigures {
 };
 
 /// A sales line as it is stored: a parsed one with its offer and its texts as numbers of the dictionaries.
-struct SalesLine {
-    SalesFigures figures;
+struct SalesLine : SalesFigures {
+    using Figures = SalesFigures;
+
     Instant endDate;
     TextID version = 0;
     TextID promoCode = 0;
@@ -28,9 +32,5 @@ struct SalesLine {
     TextID client = 0;
     TextID orderType = 0;
 };
-
-[[nodiscard]] SalesLine encoded(const SalesRowView& row, LineTexts& texts, OfferDictionary& offers);
-[[nodiscard]] ParsedSalesRow decoded(const SalesLine& line, const TextDictionary& texts,
-                                     const OfferDictionary& offers);
 
 }  // namespace vantrell

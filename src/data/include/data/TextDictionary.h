@@ -1,7 +1,5 @@
 #pragma once
 
-#include "data/Sqlite.h"
-
 #include <cstdint>
 #include <deque>
 #include <string>
@@ -10,19 +8,18 @@
 
 namespace vantrell {
 
+class SqliteDatabase;
+struct OpenStore;
+
 /// The number of a text in the store's dictionary; 0 is the empty text.
 using TextID = std::uint32_t;
-
-/// A column with the number of something in a dictionary. What can't be one, which only a damaged store
-/// holds, reads as 0.
-[[nodiscard]] std::uint32_t readID(const SqliteStatement& row, int column);
 
 /// The distinct texts of all stored lines, by number. A text that was given a number keeps it for ever; new
 /// ones are written with the save that first uses them. Held whole in memory.
 class TextDictionary {
   public:
     /// Reads what is stored; throws SqliteError.
-    explicit TextDictionary(SqliteDatabase& database);
+    explicit TextDictionary(const OpenStore& store);
     TextDictionary(const TextDictionary&) = delete;
     TextDictionary& operator=(const TextDictionary&) = delete;
 
@@ -36,6 +33,9 @@ class TextDictionary {
     /// Takes back the newest texts down to `size`, but none that is stored.
     void shrink(std::size_t size);
 
+  private:
+    friend class ModelContext;
+    [[nodiscard]] static bool hasChanges() { return false; }  // what no line uses needn't be written
     /// Inserts the texts that aren't stored yet, inside the caller's transaction; throws SqliteError.
     void write();
     /// Removes what a save has left whose commit failed; likewise.
@@ -43,7 +43,6 @@ class TextDictionary {
     /// To be called when that transaction was committed.
     void committed() { saved_ = texts_.size(); }
 
-  private:
     SqliteDatabase& database_;
     std::deque<std::string> texts_;
     std::unordered_map<std::string_view, TextID> ids_;

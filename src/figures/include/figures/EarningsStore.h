@@ -29,8 +29,8 @@ class EarningsStore : public QObject {
 
     /// Reads some of what the next reload will need, so that it is quick; false when that was little or
     /// nothing, and the reload can follow. Nothing that is shown changes before it.
-    [[nodiscard]] bool readAhead(ModelContext& context) { return loader_.readAhead(context); }
-    void reload(ModelContext& context);
+    [[nodiscard]] bool readAhead(const ModelContext& context) { return loader_.readAhead(context); }
+    void reload(const ModelContext& context);
 
     /// An empty one until the first reload.
     [[nodiscard]] const SharedSnapshot& snapshot() const { return snapshot_; }

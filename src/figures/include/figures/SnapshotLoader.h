@@ -19,25 +19,25 @@ class SnapshotLoader {
 
     /// Reads some of the reports that the next load will need, so that it is quick; false when that was
     /// little or nothing, and the load can follow.
-    [[nodiscard]] bool readAhead(ModelContext& context);
+    [[nodiscard]] bool readAhead(const ModelContext& context);
 
     /// What the context holds now. Lines that can't be read are missing, and told by the store's health.
-    [[nodiscard]] SharedSnapshot load(ModelContext& context, const Snapshot& before);
+    [[nodiscard]] SharedSnapshot load(const ModelContext& context, const Snapshot& before);
 
   private:
     template <typename Chunk>
     using ChunksByBatch = std::unordered_map<BatchID, std::shared_ptr<const Chunk>>;
 
-    [[nodiscard]] std::shared_ptr<const SalesChunk> read(LineTable<SalesLine>& lines, const LineBatch& batch,
-                                                         const ModelContext& context);
-    [[nodiscard]] std::shared_ptr<const FinanceChunk> read(LineTable<FinanceLine>& lines,
+    [[nodiscard]] std::shared_ptr<const SalesChunk> read(const LineTable<SalesLine>& lines,
+                                                         const LineBatch& batch, const ModelContext& context);
+    [[nodiscard]] std::shared_ptr<const FinanceChunk> read(const LineTable<FinanceLine>& lines,
                                                            const LineBatch& batch,
                                                            const ModelContext& context) const;
     template <typename Line, typename Chunk>
-    [[nodiscard]] std::size_t readSome(LineTable<Line>& lines, ChunksByBatch<Chunk>& known,
+    [[nodiscard]] std::size_t readSome(const LineTable<Line>& lines, ChunksByBatch<Chunk>& known,
                                        const ModelContext& context);
     template <typename Line, typename Chunk>
-    [[nodiscard]] std::vector<std::shared_ptr<const Chunk>> readRest(LineTable<Line>& lines,
+    [[nodiscard]] std::vector<std::shared_ptr<const Chunk>> readRest(const LineTable<Line>& lines,
                                                                      ChunksByBatch<Chunk>& known,
                                                                      const ModelContext& context);
     [[nodiscard]] std::shared_ptr<const OfferTable> offerTable(const ModelContext& context);

@@ -7,8 +7,7 @@
 #include <string>
 #include <string_view>
 
-struct sqlite3;
-struct sqlite3_stmt;
+#include <sqlite3.h>
 
 namespace vantrell {
 
@@ -28,7 +27,9 @@ class SqliteError : public std::runtime_error {
 /// One prepared statement. Parameters and columns count from 0.
 class SqliteStatement {
   public:
-    void bind(int index, std::int64_t value);
+    void bind(int index, std::int64_t value) {
+        checkBound(sqlite3_bind_int64(statement_.get(), index + 1, value));
+    }
     /// The bytes must stay where they are until the statement is reset.
     void bind(int index, std::string_view text);
     void bindNull(int index);
@@ -39,7 +40,9 @@ class SqliteStatement {
     void run();
     void reset();
 
-    [[nodiscard]] std::int64_t integer(int column) const;
+    [[nodiscard]] std::int64_t integer(int column) const {
+        return sqlite3_column_int64(statement_.get(), column);
+    }
     /// Valid until the next step or reset.
     [[nodiscard]] std::string_view text(int column) const;
     [[nodiscard]] bool isNull(int column) const;
@@ -51,6 +54,12 @@ class SqliteStatement {
         void operator()(sqlite3_stmt* statement) const;
     };
     explicit SqliteStatement(sqlite3_stmt* statement) : statement_(statement) {}
+    void checkBound(int result) const {
+        if (result != SQLITE_OK) {
+            failed(result);
+        }
+    }
+    [[noreturn]] void failed(int result) const;
 
     std::unique_ptr<sqlite3_stmt, Finalizer> statement_;
 };
@@ -69,6 +78,8 @@ class SqliteDatabase {
 
     void execute(const std::string& sql);
     [[nodiscard]] SqliteStatement prepare(std::string_view sql);
+    /// One statement without rows, with one parameter.
+    void run(std::string_view sql, std::int64_t parameter);
     /// The first column of the first row as an integer; 0 without a row.
     [[nodiscard]] std::int64_t integer(std::string_view sql);
     /// Becomes a copy of the other, page by page.

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Sqlite.h"
 #include "data/ReportName.h"
-#include "data/Sqlite.h"
 
 namespace vantrell {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/Sqlite.h"
+#include "Sqlite.h"
 
 #include <memory>
 #include <optional>
