@@ -1,6 +1,7 @@
 #include "Require.h"
 #include "Targets.h"
 #include "base/Characters.h"
+#include "base/Overloaded.h"
 #include "base/Utf8.h"
 #include "currency/RatesFetcher.h"
 #include "data/Reports.h"
@@ -17,7 +18,11 @@ void classification(const std::string& input) {
     for (const int status : {400, 401, 404, 410, 429, 503}) {
         const ReportResponse answer = classifyResponse(status, input);
         require(!std::holds_alternative<response::Success>(answer));
-        const std::string line = diagnosticText(answer);
+        const std::string line = std::visit(
+            Overloaded{[](const response::Success& success) { return success.body; },
+                       [](const response::WrongVersion& wrong) { return wrong.latest + wrong.detail; },
+                       [](const auto& other) { return other.message; }},
+            answer);
         require(isUtf8(line) && line.size() < 2 * mostMessageBytes);
         require(firstCharacters(line, 500).size() <= line.size());
     }

@@ -29,9 +29,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-[[nodiscard]] QCoro::Task<> write(QCoro::Task<std::string> result, std::ostream& output) {
-    const std::string text = co_await std::move(result);
-    output << text << std::endl;
+[[nodiscard]] QCoro::Task<> test(Account& account, std::ostream& output) {
+    const auto result = co_await account.testConnection();
+    output << connectionText(result).toStdString() << std::endl;
 }
 
 [[nodiscard]] QCoro::Task<> started(SyncEngine& engine, const TrialOperation& operation,
@@ -44,7 +44,7 @@ namespace fs = std::filesystem;
                    [&](const DoMonth& month) { return engine.refetchMonth(month.text); },
                    [&](const DoFinance& finance) { return engine.refetchFinance(finance.period); },
                    [&](const DoRates&) { return engine.refreshRates(true); },
-                   [&](const DoTest&) { return write(engine.account().testConnection(), output); }},
+                   [&](const DoTest&) { return test(engine.account(), output); }},
         operation);
 }
 

@@ -1,6 +1,6 @@
 #include "sync/Account.h"
 
-#include "calendar/DayKey.h"
+#include "reports/ReportError.h"
 
 #include <functional>
 #include <utility>
@@ -46,23 +46,23 @@ void Account::remove() {
     hasCredentials_ = false;
 }
 
-QCoro::Task<std::string> Account::testConnection() {
+QCoro::Task<std::optional<ConnectionTest>> Account::testConnection() {
     if (!client_.credentials().isComplete()) {
-        co_return "Enter the Issuer ID, Key ID, key file and vendor number first.";
-    }
-    const auto yesterday = calendar_.dateDaysAgo(1);
-    if (!yesterday) {
-        co_return "";
+        co_return std::nullopt;
     }
     ReportResponse answer =
-        co_await client_.fetchSales(ReportFrequency::daily, dayKey(*yesterday), std::nullopt, end_);
-    // A reasoned answer proves the key good, though there is no report to show.
-    const bool accepted = std::holds_alternative<response::NotYetAvailable>(answer) ||
-                          std::holds_alternative<response::NoSales>(answer);
+        co_await client_.fetchSales(ReportFrequency::daily, calendar_.dayKey(1), std::nullopt, end_);
     // A body that was received is read beside the window.
-    std::function<std::string()> tell = [answer = std::move(answer)] { return diagnosticText(answer); };
-    const auto text = co_await worker_.run(std::move(tell), end_);
-    co_return (accepted ? "Credentials accepted. " : "") + text.value_or("");
+    std::function<ConnectionTest()> read = [answer = std::move(answer)]() -> ConnectionTest {
+        const auto* const success = std::get_if<response::Success>(&answer);
+        try {
+            return success != nullptr ? ConnectionTest{response::Success{}, dataLineCount(success->body)}
+                                      : ConnectionTest{answer};
+        } catch (const ReportError& error) {
+            return {response::Failure{error.what()}};
+        }
+    };
+    co_return co_await worker_.run(std::move(read), end_);
 }
 
 }  // namespace vantrell

@@ -118,7 +118,7 @@ TEST_F(ASCClientTest, EveryOtherAnswerIsReportedAfterOneRequest) {
         http.requests.clear();
         http.answers = {answer};
         const ReportResponse actual = dailySales();
-        EXPECT_TRUE(actual == expected) << name << ": " << diagnosticText(actual);
+        EXPECT_TRUE(actual == expected) << name;
         EXPECT_EQ(http.requests.size(), 1U) << name;
     }
 }
@@ -147,7 +147,7 @@ TEST_F(ASCClientTest, WhatAnErrorEchoesOfTheCredentialsIsMasked) {
     };
     for (const auto& [name, body, message] : cases) {
         http.answer(500, body);
-        EXPECT_EQ(diagnosticText(dailySales()), "Failed — " + message) << name;
+        EXPECT_TRUE(dailySales() == ReportResponse(response::Failure{message})) << name;
     }
 }
 

@@ -42,6 +42,24 @@ TEST(RunWords, SayWhatEndedARun) {
     }
 }
 
+TEST(RunWords, SayWhatATestOfTheKeyGave) {
+    const std::pair<std::optional<ConnectionTest>, const char*> cases[] = {
+        {{}, "Enter the Issuer ID, Key ID, key file and vendor number first."},
+        {{{response::Success{}, 3}}, "OK — report received (3 data lines)"},
+        {{{response::NotYetAvailable{"%1"}}}, "Credentials accepted. Not published yet — %1"},
+        {{{response::NoSales{"No."}}}, "Credentials accepted. No sales — No."},
+        {{{response::Gone{"No."}}}, "Past retention — No."},
+        {{{response::WrongVersion{"1_0", "No."}}}, "Version mismatch — No."},
+        {{{response::RateLimited{"No."}}}, "Rate limited — No."},
+        {{{response::Failure{"No."}}}, "Failed — No."},
+    };
+    for (const auto& [test, words] : cases) {
+        EXPECT_EQ(connectionText(test), QString::fromUtf8(words));
+    }
+    EXPECT_EQ(connectionText(ConnectionTest{response::AuthFailure{"No"}}),
+              runText(RunFailure{RunFailure::Kind::keyRefused, "No"}));
+}
+
 TEST(RunWords, SayWhenARunFinished) {
     const Locale locale{LocaleNames{"en_US", "en_US", "en_US", "en_US", "en_US"}};
     const TimeZone zone = TimeZone::named("Europe/Berlin").value();

@@ -56,9 +56,11 @@ class RunScript {
         } else if (verb == "show") {
             show();
         } else if (verb == "test") {
-            const std::string said = QCoro::waitFor(fixture_->engine().account().testConnection());
+            const auto test = QCoro::waitFor(fixture_->engine().account().testConnection()).value();
             tellRequests();
-            say(said);
+            const auto* failure = std::get_if<response::Failure>(&test.answer);
+            say("answer " + std::to_string(test.answer.index()) + ", " + std::to_string(test.lines) +
+                " lines" + (failure ? ": " + failure->message : ""));
         } else if (verb == "progress") {
             tellAll(std::exchange(told_, {}));
         } else if (verb == "plan") {

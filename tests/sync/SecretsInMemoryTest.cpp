@@ -97,7 +97,8 @@ TEST(Secrets, NothingOfKeyAndTokenIsLeftInMemoryOnceTheKeyIsRemoved) {
     SyncEngine engine({fixture.context(), http, fixture.clock, fixture.worker, fixture.localTime, secrets,
                        fixture.defaults},
                       {server->url(""), server->url("")});
-    EXPECT_TRUE(QCoro::waitFor(engine.account().testConnection()).starts_with("Authentication failed"));
+    const auto test = QCoro::waitFor(engine.account().testConnection());
+    EXPECT_TRUE(std::holds_alternative<response::AuthFailure>(test.value().answer));
     const auto bearer = server->requests.at(0).find("Bearer ");
     token.emplace(std::string_view(server->requests.at(0)).substr(bearer + 150, 40));
     server.reset();

@@ -1115,6 +1115,38 @@
         <source>Re-fetch finished %1</source>
         <translation>Neu abgerufen: %1</translation>
     </message>
+    <message>
+        <source>Enter the Issuer ID, Key ID, key file and vendor number first.</source>
+        <translation>Geben Sie zuerst Issuer-ID, Schlüssel-ID, Schlüsseldatei und Anbieternummer ein.</translation>
+    </message>
+    <message>
+        <source>OK — report received (%1 data lines)</source>
+        <translation>OK – Bericht erhalten (%1 Datenzeilen)</translation>
+    </message>
+    <message>
+        <source>Credentials accepted. Not published yet — %1</source>
+        <translation>Zugangsdaten angenommen. Noch nicht veröffentlicht – %1</translation>
+    </message>
+    <message>
+        <source>Credentials accepted. No sales — %1</source>
+        <translation>Zugangsdaten angenommen. Keine Verkäufe – %1</translation>
+    </message>
+    <message>
+        <source>Past retention — %1</source>
+        <translation>Nicht mehr verfügbar – %1</translation>
+    </message>
+    <message>
+        <source>Version mismatch — %1</source>
+        <translation>Falsche Berichtsversion – %1</translation>
+    </message>
+    <message>
+        <source>Rate limited — %1</source>
+        <translation>Gedrosselt – %1</translation>
+    </message>
+    <message>
+        <source>Failed — %1</source>
+        <translation>Fehlgeschlagen – %1</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::SettingsView</name>

@@ -5,6 +5,7 @@
 #include "files/TextFile.h"
 #include "screens/components/ShownText.h"
 #include "screens/settings/UserFolder.h"
+#include "screens/words/RunWords.h"
 
 #include <utility>
 
@@ -93,9 +94,9 @@ void CredentialsEditor::removeKey() {
 
 QCoro::Task<> CredentialsEditor::runTest(Account& account, QPointer<CredentialsEditor> editor,
                                          int appearance) {
-    const std::string result = co_await account.testConnection();
+    const auto test = co_await account.testConnection();
     if (editor != nullptr) {
-        editor->tested(result, appearance);
+        editor->tested(connectionText(test).toStdString(), appearance);
     }
 }
 

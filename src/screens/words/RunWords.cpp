@@ -1,6 +1,9 @@
 #include "screens/words/RunWords.h"
 
+#include "base/Overloaded.h"
 #include "screens/components/ShownText.h"
+
+#include <variant>
 
 #include <QCoreApplication>
 
@@ -13,6 +16,14 @@ class RunWords {
 
 QString withItem(const QString& part, const QString& item) {
     return item.isEmpty() ? part : RunWords::tr("%1 · %2", "part of a run and its date").arg(part, item);
+}
+
+QString refusedText(const std::string& message) {
+    return RunWords::tr(
+               "Authentication failed — %1. Check that the key was created under Users and Access → "
+               "Integrations → App Store Connect API with the Finance role (an In-App Purchase key will not "
+               "work).")
+        .arg(fromUtf8(message));
 }
 
 }  // namespace
@@ -55,11 +66,7 @@ QString runText(const std::optional<RunFailure>& failure) {
         case RunFailure::Kind::keyRefused:
             break;
     }
-    return RunWords::tr(
-               "Authentication failed — %1. Check that the key was created under Users and Access → "
-               "Integrations → App Store Connect API with the Finance role (an In-App Purchase key will not "
-               "work).")
-        .arg(fromUtf8(failure->detail));
+    return refusedText(failure->detail);
 }
 
 QString runText(const std::optional<FinishedRun>& run, const Locale& locale, const TimeZone& zone) {
@@ -76,6 +83,38 @@ QString runText(const std::optional<FinishedRun>& run, const Locale& locale, con
             break;
     }
     return RunWords::tr("Re-fetch finished %1").arg(time);
+}
+
+QString connectionText(const std::optional<ConnectionTest>& test) {
+    if (!test) {
+        return RunWords::tr("Enter the Issuer ID, Key ID, key file and vendor number first.");
+    }
+    using namespace response;  // NOLINT(google-build-using-namespace)
+    return std::visit(
+        Overloaded{
+            [&](const Success&) {
+                return RunWords::tr("OK — report received (%1 data lines)").arg(test->lines);
+            },
+            // A reasoned answer proves the key good, though there is no report to show.
+            [](const NotYetAvailable& pending) {
+                return RunWords::tr("Credentials accepted. Not published yet — %1")
+                    .arg(fromUtf8(pending.message));
+            },
+            [](const NoSales& none) {
+                return RunWords::tr("Credentials accepted. No sales — %1").arg(fromUtf8(none.message));
+            },
+            [](const Gone& gone) { return RunWords::tr("Past retention — %1").arg(fromUtf8(gone.message)); },
+            [](const WrongVersion& refused) {
+                return RunWords::tr("Version mismatch — %1").arg(fromUtf8(refused.detail));
+            },
+            [](const AuthFailure& refused) { return refusedText(refused.message); },
+            [](const RateLimited& limited) {
+                return RunWords::tr("Rate limited — %1").arg(fromUtf8(limited.message));
+            },
+            [](const Failure& failure) {
+                return RunWords::tr("Failed — %1").arg(fromUtf8(failure.message));
+            }},
+        test->answer);
 }
 
 }  // namespace vantrell

@@ -2,6 +2,7 @@
 
 #include "base/LocalTime.h"
 #include "locale/Locale.h"
+#include "sync/Account.h"
 #include "sync/RunFacts.h"
 
 #include <optional>
@@ -19,5 +20,6 @@ namespace vantrell {
 [[nodiscard]] QString runText(const std::optional<RunFailure>& failure);
 [[nodiscard]] QString runText(const std::optional<FinishedRun>& run, const Locale& locale,
                               const TimeZone& zone);
+[[nodiscard]] QString connectionText(const std::optional<ConnectionTest>& test);
 
 }  // namespace vantrell

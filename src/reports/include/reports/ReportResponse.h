@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <variant>
 
@@ -61,7 +62,7 @@ using ReportResponse =
     std::variant<response::Success, response::NotYetAvailable, response::NoSales, response::Gone,
                  response::WrongVersion, response::AuthFailure, response::RateLimited, response::Failure>;
 
-/// The outcome in one line for the user. Reads a body that was received.
-[[nodiscard]] std::string diagnosticText(const ReportResponse& response);
+/// The lines below the heading of a body that was received. Throws ReportError.
+[[nodiscard]] std::size_t dataLineCount(const std::string& body);
 
 }  // namespace vantrell

@@ -5,7 +5,9 @@
 #include "data/APICredentials.h"
 #include "data/CredentialsKeychain.h"
 #include "reports/ASCClient.h"
+#include "reports/ReportResponse.h"
 
+#include <cstddef>
 #include <optional>
 #include <stop_token>
 #include <string>
@@ -15,6 +17,12 @@
 #include <qcoro/qcorotask.h>
 
 namespace vantrell {
+
+/// What the service answered to a request that tries the key.
+struct ConnectionTest {
+    ReportResponse answer;  ///< of a report not the body,
+    std::size_t lines = 0;  ///< but the number of its lines
+};
 
 /// The key to the account's reports: read at the start, saved, tried and removed. Main thread only.
 class Account : public QObject {
@@ -39,8 +47,8 @@ class Account : public QObject {
     /// Forgets the key; stored reports stay. Throws CredentialsError, and then forgets nothing, if the secret
     /// service refuses.
     void remove();
-    /// Tries the credentials with one real request and stores nothing. The result is a text for the user.
-    [[nodiscard]] QCoro::Task<std::string> testConnection();
+    /// Tries the credentials with one real request and stores nothing. Absent where they aren't complete.
+    [[nodiscard]] QCoro::Task<std::optional<ConnectionTest>> testConnection();
 
   Q_SIGNALS:
     void hasCredentialsChanged();
