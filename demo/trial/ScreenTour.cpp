@@ -72,11 +72,13 @@ class Session {
         root_.dashboard()->chart()->clearSelection();
         takeDay("day", newestDayWithRows(store_));
         const auto tiles = root_.dashboard()->tiles();
-        const QString allTime =
-            tiles->at<StatTile>(static_cast<std::size_t>(tiles->count() - 1)).money.spoken;
-        press(window_, allTime);
-        visit_(window_, "breakdown");
-        press(window_, allTime);
+        const auto allTime = tiles->at<StatTile>(static_cast<std::size_t>(tiles->count() - 1)).money;
+        // Without a sale there is nothing that the total is made of, and it may not be shown at all.
+        if (!root_.dashboard()->isEmpty() && !allTime.byCurrency->empty()) {
+            press(window_, allTime.spoken);
+            visit_(window_, "breakdown");
+            press(window_, allTime.spoken);
+        }
     }
 
     void takeApps() {
