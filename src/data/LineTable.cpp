@@ -19,6 +19,8 @@ namespace {
 // More than any report has, and than any store will ever count.
 constexpr std::int64_t mostBelievableLines = 10'000'000;
 constexpr std::int64_t mostBelievableNumber = std::int64_t{1} << 53U;
+// Saved ones, some 15 MB: more than come in between two reloads.
+constexpr std::size_t mostKeptLines = 200'000;
 constexpr std::size_t linesOfBlock = 512;
 
 // Known frequencies in their order, all else last.
@@ -107,6 +109,7 @@ void LineTable<Line>::replace(const std::string& group, const std::string& label
     auto last = first;
     while (last != entries_.end() && isOf(last->second, group, label)) {
         if (last->second.firstLine != unsaved) {
+            letGo(last->second);
             removed_.push_back(std::move(last->second));
         }
         ++last;
@@ -118,7 +121,7 @@ void LineTable<Line>::replace(const std::string& group, const std::string& label
     LineBatch batch{++lastID_, group, label, static_cast<std::int64_t>(lines.size())};
     const Order key = order(batch);
     pending_.push_back(key);
-    entries_.emplace(key, Entry{std::move(batch), unsaved, std::move(lines)});
+    entries_.emplace(key, Entry{.batch = std::move(batch), .lines = std::move(lines)});
 }
 
 template <typename Line>
@@ -150,8 +153,12 @@ template <typename Line>
 void LineTable<Line>::readFigureBlocks(const LineBatch& batch,
                                        const std::function<void(std::span<const Figures>)>& visit) const {
     const Entry& entry = entries_.at(order(batch));
-    if (entry.firstLine == unsaved) {
+    if (!entry.lines.empty()) {
         visit(std::vector<Figures>(entry.lines.begin(), entry.lines.end()));
+        entry.isHandedOver = true;
+        if (entry.firstLine != unsaved) {
+            letGo(entry);
+        }
     } else {
         readRange<Figures>(statements_->selectFigures, Layout<Line>::figures, entry, visit);
     }
@@ -234,9 +241,11 @@ void LineTable<Line>::committed() {
     removed_.clear();
     for (Entry* entry : unsavedEntries()) {
         entry->firstLine = entry->place;
-        // Assigning {} would keep the memory.
-        entry->lines = std::vector<Line>();
         entry->written = 0;
+        keptLines_ += entry->lines.size();
+        if (entry->isHandedOver || keptLines_ > mostKeptLines) {
+            letGo(*entry);
+        }
     }
     pending_.clear();
     nextLine_ = nextPlace_;
@@ -290,6 +299,13 @@ void LineTable<Line>::readBatch(Entry*& before, Entry entry) {
     nextLine_ = entry.firstLine + entry.batch.lineCount;
     const Order key = order(entry.batch);
     before = &entries_.emplace(key, std::move(entry)).first->second;
+}
+
+template <typename Line>
+void LineTable<Line>::letGo(const Entry& entry) const {
+    keptLines_ -= entry.lines.size();
+    // Assigning {} would keep the memory.
+    entry.lines = std::vector<Line>();
 }
 
 template <typename Line>

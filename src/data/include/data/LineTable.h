@@ -31,7 +31,7 @@ struct LineBatch {
 
 /// All lines of one kind. They lie on disk, the lines of one report under consecutive numbers, so that a
 /// report is found, read and removed as one range; in memory are only the list of batches and the lines that
-/// wait for the next save.
+/// wait for the next save, or for the figures to take them over.
 template <typename Line>
 class LineTable {
   public:
@@ -59,7 +59,9 @@ class LineTable {
             }
         });
     }
-    /// As `readLines`, with no more than the figures need.
+    /// As `readLines`, with no more than the figures need. Lines that were saved since the last call are
+    /// still in memory and handed over once; only what is older, or more than there is room for, comes from
+    /// the disk.
     template <typename Visit>
     void readFigures(const LineBatch& batch, Visit visit) const {
         readFigureBlocks(batch, [&visit](std::span<const Figures> lines) {
@@ -77,7 +79,9 @@ class LineTable {
     struct Entry {
         LineBatch batch;
         std::int64_t firstLine = unsaved;
-        std::vector<Line> lines;  // only while unsaved
+        // While unsaved, and after that until a reader takes them over, which changes nothing that is stored.
+        mutable std::vector<Line> lines;
+        mutable bool isHandedOver = false;
         // Of the transaction under way:
         std::int64_t place = unsaved;  // where the first line lies
         std::int64_t written = 0;      // how many lines were inserted, or deleted
@@ -120,6 +124,7 @@ class LineTable {
     }
     [[nodiscard]] auto firstOf(const std::string& group, const std::string& label) const;
     void readBatch(Entry*& before, Entry entry);
+    void letGo(const Entry& entry) const;
     void tellDamage(const LineBatch& batch) const;
     [[nodiscard]] std::vector<Entry*> unsavedEntries();
     void deleteSome(Entry& entry, std::int64_t& most);
@@ -134,6 +139,7 @@ class LineTable {
     BatchID savedID_ = 0;  // the highest that surely is in the file
     std::int64_t nextLine_ = 1;
     std::int64_t nextPlace_ = 1;  // the same in the transaction under way
+    mutable std::size_t keptLines_ = 0;
     std::vector<Entry> removed_;
     std::vector<Order> pending_;
     std::unique_ptr<Statements> statements_;
