@@ -59,6 +59,7 @@ bool hasBrokenText(SqliteDatabase& database) {
 bool hasForeignView(SqliteDatabase& database) {
     auto expected = viewsSQL();
     for (const auto& [name, sql] : expected) {
+        // Throws for one that can't be read, which is all that is asked.
         std::ignore = database.prepare("SELECT 1 FROM " + name);
     }
     auto schema = database.prepare("SELECT name, sql FROM sqlite_schema WHERE type = 'view'");

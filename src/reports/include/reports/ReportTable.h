@@ -133,6 +133,7 @@ template <typename RowReader>
 [[nodiscard]] auto readTable(std::string_view text, std::string_view marker) {
     ParsedReport<typename RowReader::Row> report;
     TableParser<RowReader> parser(marker);
+    // Nothing is left of a text that is read without a bound.
     std::ignore = parser.read(text, std::numeric_limits<std::size_t>::max(), report.rows);
     report.skippedLines = parser.message();
     return report;
