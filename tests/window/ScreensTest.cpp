@@ -2,7 +2,11 @@
 #include "WindowHouse.h"
 #include "trial/SpokenText.h"
 
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
 #include <QTcpServer>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -54,6 +58,29 @@ INSTANTIATE_TEST_SUITE_P(Looks, EveryScreen,
                          ::testing::Values(Look{"German", true, "de_DE", {800, 600}},
                                            Look{"Japanese", false, "ja_JP", {1920, 1080}}),
                          [](const auto& look) { return look.param.name; });
+
+// A row may go while the pointer rests on it, and the delay of its help runs on.
+TEST(Screens, ShowHelpOnlyInAWindow) {
+    Complaints complaints;
+    WindowHouse house;
+    house.show();
+    QQmlComponent component(qmlEngine(&house.window()));
+    component.setData(
+        "import QtQuick\nimport Vantrell\n"
+        "Item { property alias help: hint; Hint { id: hint; delay: 1; shown: true; text: 'Help' } }",
+        {});
+    const std::unique_ptr<QObject> made(component.create());
+    auto* item = qobject_cast<QQuickItem*>(made.get());
+    ASSERT_TRUE(item != nullptr) << component.errorString().toStdString();
+    QTest::qWait(20);
+    EXPECT_EQ(complaints.take(), "");
+    item->setParentItem(house.window().contentItem());
+    QObject* help = made->property("help").value<QObject*>();
+    EXPECT_TRUE(QTest::qWaitFor([help] { return help->property("opened").toBool(); }));
+    item->setParentItem(nullptr);
+    WindowDriver::settle();
+    EXPECT_EQ(complaints.take(), "");
+}
 
 // Every text of a report, a service or a file may be anything: it is shown as it stands, cut to a bearable
 // length, and nothing that it names is fetched.

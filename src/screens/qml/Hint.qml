@@ -8,7 +8,8 @@ T.ToolTip {
 
     property bool shown: false
 
-    visible: shown && text !== ""
+    // What it tells of may leave the window while the delay runs.
+    visible: shown && text !== "" && parent !== null && parent.Window.window !== null
     delay: 500
     margins: 8
     padding: 8
