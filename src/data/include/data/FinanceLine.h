@@ -9,20 +9,21 @@ namespace vantrell {
 struct FinanceLine {
     using Figures = FinanceLine;
 
+    // The largest first, since a store can hold millions of lines.
+    Decimal partnerShare;
+    Decimal extendedPartnerShare;
+    Decimal customerPrice;
     Instant startDate;
     Instant endDate;
+    std::int64_t quantity = 0;
+    std::int64_t appleID = 0;
     TextID vendorIdentifier = 0;
     TextID title = 0;
     TextID productType = 0;
-    std::int64_t quantity = 0;
-    Decimal partnerShare;
-    Decimal extendedPartnerShare;
     TextID partnerShareCurrency = 0;
     TextID saleOrReturn = 0;
-    std::int64_t appleID = 0;
     TextID country = 0;
     TextID promoCode = 0;
-    Decimal customerPrice;
     TextID customerCurrency = 0;
 };
 
