@@ -51,7 +51,7 @@ QCoro::Task<HttpResult> MemoryService::get(HttpRequest request, std::stop_token 
     }
     const auto body = bodyByReport_.find(requestedReport(url));
     if (body == bodyByReport_.end()) {
-        co_return HttpFailure{"no such report"};
+        co_return HttpFailure{};
     }
     co_return HttpResponse{200, body->second};
 }

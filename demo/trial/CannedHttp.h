@@ -15,7 +15,7 @@ class SilentHttp final : public HttpClient {
 
     [[nodiscard]] QCoro::Task<HttpResult> get(HttpRequest /*request*/, std::stop_token cancel) override {
         co_await clock_.sleep(std::chrono::hours(1), cancel);
-        co_return HttpFailure{"given up"};
+        co_return HttpFailure{HttpFailure::Kind::cancelled};
     }
 
   private:

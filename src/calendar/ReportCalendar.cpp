@@ -40,9 +40,12 @@ std::string ReportCalendar::currentYearLabel() const {
     return yearLabel(today());
 }
 
+CivilDate ReportCalendar::pacificDateAt(Instant instant) const {
+    return (pacific_ ? *pacific_ : localTime_->zone()).dateAt(instant);
+}
+
 std::string ReportCalendar::fiscalPeriodAt(Instant instant) const {
-    const auto zone = pacific_ ? *pacific_ : localTime_->zone();
-    return fiscalPeriod(zone.dateAt(instant));
+    return fiscalPeriod(pacificDateAt(instant));
 }
 
 std::string ReportCalendar::currentFiscalPeriod() const {

@@ -30,7 +30,7 @@ HttpRequest ratesRequest(const std::string& origin) {
 QCoro::Task<RatesAnswer> RatesFetcher::fetch(HttpClient& http, std::string origin, std::stop_token cancel) {
     const HttpResult result = co_await http.get(ratesRequest(origin), std::move(cancel));
     if (const auto* failure = std::get_if<HttpFailure>(&result)) {
-        co_return RatesError{failure->description};
+        co_return RatesError{std::string(storedText(*failure))};
     }
     auto answer = parse(std::get<HttpResponse>(result).body);
     if (const auto* rates = std::get_if<Rates>(&answer)) {

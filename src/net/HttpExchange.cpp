@@ -1,6 +1,6 @@
 #include "HttpExchange.h"
 
-#include "HttpFailureText.h"
+#include "HttpErrors.h"
 #include "NetLog.h"
 
 #include <algorithm>
@@ -46,7 +46,8 @@ QByteArray toQt(std::string_view text) {
 /// For a diagnostic line.
 QString outcomeOf(const HttpResult& result) {
     if (const auto* failure = std::get_if<HttpFailure>(&result)) {
-        return QString::fromStdString(failure->description);
+        const std::string_view text = storedText(*failure);
+        return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
     }
     const auto& answer = std::get<HttpResponse>(result);
     return QStringLiteral("%1, %2 bytes").arg(answer.status.value_or(0)).arg(answer.body.size());
@@ -97,7 +98,7 @@ HttpExchange::HttpExchange(const QNetworkRequest& blank, HttpRequest request)
       request_(std::move(request)),
       url_(QUrl::fromEncoded(toQt(request_.url), QUrl::StrictMode)) {
     if (!isWebAddress(url_) || !std::ranges::all_of(request_.headers, isSendable)) {
-        result_ = HttpFailure{"The request could not be built."};
+        result_ = HttpFailure{HttpFailure::Kind::notBuilt};
         return;
     }
     network_.setProxyFactory(new SystemProxies);  // the manager owns it
@@ -105,9 +106,9 @@ HttpExchange::HttpExchange(const QNetworkRequest& blank, HttpRequest request)
         timer->setSingleShot(true);
     }
     QObject::connect(&idle_, &QTimer::timeout, &context_,
-                     [this] { finish(HttpFailure{"The request timed out."}); });
+                     [this] { finish(HttpFailure{HttpFailure::Kind::timedOut}); });
     QObject::connect(&total_, &QTimer::timeout, &context_,
-                     [this] { finish(HttpFailure{"The server took too long to send its answer."}); });
+                     [this] { finish(HttpFailure{HttpFailure::Kind::tooSlow}); });
     QObject::connect(&delivery_, &QTimer::timeout, &context_, [this] { resume(); });
     total_.start(request_.totalTimeout);
     send();
@@ -162,9 +163,9 @@ void HttpExchange::takeHeaders() {
     bool isNumber = true;
     announcedBytes_ = length.isEmpty() || !mayHaveBody(status()) ? 0 : length.toULongLong(&isNumber);
     if (!isNumber) {
-        finish(HttpFailure{httpFailureText(QNetworkReply::ProtocolFailure, {})});
+        finish(HttpFailure{HttpFailure::Kind::notUnderstood});
     } else if (announcedBytes_ > maxBodyBytes()) {
-        finish(HttpFailure{"The server's answer is too large."});
+        finish(HttpFailure{HttpFailure::Kind::tooLarge});
     }
 }
 
@@ -174,7 +175,7 @@ void HttpExchange::takeBytes() {
     try {
         appendBytes();
     } catch (const std::bad_alloc&) {
-        finish(HttpFailure{"There is not enough memory for the server's answer."});
+        finish(HttpFailure{HttpFailure::Kind::noMemory});
     }
 }
 
@@ -182,7 +183,7 @@ void HttpExchange::appendBytes() {
     const auto bytes = reply_->readAll();
     const auto count = static_cast<std::size_t>(bytes.size());
     if (count > maxBodyBytes() - body_.size()) {
-        finish(HttpFailure{"The server's answer is too large."});
+        finish(HttpFailure{HttpFailure::Kind::tooLarge});
         return;
     }
     // By itself it would double, and for a moment take three times what is read.
@@ -200,18 +201,28 @@ void HttpExchange::conclude() {
     const auto code = status();
     // A status alone says little: a connection that breaks in the body leaves one behind.
     if (!code || isTransportError(reply_->error())) {
-        finish(HttpFailure{httpFailureText(reply_->error(), certificateErrors_)});
+        finish(httpFailure(reply_->error(), certificateErrors_));
         return;
     }
     // Qt takes some bodies that are cut short for whole.
     if (body_.size() < announcedBytes_) {
-        finish(HttpFailure{httpFailureText(QNetworkReply::RemoteHostClosedError, {})});
+        finish(HttpFailure{HttpFailure::Kind::connectionLost});
         return;
     }
     if (request_.redirects == Redirects::follow && follow(*code)) {
         return;
     }
-    finish(HttpResponse{*code, std::move(body_)});
+    finish(HttpResponse{*code, std::move(body_), wantedHeaders()});
+}
+
+std::vector<HttpHeader> HttpExchange::wantedHeaders() const {
+    std::vector<HttpHeader> headers;
+    for (const std::string& name : request_.wantedHeaders) {
+        if (const QByteArray wanted = toQt(name); reply_->hasRawHeader(wanted)) {
+            headers.push_back({name, reply_->rawHeader(wanted).toStdString()});
+        }
+    }
+    return headers;
 }
 
 bool HttpExchange::follow(int status) {
@@ -223,7 +234,7 @@ bool HttpExchange::follow(int status) {
     const bool lessSafe =
         url_.scheme() == QLatin1StringView("https") && next.scheme() != QLatin1StringView("https");
     if (!isWebAddress(next) || lessSafe || ++hops_ > maxHops) {
-        finish(HttpFailure{"The server redirected to an address that can't be followed."});
+        finish(HttpFailure{HttpFailure::Kind::badRedirect});
         return true;
     }
     leftOrigin_ = leftOrigin_ || !isSameOrigin(url_, next);

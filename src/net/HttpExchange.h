@@ -42,6 +42,7 @@ class HttpExchange {
     void takeBytes();
     void appendBytes();
     void conclude();
+    [[nodiscard]] std::vector<HttpHeader> wantedHeaders() const;
     bool follow(int status);
     [[nodiscard]] std::optional<int> status() const;
     [[nodiscard]] std::size_t maxBodyBytes() const;

@@ -45,11 +45,11 @@ QtHttpClient::~QtHttpClient() {
 QCoro::Task<HttpResult> QtHttpClient::get(HttpRequest request, std::stop_token cancel) {
     const auto closing = closing_.token();
     if (cancel.stop_requested() || closing.stop_requested()) {
-        co_return HttpFailure{"The request was cancelled."};
+        co_return HttpFailure{HttpFailure::Kind::cancelled};
     }
     // From the first wait on, the client may be gone: all that follows lives in this frame.
     HttpExchange exchange(blank_, std::move(request));
-    const auto endEarly = [&exchange] { exchange.end(HttpFailure{"The request was cancelled."}); };
+    const auto endEarly = [&exchange] { exchange.end(HttpFailure{HttpFailure::Kind::cancelled}); };
     const std::stop_callback whenCancelled(cancel, endEarly);
     const std::stop_callback whenClosed(closing, endEarly);
     co_return co_await exchange.result();

@@ -12,6 +12,7 @@ namespace vantrell {
 namespace {
 
 constexpr std::chrono::seconds tokenReserve{60};
+constexpr std::chrono::minutes clockTolerance{2};
 
 std::string defaultVersion(ReportFrequency frequency) {
     return frequency == ReportFrequency::daily ? "1_1" : "1_0";
@@ -27,6 +28,7 @@ HttpRequest reportRequest(std::string url, const std::string& token) {
     request.totalTimeout = std::chrono::minutes(15);
     request.maxBodyBytes = std::size_t{64} << 20U;
     request.maxErrorBodyBytes = std::size_t{1} << 20U;
+    request.wantedHeaders = {rateLimitHeader, dateHeader};
     return request;
 }
 
@@ -49,6 +51,11 @@ ReportResponse withoutSecrets(ReportResponse answer, const Redaction& secrets) {
 ASCClient::ASCClient(HttpClient& http, const Clock& clock, std::string origin)
     : http_(http), clock_(clock), origin_(std::move(origin)) {}
 
+void ASCClient::beginRun() {
+    versions_.clear();
+    notes_ = {};
+}
+
 void ASCClient::setCredentials(APICredentials credentials) {
     replace(credentials_, std::move(credentials));
     cachedToken_.reset();
@@ -58,13 +65,20 @@ QCoro::Task<ReportResponse> ASCClient::fetchSales(ReportFrequency frequency, std
                                                   std::optional<std::string> version,
                                                   std::stop_token cancel) {
     const std::string path = "/v1/salesReports";
-    const std::string asked = version.value_or(defaultVersion(frequency));
+    const auto learned = versions_.find(frequency);
+    const std::string usual = learned != versions_.end() ? learned->second : defaultVersion(frequency);
+    const std::string asked = version.value_or(usual);
     ReportResponse first = co_await send(path, salesQuery(frequency, reportDate, asked), cancel);
     const auto* const refused = std::get_if<response::WrongVersion>(&first);
-    if (refused == nullptr || version) {
+    if (refused == nullptr || version || refused->latest == asked) {
         co_return first;
     }
-    co_return co_await send(path, salesQuery(frequency, reportDate, refused->latest), cancel);
+    const std::string latest = refused->latest;
+    ReportResponse second = co_await send(path, salesQuery(frequency, reportDate, latest), cancel);
+    if (!cancel.stop_requested() && !std::holds_alternative<response::WrongVersion>(second)) {
+        versions_[frequency] = latest;
+    }
+    co_return second;
 }
 
 QCoro::Task<ReportResponse> ASCClient::fetchFinance(std::string fiscalPeriod, std::stop_token cancel) {
@@ -103,16 +117,28 @@ QCoro::Task<ReportResponse> ASCClient::send(std::string path, std::vector<QueryI
     HttpResult result = co_await http_.get(std::move(request), std::move(cancel));
     auto* const answer = std::get_if<HttpResponse>(&result);
     if (answer == nullptr) {
-        co_return response::Failure{std::get<HttpFailure>(std::move(result)).description};
+        const auto failure = std::get<HttpFailure>(result);
+        co_return response::Failure{std::string(storedText(failure)), failure};
     }
     if (!answer->status) {
         co_return response::Failure{"no HTTP response"};
     }
+    notes_ = serviceNotes(*answer);
     if (*answer->status != 200) {
-        co_return withoutSecrets(classifyResponse(*answer->status, secrets.of(std::move(answer->body))),
-                                 secrets);
+        ReportResponse response =
+            withoutSecrets(classifyResponse(*answer->status, secrets.of(std::move(answer->body))), secrets);
+        if (auto* const refused = std::get_if<response::AuthFailure>(&response)) {
+            refused->clockAhead = clockAhead();
+        }
+        co_return response;
     }
     co_return response::Success{std::move(answer->body)};
+}
+
+std::optional<std::chrono::minutes> ASCClient::clockAhead() const {
+    const auto ahead = notes_.time ? clock_.now() - *notes_.time : Instant::duration::zero();
+    return abs(ahead) > clockTolerance ? std::optional(std::chrono::round<std::chrono::minutes>(ahead))
+                                       : std::nullopt;
 }
 
 std::string ASCClient::redacted(std::string text) const {

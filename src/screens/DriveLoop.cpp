@@ -14,6 +14,7 @@ DriveLoop::DriveLoop(const Parts& parts) : parts_(parts) {
 }
 
 void DriveLoop::start() {
+    parts_.engine.askForRatesFirst();
     parts_.tasks.spawn(begin(parts_, life_.token()));
     parts_.tasks.spawn(repeat(parts_, life_.token()));
 }

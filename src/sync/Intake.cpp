@@ -25,7 +25,6 @@ constexpr std::size_t rowsOfLongReport = 100'000;
 // then taken twice, by the store and by the figures.
 constexpr std::size_t mostReportBytes = std::size_t{160} << 20U;
 constexpr std::size_t mostNewBytes = std::size_t{48} << 20U;
-constexpr const char* notAReport = "Apple's answer was not a report.";
 constexpr const char* notEnoughMemory = "There is not enough memory for the report.";
 
 template <typename Request>
@@ -162,11 +161,16 @@ class Intake::OneReport {
         }
         IntakeResult result{true};
         if (const auto* refused = std::get_if<response::AuthFailure>(&answer)) {
-            result.failure = RunFailure{RunFailure::Kind::keyRefused, refused->message};
+            result.failure =
+                RunFailure{RunFailure::Kind::keyRefused, refused->message, {}, refused->clockAhead};
         }
         settle(answer, report);
         report.message = parts_.client.redacted(std::move(report.message));
         report.fetchedAt = parts_.clock.now();
+        if (report.status() == ReportStatus::error) {
+            const auto* const failed = std::get_if<response::Failure>(&answer);
+            result.problem = ReportProblem{report.message, failed ? failed->unheard : std::nullopt};
+        }
         intake_.log(request_.logKey(), report.statusRaw, report.message);
         Request::records(context_).update(id, std::move(report));
         return result;

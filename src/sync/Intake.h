@@ -32,6 +32,7 @@ struct IntakeParts {
 struct IntakeResult {
     bool isStored = false;                   ///< else all that is new is a line in the log
     std::optional<RunFailure> failure = {};  ///< one that no further request would escape
+    std::optional<ReportProblem> problem = {};
 };
 
 /// Takes one request to its service and what comes of it into the store: rows, status and log line in one

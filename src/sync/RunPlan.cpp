@@ -1,10 +1,12 @@
 #include "RunPlan.h"
 
+#include "Gaps.h"
 #include "calendar/DayKey.h"
 #include "calendar/FiscalPeriod.h"
 #include "calendar/ReportSchedule.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -15,12 +17,6 @@ using Part = RunProgress::Part;
 
 constexpr auto ratesLifetime = std::chrono::hours(24);
 constexpr unsigned longestMonth = 31;
-
-template <typename Request>
-ReportStatus storedStatus(const RunBasis& basis, const Request& request) {
-    const auto found = Request::records(basis.store).find(request.recordKey());
-    return found ? found->record.status() : ReportStatus::missing;
-}
 
 template <typename Request>
 RunStep unlessFinal(const RunBasis& basis, const Request& request, RunProgress progress) {
@@ -131,11 +127,22 @@ RunSteps inTurn(RunBasis basis, std::vector<RunPlan> parts) {
 }  // namespace
 
 RunSteps ordinarySteps(RunBasis basis) {
-    return inTurn(basis, {{recentDays},
-                          {[](RunBasis now) { return months(now, monthsOfSync, false); }},
-                          {lastYear},
-                          {nextFinancePeriods},
-                          {[](RunBasis now) { return rates(now, false); }}});
+    std::set<std::string> asked;
+    RunSteps usual = inTurn(basis, {{recentDays},
+                                    {[](RunBasis now) { return months(now, monthsOfSync, false); }},
+                                    {lastYear},
+                                    {nextFinancePeriods},
+                                    {[](RunBasis now) { return rates(now, false); }}});
+    for (RunStep& step : usual) {
+        if (step.isDue) {
+            asked.insert(std::visit([](const auto& request) { return request.logKey(); }, step.request));
+        }
+        co_yield step;
+    }
+    RunSteps gaps = gapSteps(basis, std::move(asked));
+    for (RunStep& step : gaps) {
+        co_yield step;
+    }
 }
 
 RunSteps backfillSteps(RunBasis basis) {

@@ -19,6 +19,7 @@ struct RunStep {
     std::variant<SalesReportRequest, FinanceReportRequest, RatesRequest> request;
     bool isDue = true;                         ///< else it is passed over
     std::optional<RunProgress> progress = {};  ///< absent where what was told last still holds
+    bool isGap = false;                        ///< can wait for a later run
 
     [[nodiscard]] bool isReport() const { return !std::holds_alternative<RatesRequest>(request); }
 };
@@ -39,7 +40,8 @@ struct RunPlan {
     std::function<RunSteps(RunBasis)> steps;
 };
 
-/// The last 14 days, 2 months, last year, the next 2 fiscal periods and the rates, as far as they are due.
+/// The last 14 days, 2 months, last year, the next 2 fiscal periods and the rates, as far as they are due;
+/// then what earlier runs left open.
 [[nodiscard]] RunSteps ordinarySteps(RunBasis basis);
 /// A year of days, the years, 12 months and all fiscal periods from 2024-01, as far as they aren't final, and
 /// the rates.
@@ -51,6 +53,13 @@ struct RunPlan {
 /// The month and those of its days that are over; `asTyped` is what it is called.
 [[nodiscard]] RunSteps monthAgain(YearMonth month, std::string asTyped, RunBasis basis);
 [[nodiscard]] RunSteps financeAgain(std::string fiscalPeriod, RunBasis basis);
+
+/// What is stored of a report that may have been asked for.
+template <typename Request>
+[[nodiscard]] ReportStatus storedStatus(const RunBasis& basis, const Request& request) {
+    const auto found = Request::records(basis.store).find(request.recordKey());
+    return found ? found->record.status() : ReportStatus::missing;
+}
 
 /// Whether the stored exchange rates are missing or older than a day.
 [[nodiscard]] bool areRatesDue(const RunBasis& basis);

@@ -2,6 +2,8 @@
 
 #include "Intake.h"
 #include "RunPlan.h"
+#include "RunTally.h"
+#include "calendar/ReportSchedule.h"
 #include "data/StoreCheck.h"
 
 #include <algorithm>
@@ -12,6 +14,7 @@ namespace {
 
 constexpr const char* lastAutoSyncKey = "lastAutoSyncAt";
 constexpr auto autoSyncInterval = std::chrono::hours(4);
+constexpr int sparedRequests = 300;
 constexpr auto longestRevisionWait = std::chrono::seconds(8);
 
 }  // namespace
@@ -42,7 +45,7 @@ QCoro::Task<> SyncEngine::runBackfill() {
 }
 
 QCoro::Task<> SyncEngine::runDue() {
-    return hasOkDailyReport() ? runSync() : runBackfill();
+    return hasAnsweredDailyReport() ? runSync() : runBackfill();
 }
 
 QCoro::Task<> SyncEngine::autoSyncIfDue() {
@@ -66,7 +69,7 @@ QCoro::Task<> SyncEngine::autoSync() {
 }
 
 QCoro::Task<> SyncEngine::backfillIfEmpty() {
-    if (hasCredentials() && !isSyncing_ && !hasOkDailyReport()) {
+    if (hasCredentials() && !isSyncing_ && !hasAnsweredDailyReport()) {
         co_await runBackfill();
     }
 }
@@ -95,10 +98,11 @@ QCoro::Task<> SyncEngine::refreshRates(bool force) {
     }
 }
 
-bool SyncEngine::hasOkDailyReport() const {
+bool SyncEngine::hasAnsweredDailyReport() const {
     return std::ranges::any_of(context_.salesReports().all(), [](const auto& entry) {
-        return entry.second.frequencyRaw == rawText(ReportFrequency::daily) &&
-               entry.second.status() == ReportStatus::ok;
+        const SalesReport& report = entry.second;
+        return report.frequencyRaw == rawText(ReportFrequency::daily) &&
+               (isFinal(report.status()) || report.status() == ReportStatus::empty || report.rowCount > 0);
     });
 }
 
@@ -118,9 +122,17 @@ QCoro::Task<> SyncEngine::carryOut(RunKind kind, RunPlan plan) {
     if (!begin()) {
         co_return;
     }
-    RunSteps steps = plan.steps({clock_, calendar_, context_});
+    const RunBasis basis{clock_, calendar_, context_};
+    if (std::exchange(ratesComeFirst_, false) && areRatesDue(basis)) {
+        RunStep step{RatesRequest{}};
+        co_await perform(std::move(step));
+        if (isClosing()) {
+            co_return;
+        }
+    }
+    RunSteps steps = plan.steps(basis);
     for (const RunStep& step : steps) {
-        if (stopRequested_ && step.isReport()) {
+        if (step.isReport() && (stopRequested_ || (step.isGap && mustSpareRequests()))) {
             continue;
         }
         if (step.progress) {
@@ -148,6 +160,8 @@ bool SyncEngine::begin() {
     isSyncing_ = true;
     stopRequested_ = false;
     lastError_ = std::nullopt;
+    client_.beginRun();
+    tally_ = std::make_unique<RunTally>();
     return true;
 }
 
@@ -156,7 +170,10 @@ void SyncEngine::finish(RunKind kind) {
     intake_->save();
     bumpRevision(true);
     progress_ = std::nullopt;
-    lastRun_ = FinishedRun{kind, clock_.now()};
+    if (!lastError_.value()) {
+        lastError_ = tally_->nothingStored();
+    }
+    lastRun_ = FinishedRun{kind, clock_.now(), tally_->failed(), tally_->firstProblem()};
     isSyncing_ = false;
 }
 
@@ -171,9 +188,8 @@ QCoro::Task<> SyncEngine::perform(RunStep step) {
         co_return;
     }
     const bool isLimited = result.failure && result.failure->kind == RunFailure::Kind::rateLimited;
-    if (result.failure) {
-        lastError_ = std::move(result.failure);
-        stopRequested_ = true;
+    if (step.isReport()) {
+        note(result);
     }
     if (result.isStored) {
         bumpRevision(!step.isReport());
@@ -181,6 +197,20 @@ QCoro::Task<> SyncEngine::perform(RunStep step) {
     if (step.isReport() && !isLimited) {
         co_await clock_.sleep(pause_, life_.token());
     }
+}
+
+void SyncEngine::note(const IntakeResult& result) {
+    tally_->add(result);
+    if (auto failure = result.failure ? result.failure : tally_->unreachable()) {
+        lastError_ = std::move(failure);
+        stopRequested_ = true;
+    }
+}
+
+/// What can wait leaves the last requests of the hour to what is asked for by hand.
+bool SyncEngine::mustSpareRequests() const {
+    const auto left = client_.notes().requestsLeft;
+    return left && *left < sparedRequests;
 }
 
 void SyncEngine::bumpRevision(bool force) {

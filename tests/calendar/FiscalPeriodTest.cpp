@@ -1,6 +1,10 @@
+#include "calendar/DayKey.h"
 #include "calendar/FiscalPeriod.h"
+#include "calendar/FiscalWeeks.h"
 #include "calendar/ReportSchedule.h"
 #include "testing/Cases.h"
+
+#include <array>
 
 #include <gmock/gmock.h>
 
@@ -22,6 +26,20 @@ TEST(FiscalPeriod, ReadsTwoWholeNumbersAndNothingElse) {
         const auto period = parseFiscalPeriod(text);
         return period ? std::to_string(period->year) + " " + std::to_string(period->month) : "none";
     });
+}
+
+TEST(FiscalPeriod, EndsWithASaturdayAfterItsWeeks) {
+    const std::array<const char*, 12> ends = {"2025-11-01", "2025-11-29", "2025-12-27", "2026-01-31",
+                                              "2026-02-28", "2026-03-28", "2026-05-02", "2026-05-30",
+                                              "2026-06-27", "2026-08-01", "2026-08-29", "2026-09-26"};
+    for (std::size_t month = 0; month < ends.size(); ++month) {
+        const std::string period = yearMonthText({2026, static_cast<std::int64_t>(month) + 1});
+        EXPECT_EQ(dayKey(lastDayOfFiscalPeriod(period).value()), ends[month]);
+    }
+    EXPECT_EQ(lastDayOfFiscalPeriod("2023-02"), 2022y / 11 / 26);
+    EXPECT_EQ(lastDayOfFiscalPeriod("2023-03"), 2022y / 12 / 31) << "a year of 53 weeks";
+    EXPECT_EQ(lastDayOfFiscalPeriod("2023-12"), 2023y / 9 / 30);
+    EXPECT_EQ(lastDayOfFiscalPeriod("10000-01"), std::nullopt);
 }
 
 TEST(FiscalPeriod, TheSuccessorOfWhatIsNoPeriodIsItself) {

@@ -41,7 +41,7 @@ HttpResult fetch(const HttpRequest& request) {
 
 std::string failureOf(const HttpResult& result) {
     const auto* failure = std::get_if<HttpFailure>(&result);
-    return failure ? failure->description : "no failure";
+    return failure ? std::string(storedText(*failure)) : "no failure";
 }
 
 RawServer::Answer dripping(const std::string& head, milliseconds pause) {

@@ -20,7 +20,7 @@ namespace {
 using testing::RawServer;
 using testing::sending;
 
-constexpr auto untrusted = "The server's certificate is not trusted.";
+using Kind = HttpFailure::Kind;
 constexpr long day = 24L * 60 * 60;
 using Certificate = std::unique_ptr<X509, OpenSslRelease<X509_free>>;
 
@@ -110,7 +110,7 @@ TEST_F(Tls, OnlyATrustedAuthoritysCertificateIsAccepted) {
     RawServer server(hello, good.server());
     EXPECT_EQ(fetch(client, server), HttpResult(HttpResponse{200, "hello"}));
     QtHttpClient systemsOwn;
-    EXPECT_EQ(fetch(systemsOwn, server), HttpResult(HttpFailure{untrusted}));
+    EXPECT_EQ(fetch(systemsOwn, server), HttpResult(HttpFailure{Kind::certificateUntrusted}));
 }
 
 TEST_F(Tls, AnyOtherCertificateEndsTheRequestBeforeAnythingIsSent) {
@@ -118,19 +118,15 @@ TEST_F(Tls, AnyOtherCertificateEndsTheRequestBeforeAnythingIsSent) {
     const struct {
         const char* name;
         const Identity identity;
-        std::string words;
+        Kind kind;
     } cases[] = {
-        {"another name",
-         {"Reports", "DNS:reports.example", &authority},
-         "The server's certificate is for another name."},
-        {"expired",
-         {"Reports", here, &authority, -2 * day, -day},
-         "The server's certificate has expired or is not valid yet."},
-        {"foreign authority", {"Reports", here, &stranger}, untrusted},
+        {"another name", {"Reports", "DNS:reports.example", &authority}, Kind::certificateForOtherName},
+        {"expired", {"Reports", here, &authority, -2 * day, -day}, Kind::certificateOutOfDate},
+        {"foreign authority", {"Reports", here, &stranger}, Kind::certificateUntrusted},
     };
-    for (const auto& [name, identity, words] : cases) {
+    for (const auto& [name, identity, kind] : cases) {
         RawServer server(hello, identity.server());
-        EXPECT_EQ(fetch(client, server), HttpResult(HttpFailure{words})) << name;
+        EXPECT_EQ(fetch(client, server), HttpResult(HttpFailure{kind})) << name;
         EXPECT_TRUE(server.requests.empty()) << name;
     }
 }
@@ -139,8 +135,7 @@ TEST_F(Tls, ARedirectThatGivesUpEncryptionIsNotFollowed) {
     RawServer plain(hello);
     const auto head = "HTTP/1.1 302 Found\r\nLocation: " + plain.url("/") + "\r\nContent-Length: 0\r\n\r\n";
     RawServer server(sending(head), good.server());
-    EXPECT_EQ(fetch(client, server),
-              HttpResult(HttpFailure{"The server redirected to an address that can't be followed."}));
+    EXPECT_EQ(fetch(client, server), HttpResult(HttpFailure{Kind::badRedirect}));
     EXPECT_TRUE(plain.requests.empty());
 }
 

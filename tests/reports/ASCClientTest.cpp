@@ -64,6 +64,7 @@ TEST_F(ASCClientTest, AsksForSalesWithAllItemsInOrder) {
     expected.totalTimeout = 15min;
     expected.maxBodyBytes = 67'108'864;
     expected.maxErrorBodyBytes = 1'048'576;
+    expected.wantedHeaders = {"X-Rate-Limit", "Date"};
     EXPECT_TRUE(http.requests[0] == expected) << http.requests[0].url;
 }
 
@@ -87,8 +88,13 @@ TEST_F(ASCClientTest, ARefusedVersionIsReplacedByTheOneThatTheServiceNames) {
     EXPECT_TRUE(dailySales() == ReportResponse(response::Success{"text"}));
     http.answer(200, "text");
     static_cast<void>(dailySales());
-    EXPECT_EQ(asked("version"), (std::vector<std::string>{"1_1", "1_0", "1_1"})) << "nothing is remembered";
-    EXPECT_EQ(asked("reportDate"), (std::vector<std::string>(3, "2026-11-21")));
+    EXPECT_EQ(asked("version"), (std::vector<std::string>{"1_1", "1_0", "1_0"})) << "for the rest of a run";
+    client.beginRun();
+    http.answer(400, "version 1_1, please");
+    static_cast<void>(dailySales());
+    EXPECT_EQ(asked("version").size(), 4U) << "what was just refused is not asked for again";
+    EXPECT_EQ(asked("version").back(), "1_1");
+    EXPECT_EQ(asked("reportDate"), (std::vector<std::string>(4, "2026-11-21")));
 }
 
 TEST_F(ASCClientTest, NeitherAThirdAttemptIsMadeNorAVersionReplacedThatTheCallerNames) {
@@ -112,7 +118,8 @@ TEST_F(ASCClientTest, EveryOtherAnswerIsReportedAfterOneRequest) {
         {"no content is no success", HttpResponse{204, ""}, response::Failure{"HTTP 204: "}},
         {"a redirect", HttpResponse{302, "moved"}, response::Failure{"HTTP 302: moved"}},
         {"not HTTP", HttpResponse{std::nullopt, "220 ftp"}, response::Failure{"no HTTP response"}},
-        {"no network", HttpFailure{"The host was not found."}, response::Failure{"The host was not found."}},
+        {"no network", HttpFailure{HttpFailure::Kind::refused},
+         response::Failure{"The server refused the connection.", HttpFailure{HttpFailure::Kind::refused}}},
     };
     for (const auto& [name, answer, expected] : cases) {
         http.requests.clear();
@@ -121,6 +128,28 @@ TEST_F(ASCClientTest, EveryOtherAnswerIsReportedAfterOneRequest) {
         EXPECT_TRUE(actual == expected) << name;
         EXPECT_EQ(http.requests.size(), 1U) << name;
     }
+}
+
+TEST_F(ASCClientTest, TellsHowManyRequestsAreLeftAndWhetherAClockIsWrong) {
+    const struct {
+        const char* limit;
+        const char* date;
+        std::optional<int> left;
+        std::optional<std::chrono::minutes> ahead;
+    } cases[] = {
+        {"user-hour-lim:3500;user-hour-rem:500;", "Sun, 22 Nov 2026 11:58:00 GMT", 500, {}},
+        {"user-hour-rem:0", "Sun, 22 Nov 2026 11:57:59 GMT", 0, 2min},
+        {"user-hour-lim:3500", "Sun, 22 Nov 2026 13:00:00 GMT", {}, -60min},
+        {"user-hour-rem:99999999999;", "yesterday", {}, {}},
+        {"user-hour-rem:-1;", "", {}, {}},
+    };
+    for (const auto& [limit, date, left, ahead] : cases) {
+        http.answers = {HttpResponse{401, "no", {{"X-Rate-Limit", limit}, {"Date", date}}}};
+        EXPECT_TRUE(dailySales() == ReportResponse(response::AuthFailure{"HTTP 401: no", ahead})) << date;
+        EXPECT_EQ(client.notes().requestsLeft, left) << limit;
+    }
+    client.beginRun();
+    EXPECT_EQ(client.notes().requestsLeft, std::nullopt);
 }
 
 TEST_F(ASCClientTest, WhatAnErrorEchoesOfTheCredentialsIsMasked) {
@@ -205,7 +234,8 @@ TEST_F(ASCClientTest, CancellingEndsTheFetchAsAFailure) {
     Lifetime lifetime;
     http.whileWaiting = [&lifetime](const HttpRequest&) { lifetime.end(); };
     EXPECT_TRUE(sales(ReportFrequency::daily, "2026-11-21", std::nullopt, lifetime.token()) ==
-                ReportResponse(response::Failure{"cancelled"}));
+                ReportResponse(response::Failure{"The request was cancelled.",
+                                                 HttpFailure{HttpFailure::Kind::cancelled}}));
 }
 
 }  // namespace

@@ -58,7 +58,7 @@ TEST_F(DriveLoopTest, GoesRoundEvery900SecondsAndRunsEvery4Hours) {
 
 TEST_F(DriveLoopTest, ReadsAtEachActivationAndStartsAtMostOneRun) {
     loop->start();
-    fixture.clock.advance(std::chrono::seconds(60));
+    fixture.clock.advance(std::chrono::seconds(120));
     runsBegun();
     reloads();
     for (int time = 0; time < 10; ++time) {
@@ -90,7 +90,7 @@ TEST_F(DriveLoopTest, LetsTheWindowMoveWhileItReadsMuch) {
 
 TEST_F(DriveLoopTest, EndsItsWaitWithTheWindow) {
     loop->start();
-    fixture.clock.advance(std::chrono::seconds(60));
+    fixture.clock.advance(std::chrono::seconds(120));
     EXPECT_EQ(fixture.tasks().pending(), 1) << "the loop itself";
     loop.reset();
     EXPECT_EQ(fixture.tasks().pending(), 0);

@@ -45,6 +45,8 @@ class RunScript {
                              [&] { told_.push_back("told" + progressOf(engine.progress())); });
         } else if (verb == "stored") {
             store(words);
+        } else if (verb == "settled") {
+            settle();
         } else if (verb == "answer") {
             answer(words);
         } else if (verb == "at") {
@@ -93,7 +95,23 @@ class RunScript {
             fixture_->context().rateSets().insert(
                 {.fetchedAt = start_ - std::chrono::seconds(std::stoll(date)), .rates = {{"CHF", 0.8}}});
         } else {
-            fixture_->store(reportFrequency(kind).value(), date, status);
+            const auto answered = dateFromDayKey(word(words));
+            fixture_->store(reportFrequency(kind).value(), date, status,
+                            answered ? Instant(std::chrono::sys_days(*answered)) : distantPast);
+        }
+    }
+
+    /// As if every report that the service may still have were stored.
+    void settle() {
+        const RunBasis basis{fixture_->clock, ReportCalendar(fixture_->clock, fixture_->localTime),
+                             fixture_->context()};
+        RunSteps steps = backfillSteps(basis);
+        for (const RunStep& step : steps) {
+            if (const auto* sales = std::get_if<SalesReportRequest>(&step.request)) {
+                fixture_->store(sales->frequency, sales->reportDate, ReportStatus::ok);
+            } else if (const auto* finance = std::get_if<FinanceReportRequest>(&step.request)) {
+                fixture_->storeFinance(finance->fiscalPeriod, ReportStatus::ok);
+            }
         }
     }
 
@@ -104,7 +122,10 @@ class RunScript {
         const std::string text = rest(words);
         HttpResult& answer = request == "otherwise" ? fixture_->otherwise : fixture_->answers[request];
         if (status == "down") {
-            answer = HttpFailure{text};
+            answer = HttpFailure{};
+        } else if (status == "few-left") {
+            answer = EngineFixture::notYet();
+            std::get<HttpResponse>(answer).headers = {{"X-Rate-Limit", "user-hour-rem:" + text + ";"}};
         } else if (status == "sales") {
             answer = EngineFixture::sales(std::stoi(text));
         } else if (status == "finance") {
@@ -137,14 +158,17 @@ class RunScript {
         tellRequests();
         tell("pauses", std::to_string(fixture_->clock.slept.size()), "0");
         tell("settings written", std::to_string(fixture_->defaults.writes - writes), "0");
-        constexpr const char* errors[] = {"no key", "damaged store", "no month",
-                                          "key refused: ", "rate limited"};
+        constexpr const char* errors[] = {"no key",       "damaged store", "no month",        "key refused: ",
+                                          "rate limited", "unreachable",   "nothing stored: "};
         if (const auto error = engine.lastError()) {
             say(std::string("error: ") + errors[static_cast<std::size_t>(error->kind)] + error->detail);
         }
         constexpr const char* runs[] = {"Sync", "Backfill", "Re-fetch"};
         if (const auto last = engine.lastRun()) {
-            say(std::string("summary: ") + runs[static_cast<std::size_t>(last->kind)]);
+            say(std::string("summary: ") + runs[static_cast<std::size_t>(last->kind)] +
+                (last->firstProblem
+                     ? ", " + std::to_string(last->failed) + " failed: " + last->firstProblem->message
+                     : ""));
         }
         EXPECT_FALSE(engine.progress());
         EXPECT_FALSE(engine.isSyncing());
@@ -190,7 +214,7 @@ class RunScript {
         for (auto first = requests.begin(); first != requests.end();) {
             const auto end = std::find_if(first, requests.end(),
                                           [&](const auto& request) { return kind(request) != kind(*first); });
-            if (end - first > 20) {
+            if (end - first > 14) {
                 say(*first + " and so on, " + std::to_string(end - first) + " in all, to " + *std::prev(end));
             } else {
                 std::for_each(first, end, [this](const auto& request) { say(request); });

@@ -15,22 +15,13 @@ constexpr const char* salesHeader =
 constexpr const char* financeHeader =
     "Start Date\tEnd Date\tVendor Identifier\tQuantity\tExtended Partner Share\tPartner Share Currency\n";
 
-std::string shortForm(const HttpRequest& request) {
-    const std::string url = QUrl::fromPercentEncoding(request.url.c_str()).toStdString();
-    const auto item = [&url](const std::string& name) {
-        const auto start = url.find(name + "=") + name.size() + 1;
-        return url.substr(start, url.find('&', start) - start);
-    };
-    if (url.find("/v1/salesReports") != std::string::npos) {
-        return item("filter[frequency]") + " " + item("filter[reportDate]");
+template <typename Record>
+void keep(RecordTable<Record>& records, const std::string& key, const Record& record) {
+    if (const auto found = records.find(key)) {
+        records.update(found->id, record);
+    } else {
+        records.insert(record);
     }
-    if (url.find("/v1/financeReports") != std::string::npos) {
-        return "FINANCE " + item("filter[reportDate]");
-    }
-    if (url.find("/lookup") != std::string::npos) {
-        return "icons " + item("id");
-    }
-    return "rates";
 }
 
 ModelContext* opened(StoreFixture& store, const std::string& vfs, const std::string& sql) {
@@ -52,9 +43,37 @@ EngineFixture::EngineFixture(const std::string& vfs, const std::string& sql)
         return answer == answers.end() ? otherwise : answer->second;
     };
     CredentialsKeychain(secrets).store({"issuer", "key", generateKeyPair().privatePEM, "6041"});
+    makeEngine();
+}
+
+void EngineFixture::restart() {
+    engine_.reset();
+    context_ = store_.open();
+    makeEngine();
+}
+
+void EngineFixture::makeEngine() {
     engine_ = std::make_unique<SyncEngine>(
         SyncEngineParts{*context_, http, clock, worker, localTime, secrets, defaults},
         SyncEngineSettings{"https://reports.test", "https://rates.test"});
+}
+
+std::string EngineFixture::shortForm(const HttpRequest& request) {
+    const std::string url = QUrl::fromPercentEncoding(request.url.c_str()).toStdString();
+    const auto item = [&url](const std::string& name) {
+        const auto start = url.find(name + "=") + name.size() + 1;
+        return url.substr(start, url.find('&', start) - start);
+    };
+    if (url.find("/v1/salesReports") != std::string::npos) {
+        return item("filter[frequency]") + " " + item("filter[reportDate]");
+    }
+    if (url.find("/v1/financeReports") != std::string::npos) {
+        return "FINANCE " + item("filter[reportDate]");
+    }
+    if (url.find("/lookup") != std::string::npos) {
+        return "icons " + item("id");
+    }
+    return "rates";
 }
 
 void EngineFixture::run(QCoro::Task<> task) {
@@ -85,7 +104,7 @@ void EngineFixture::store(ReportFrequency frequency, const std::string& date, Re
     report.fetchedAt = fetchedAt;
     report.rowCount = 1;
     report.message = "before";
-    context_->salesReports().insert(report);
+    keep(context_->salesReports(), salesReportKey(report.frequencyRaw, date), report);
     context_->replaceSalesRows(report.frequencyRaw, date, {sale(1, "1")});
 }
 
@@ -93,7 +112,7 @@ void EngineFixture::storeFinance(const std::string& period, ReportStatus status)
     FinanceReport report;
     report.fiscalPeriod = period;
     report.setStatus(status);
-    context_->financeReports().insert(report);
+    keep(context_->financeReports(), financeReportKey(report.region, period), report);
 }
 
 SalesReport EngineFixture::daily(const std::string& date) {

@@ -33,8 +33,12 @@ class EngineFixture {
 
     /// The engine goes away as at the end of the program; the store stays.
     void destroyEngine() { engine_.reset(); }
+    /// What is neither saved nor in the secret service is lost, as when the program is killed.
+    void restart();
 
-    /// What was asked, in short: "DAILY 2026-11-21", "FINANCE 2027-01", "rates", "icons 1,2".
+    /// A request in short: "DAILY 2026-11-21", "FINANCE 2027-01", "rates", "icons 1,2".
+    [[nodiscard]] static std::string shortForm(const HttpRequest& request);
+    /// What was asked.
     [[nodiscard]] std::vector<std::string> requests() const;
     /// Likewise, without what stands before and from then on.
     std::vector<std::string> takeRequests();
@@ -64,6 +68,8 @@ class EngineFixture {
     ScriptedHttp http;
 
   private:
+    void makeEngine();
+
     StoreFixture store_;
     ModelContext* context_;
     TaskScope tasks_;

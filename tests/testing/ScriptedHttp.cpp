@@ -10,14 +10,14 @@ QCoro::Task<HttpResult> ScriptedHttp::get(HttpRequest request, std::stop_token c
         whileWaiting(request);
     }
     if (cancel.stop_requested()) {
-        co_return HttpFailure{"cancelled"};
+        co_return HttpFailure{HttpFailure::Kind::cancelled};
     }
     if (respond) {
         co_return respond(request);
     }
     if (answers.empty()) {
         ADD_FAILURE() << "no answer is scripted for " << request.url;
-        co_return HttpFailure{"no answer is scripted"};
+        co_return HttpFailure{};
     }
     auto answer = std::move(answers.front());
     answers.pop_front();

@@ -61,7 +61,7 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     driver->click(QAccessible::Button, QStringLiteral("Save"));
     driver->expectToSee(QAccessible::Heading, QStringLiteral("Dashboard"));
     driver->expectToSee(QAccessible::ProgressBar, QStringLiteral("Sync progress"));
-    driver->waitUntil([&] { return newcomer.app().engine().hasOkDailyReport(); }, "for the first day");
+    driver->waitUntil([&] { return newcomer.app().engine().hasAnsweredDailyReport(); }, "for the first day");
     driver->click(QAccessible::Button, QStringLiteral("Stop"));
     driver->waitUntil(isIdle, "for the run to stop");
 

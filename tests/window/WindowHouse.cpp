@@ -17,7 +17,7 @@ WindowHouse::WindowHouse(const LocaleNames& locale) : locale_(locale) {
     // No run begins by itself, since the last one was just now.
     defaults_.setDate("lastAutoSyncAt", clock_.now());
     CredentialsKeychain(secrets_).store({"issuer", "key", "not a key", "vendor"});
-    http_.respond = [](const HttpRequest&) { return HttpFailure{"nobody is there"}; };
+    http_.respond = [](const HttpRequest&) { return HttpFailure{HttpFailure::Kind::refused}; };
     auto begun = MyApp::start(parts(), folder_.path() / "vantrell.sqlite",
                               {origins_.reportService, origins_.rateService, {}});
     app_ = std::move(std::get<std::unique_ptr<MyApp>>(begun));

@@ -1019,6 +1019,81 @@
     </message>
 </context>
 <context>
+    <name>vantrell::HttpWords</name>
+    <message>
+        <source>The request was cancelled.</source>
+        <translation>Die Anfrage wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The request could not be built.</source>
+        <translation>Die Anfrage konnte nicht gebildet werden.</translation>
+    </message>
+    <message>
+        <source>The server could not be found. Check the connection to the internet.</source>
+        <translation>Der Server wurde nicht gefunden. Prüfe die Verbindung zum Internet.</translation>
+    </message>
+    <message>
+        <source>The server refused the connection.</source>
+        <translation>Der Server hat die Verbindung abgelehnt.</translation>
+    </message>
+    <message>
+        <source>The server ended the connection before its answer was complete.</source>
+        <translation>Der Server hat die Verbindung beendet, bevor seine Antwort vollständig war.</translation>
+    </message>
+    <message>
+        <source>The request timed out.</source>
+        <translation>Die Anfrage hat zu lange gedauert.</translation>
+    </message>
+    <message>
+        <source>The server took too long to send its answer.</source>
+        <translation>Der Server hat für seine Antwort zu lange gebraucht.</translation>
+    </message>
+    <message>
+        <source>A secure connection to the server could not be set up.</source>
+        <translation>Eine sichere Verbindung zum Server konnte nicht aufgebaut werden.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate is not trusted.</source>
+        <translation>Dem Zertifikat des Servers wird nicht vertraut.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate is for another name.</source>
+        <translation>Das Zertifikat des Servers gilt für einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate has expired or is not valid yet.</source>
+        <translation>Das Zertifikat des Servers ist abgelaufen oder noch nicht gültig.</translation>
+    </message>
+    <message>
+        <source>The proxy server could not be reached.</source>
+        <translation>Der Proxy-Server war nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The proxy server asks for a password.</source>
+        <translation>Der Proxy-Server verlangt ein Passwort.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s answer could not be understood.</source>
+        <translation>Die Antwort des Servers war nicht zu verstehen.</translation>
+    </message>
+    <message>
+        <source>The server redirected to an address that can&apos;t be followed.</source>
+        <translation>Der Server hat auf eine Adresse verwiesen, der nicht gefolgt werden kann.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s answer is too large.</source>
+        <translation>Die Antwort des Servers ist zu groß.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the server&apos;s answer.</source>
+        <translation>Der Speicher reicht für die Antwort des Servers nicht aus.</translation>
+    </message>
+    <message>
+        <source>The network connection failed.</source>
+        <translation>Die Netzwerkverbindung ist fehlgeschlagen.</translation>
+    </message>
+</context>
+<context>
     <name>vantrell::PayoutsView</name>
     <message>
         <source>No payouts can be read</source>
@@ -1146,6 +1221,40 @@
     <message>
         <source>Failed — %1</source>
         <translation>Fehlgeschlagen – %1</translation>
+    </message>
+    <message>
+        <source>the network is unreachable</source>
+        <translation>das Netz ist nicht erreichbar</translation>
+    </message>
+    <message numerus="yes">
+        <source>Authentication failed — %1. The clock of this computer is %n minutes ahead of the service&apos;s, which refuses every key then.</source>
+        <translation>
+            <numerusform>Anmeldung fehlgeschlagen – %1. Die Uhr dieses Computers geht gegenüber der des Dienstes %n Minute vor; dann weist er jeden Schlüssel ab.</numerusform>
+            <numerusform>Anmeldung fehlgeschlagen – %1. Die Uhr dieses Computers geht gegenüber der des Dienstes %n Minuten vor; dann weist er jeden Schlüssel ab.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Authentication failed — %1. The clock of this computer is %n minutes behind the service&apos;s, which refuses every key then.</source>
+        <translation>
+            <numerusform>Anmeldung fehlgeschlagen – %1. Die Uhr dieses Computers geht gegenüber der des Dienstes %n Minute nach; dann weist er jeden Schlüssel ab.</numerusform>
+            <numerusform>Anmeldung fehlgeschlagen – %1. Die Uhr dieses Computers geht gegenüber der des Dienstes %n Minuten nach; dann weist er jeden Schlüssel ab.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No connection — the run stopped and will resume on the next sync. %1</source>
+        <translation>Keine Verbindung – der Abgleich wurde beendet und geht mit dem nächsten weiter. %1</translation>
+    </message>
+    <message>
+        <source>Nothing could be fetched. %1</source>
+        <translation>Es konnte nichts abgerufen werden. %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 · %n failed: %2</source>
+        <comment>the end of a run and why reports failed</comment>
+        <translation>
+            <numerusform>%1 · %n fehlgeschlagen: %2</numerusform>
+            <numerusform>%1 · %n fehlgeschlagen: %2</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -77,6 +77,31 @@
     </message>
 </context>
 <context>
+    <name>vantrell::RunWords</name>
+    <message numerus="yes">
+        <source>Authentication failed — %1. The clock of this computer is %n minutes ahead of the service&apos;s, which refuses every key then.</source>
+        <translation>
+            <numerusform>Authentication failed — %1. The clock of this computer is %n minute ahead of the service&apos;s, which refuses every key then.</numerusform>
+            <numerusform>Authentication failed — %1. The clock of this computer is %n minutes ahead of the service&apos;s, which refuses every key then.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Authentication failed — %1. The clock of this computer is %n minutes behind the service&apos;s, which refuses every key then.</source>
+        <translation>
+            <numerusform>Authentication failed — %1. The clock of this computer is %n minute behind the service&apos;s, which refuses every key then.</numerusform>
+            <numerusform>Authentication failed — %1. The clock of this computer is %n minutes behind the service&apos;s, which refuses every key then.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 · %n failed: %2</source>
+        <comment>the end of a run and why reports failed</comment>
+        <translation>
+            <numerusform>%1 · %n failed: %2</numerusform>
+            <numerusform>%1 · %n failed: %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>vantrell::TrendChart</name>
     <message numerus="yes">
         <source>%1 more app(s)</source>

@@ -2,7 +2,10 @@
 
 #include "base/Overloaded.h"
 #include "screens/components/ShownText.h"
+#include "screens/words/HttpWords.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <variant>
 
 #include <QCoreApplication>
@@ -14,11 +17,53 @@ class RunWords {
     Q_DECLARE_TR_FUNCTIONS(vantrell::RunWords)
 };
 
+constexpr std::int64_t mostMinutes = 1'000'000;
+
+QString problemText(const std::string& message, const std::optional<HttpFailure>& unheard) {
+    return unheard ? failureText(*unheard) : fromUtf8(message);
+}
+
+/// As part of a sentence.
+QString shortText(const ReportProblem& problem) {
+    using enum HttpFailure::Kind;
+    const bool isOffline = problem.unheard && (problem.unheard->kind == hostNotFound ||
+                                               problem.unheard->kind == connectionFailed);
+    return isOffline ? RunWords::tr("the network is unreachable")
+                     : problemText(problem.message, problem.unheard);
+}
+
+QString finishedText(RunKind kind) {
+    switch (kind) {
+        case RunKind::sync:
+            return RunWords::tr("Sync finished %1");
+        case RunKind::backfill:
+            return RunWords::tr("Backfill finished %1");
+        case RunKind::refetch:
+            break;
+    }
+    return RunWords::tr("Re-fetch finished %1");
+}
+
 QString withItem(const QString& part, const QString& item) {
     return item.isEmpty() ? part : RunWords::tr("%1 · %2", "part of a run and its date").arg(part, item);
 }
 
-QString refusedText(const std::string& message) {
+QString refusedText(const std::string& message, std::optional<std::chrono::minutes> clockAhead) {
+    if (clockAhead) {
+        const int minutes =
+            static_cast<int>(std::clamp<std::int64_t>(clockAhead->count(), -mostMinutes, mostMinutes));
+        return minutes > 0
+                   ? RunWords::tr(
+                         "Authentication failed — %1. The clock of this computer is %n minutes ahead of "
+                         "the service's, which refuses every key then.",
+                         "", minutes)
+                         .arg(fromUtf8(message))
+                   : RunWords::tr(
+                         "Authentication failed — %1. The clock of this computer is %n minutes behind "
+                         "the service's, which refuses every key then.",
+                         "", -minutes)
+                         .arg(fromUtf8(message));
+    }
     return RunWords::tr(
                "Authentication failed — %1. Check that the key was created under Users and Access → "
                "Integrations → App Store Connect API with the Finance role (an In-App Purchase key will not "
@@ -63,26 +108,27 @@ QString runText(const std::optional<RunFailure>& failure) {
             return RunWords::tr("Use a month like 2026-08.");
         case RunFailure::Kind::rateLimited:
             return RunWords::tr("Rate limited by Apple — the run stopped and will resume on the next sync.");
+        case RunFailure::Kind::unreachable:
+            return RunWords::tr("No connection — the run stopped and will resume on the next sync. %1")
+                .arg(problemText(failure->detail, failure->unheard));
+        case RunFailure::Kind::nothingStored:
+            return RunWords::tr("Nothing could be fetched. %1")
+                .arg(problemText(failure->detail, failure->unheard));
         case RunFailure::Kind::keyRefused:
             break;
     }
-    return refusedText(failure->detail);
+    return refusedText(failure->detail, failure->clockAhead);
 }
 
 QString runText(const std::optional<FinishedRun>& run, const Locale& locale, const TimeZone& zone) {
     if (!run) {
         return {};
     }
-    const QString time = fromUtf8(locale.dateAndTime(run->at, zone));
-    switch (run->kind) {
-        case RunKind::sync:
-            return RunWords::tr("Sync finished %1").arg(time);
-        case RunKind::backfill:
-            return RunWords::tr("Backfill finished %1").arg(time);
-        case RunKind::refetch:
-            break;
-    }
-    return RunWords::tr("Re-fetch finished %1").arg(time);
+    const QString end = finishedText(run->kind).arg(fromUtf8(locale.dateAndTime(run->at, zone)));
+    return run->failed == 0 || !run->firstProblem
+               ? end
+               : RunWords::tr("%1 · %n failed: %2", "the end of a run and why reports failed", run->failed)
+                     .arg(end, shortText(*run->firstProblem));
 }
 
 QString connectionText(const std::optional<ConnectionTest>& test) {
@@ -107,12 +153,12 @@ QString connectionText(const std::optional<ConnectionTest>& test) {
             [](const WrongVersion& refused) {
                 return RunWords::tr("Version mismatch — %1").arg(fromUtf8(refused.detail));
             },
-            [](const AuthFailure& refused) { return refusedText(refused.message); },
+            [](const AuthFailure& refused) { return refusedText(refused.message, refused.clockAhead); },
             [](const RateLimited& limited) {
                 return RunWords::tr("Rate limited — %1").arg(fromUtf8(limited.message));
             },
             [](const Failure& failure) {
-                return RunWords::tr("Failed — %1").arg(fromUtf8(failure.message));
+                return RunWords::tr("Failed — %1").arg(problemText(failure.message, failure.unheard));
             }},
         test->answer);
 }

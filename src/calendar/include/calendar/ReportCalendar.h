@@ -31,6 +31,8 @@ class ReportCalendar {
     [[nodiscard]] int currentYear() const;
     [[nodiscard]] std::string currentYearLabel() const;
 
+    /// The day that the service's own calendar shows at `instant`.
+    [[nodiscard]] CivilDate pacificDateAt(Instant instant) const;
     [[nodiscard]] std::string fiscalPeriodAt(Instant instant) const;
     [[nodiscard]] std::string currentFiscalPeriod() const;
 

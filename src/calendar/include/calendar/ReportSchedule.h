@@ -33,6 +33,13 @@ inline constexpr int lastOffsetOfEmptyDay = 3;
 ///     pending, error, missing    yes
 [[nodiscard]] bool isDayDue(ReportStatus stored, int offset);
 
+// A report that was answered with "no sales" may yet come: it is asked for again until the answer was given
+// more than so many days after the last day that it covers.
+
+inline constexpr int settlingDaysOfDay = 3;
+inline constexpr int settlingDaysOfMonth = 10;  ///< and of a year
+inline constexpr int settlingDaysOfFiscalPeriod = 60;
+
 /// Whether a report is left as it is unless it is forced: `ok` and `unavailable`, and no other.
 [[nodiscard]] bool isFinal(ReportStatus stored);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "net/HttpFailure.h"
+
 #include <chrono>
 #include <cstddef>
 #include <optional>
@@ -34,19 +36,15 @@ struct HttpRequest {
     /// Most bytes of a body with status 200, and of any other body. A body that is larger is a failure.
     std::size_t maxBodyBytes = std::size_t{64} << 20U;
     std::size_t maxErrorBodyBytes = std::size_t{1} << 20U;
+    std::vector<std::string> wantedHeaders = {};  ///< by name; others of the answer are dropped
     bool operator==(const HttpRequest&) const = default;
 };
 
 struct HttpResponse {
     std::optional<int> status;  ///< absent when what answered does not speak HTTP
     std::string body;
+    std::vector<HttpHeader> headers = {};  ///< those that were wanted and are there
     bool operator==(const HttpResponse&) const = default;
-};
-
-/// No answer, in words for the user that never hold the URL.
-struct HttpFailure {
-    std::string description;
-    bool operator==(const HttpFailure&) const = default;
 };
 
 using HttpResult = std::variant<HttpResponse, HttpFailure>;

@@ -7,8 +7,10 @@
 #include "net/HttpClient.h"
 #include "net/RequestUrl.h"
 #include "reports/ReportResponse.h"
+#include "reports/ServiceNotes.h"
 
 #include <chrono>
+#include <map>
 #include <optional>
 #include <stop_token>
 #include <string>
@@ -36,8 +38,14 @@ class ASCClient {
     /// Also forgets the cached token, so that none signed with another key is ever sent.
     void setCredentials(APICredentials credentials);
 
+    /// Forgets which versions the service wants and what it said beside its reports.
+    void beginRun();
+    /// Of the last answer since then.
+    [[nodiscard]] const ServiceNotes& notes() const { return notes_; }
+
     /// `reportDate` is a day key, month key or year label. Without a `version` the usual one is asked for,
-    /// and if that is refused, once more the one that the service names. Never throws.
+    /// and if that is refused, once more the one that the service names, which is the usual one from then on.
+    /// Never throws.
     [[nodiscard]] QCoro::Task<ReportResponse> fetchSales(ReportFrequency frequency, std::string reportDate,
                                                          std::optional<std::string> version,
                                                          std::stop_token cancel);
@@ -59,6 +67,8 @@ class ASCClient {
         std::chrono::microseconds signedAt;  ///< by the monotonic clock
     };
 
+    /// Absent while the clocks agree.
+    [[nodiscard]] std::optional<std::chrono::minutes> clockAhead() const;
     [[nodiscard]] bool isFresh(const CachedToken& token) const;
     [[nodiscard]] std::vector<QueryItem> salesQuery(ReportFrequency frequency, const std::string& reportDate,
                                                     const std::string& version) const;
@@ -70,6 +80,8 @@ class ASCClient {
     std::string origin_;
     APICredentials credentials_;
     std::optional<CachedToken> cachedToken_;
+    std::map<ReportFrequency, std::string> versions_;  ///< where not the usual ones
+    ServiceNotes notes_;
 };
 
 }  // namespace vantrell

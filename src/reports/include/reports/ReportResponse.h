@@ -1,6 +1,10 @@
 #pragma once
 
+#include "net/HttpFailure.h"
+
+#include <chrono>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -42,6 +46,8 @@ struct WrongVersion {
 /// The key or token was refused, or no token could be made.
 struct AuthFailure {
     std::string message;
+    /// How far our clock is ahead of the service's, where that may be why.
+    std::optional<std::chrono::minutes> clockAhead = {};
     bool operator==(const AuthFailure&) const = default;
 };
 
@@ -53,6 +59,7 @@ struct RateLimited {
 
 struct Failure {
     std::string message;
+    std::optional<HttpFailure> unheard = {};  ///< why there is no answer; absent for one that is an error
     bool operator==(const Failure&) const = default;
 };
 

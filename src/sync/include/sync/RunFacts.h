@@ -1,7 +1,9 @@
 #pragma once
 
 #include "base/Instant.h"
+#include "net/HttpFailure.h"
 
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -24,17 +26,29 @@ struct RunProgress {
 
 /// What stopped or prevented a run.
 struct RunFailure {
-    enum class Kind { noKey, damagedStore, noMonth, keyRefused, rateLimited };
+    enum class Kind { noKey, damagedStore, noMonth, keyRefused, rateLimited, unreachable, nothingStored };
 
     Kind kind;
-    std::string detail = {};  ///< of a refused key, what the service said
+    std::string detail = {};  ///< of a refused key what the service said, of reports why the first failed
+    std::optional<HttpFailure> unheard = {};              ///< where no answer came
+    std::optional<std::chrono::minutes> clockAhead = {};  ///< of the service's, with a refused key
 
     bool operator==(const RunFailure&) const = default;
+};
+
+/// Why a report could not be fetched or kept.
+struct ReportProblem {
+    std::string message;
+    std::optional<HttpFailure> unheard = {};  ///< where no answer came
+
+    bool operator==(const ReportProblem&) const = default;
 };
 
 struct FinishedRun {
     RunKind kind;
     Instant at;
+    int failed = 0;  ///< reports
+    std::optional<ReportProblem> firstProblem = {};
 
     bool operator==(const FinishedRun&) const = default;
 };

@@ -26,6 +26,8 @@
 namespace vantrell {
 
 class Intake;
+class RunTally;
+struct IntakeResult;
 struct RunPlan;
 struct RunStep;
 
@@ -80,12 +82,13 @@ class SyncEngine : public QObject {
 
     // Runs. Each comes to its end also after a stop; none starts beside another or without credentials.
 
-    /// The ordinary run: the last 14 days, 2 months, last year, the next 2 fiscal periods and the rates.
+    /// The ordinary run: the last 14 days, 2 months, last year, the next 2 fiscal periods and the rates; then
+    /// whatever else the service may still have and earlier runs didn't get.
     [[nodiscard]] QCoro::Task<> runSync();
     /// Everything that the service still has and that isn't final: a year of days, the years, 12 months, all
     /// fiscal periods from 2024-01, and the rates.
     [[nodiscard]] QCoro::Task<> runBackfill();
-    /// A backfill without a daily report that is ok, else the ordinary run.
+    /// A backfill while no daily report was ever answered, else the ordinary run.
     [[nodiscard]] QCoro::Task<> runDue();
     /// `runDue`, noting the time, unless the last such run began within 4 hours.
     [[nodiscard]] QCoro::Task<> autoSyncIfDue();
@@ -104,7 +107,11 @@ class SyncEngine : public QObject {
     /// Fetches the exchange rates if they are older than a day, or by force. Needs no run.
     [[nodiscard]] QCoro::Task<> refreshRates(bool force);
 
-    [[nodiscard]] bool hasOkDailyReport() const;
+    /// Whether the service ever gave, or had none to give, the report of a day.
+    [[nodiscard]] bool hasAnsweredDailyReport() const;
+    /// The first run from now on begins with the exchange rates, if they are old, so that the first figures
+    /// are in all currencies.
+    void askForRatesFirst() { ratesComeFirst_ = true; }
 
     /// Looks through the store's file for damage, beside the window; to be awaited before the first run. The
     /// store's health tells what was found.
@@ -126,6 +133,8 @@ class SyncEngine : public QObject {
     [[nodiscard]] bool begin();
     void finish(RunKind kind);
     [[nodiscard]] QCoro::Task<> perform(RunStep step);
+    void note(const IntakeResult& result);
+    [[nodiscard]] bool mustSpareRequests() const;
     void bumpRevision(bool force);
     /// The engine is being destroyed: whoever was waiting leaves without touching anything.
     [[nodiscard]] bool isClosing() const { return life_.token().stop_requested(); }
@@ -140,8 +149,10 @@ class SyncEngine : public QObject {
     ASCClient client_;
     Account account_;
     std::unique_ptr<Intake> intake_;
+    std::unique_ptr<RunTally> tally_;                            ///< of the run under way
     std::optional<std::chrono::microseconds> lastRevisionBump_;  ///< by the monotonic clock
     bool stopRequested_ = false;
+    bool ratesComeFirst_ = false;
 
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(SyncEngine, bool, isSyncing_, false, &SyncEngine::isSyncingChanged)
     Q_OBJECT_BINDABLE_PROPERTY(SyncEngine, std::optional<RunProgress>, progress_,

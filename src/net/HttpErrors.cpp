@@ -1,10 +1,12 @@
-#include "HttpFailureText.h"
+#include "HttpErrors.h"
 
 #include <algorithm>
 
 namespace vantrell {
 
 namespace {
+
+using Kind = HttpFailure::Kind;
 
 bool isOutOfDate(const QSslError& error) {
     return error.error() == QSslError::CertificateExpired ||
@@ -15,51 +17,49 @@ bool isForAnotherName(const QSslError& error) {
     return error.error() == QSslError::HostNameMismatch;
 }
 
-std::string certificateText(const QList<QSslError>& errors) {
+Kind certificateKind(const QList<QSslError>& errors) {
     if (errors.isEmpty()) {
-        return "A secure connection to the server could not be set up.";
+        return Kind::noSecureConnection;
     }
     // Dates and names in a certificate that nobody vouches for mean nothing, so that doubt comes first.
     const bool vouchedFor = std::ranges::all_of(
         errors, [](const QSslError& error) { return isOutOfDate(error) || isForAnotherName(error); });
     if (!vouchedFor) {
-        return "The server's certificate is not trusted.";
+        return Kind::certificateUntrusted;
     }
-    if (std::ranges::any_of(errors, isForAnotherName)) {
-        return "The server's certificate is for another name.";
-    }
-    return "The server's certificate has expired or is not valid yet.";
+    return std::ranges::any_of(errors, isForAnotherName) ? Kind::certificateForOtherName
+                                                         : Kind::certificateOutOfDate;
 }
 
 }  // namespace
 
-std::string httpFailureText(QNetworkReply::NetworkError error, const QList<QSslError>& certificateErrors) {
+HttpFailure httpFailure(QNetworkReply::NetworkError error, const QList<QSslError>& certificateErrors) {
     switch (error) {
         case QNetworkReply::ConnectionRefusedError:
-            return "The server refused the connection.";
+            return {Kind::refused};
         case QNetworkReply::RemoteHostClosedError:
         // What the end of a connection becomes when the request may not be sent again.
         case QNetworkReply::ContentReSendError:
-            return "The server ended the connection before its answer was complete.";
+            return {Kind::connectionLost};
         case QNetworkReply::HostNotFoundError:
-            return "The server could not be found. Check the connection to the internet.";
+            return {Kind::hostNotFound};
         case QNetworkReply::TimeoutError:
-            return "The request timed out.";
+            return {Kind::timedOut};
         case QNetworkReply::SslHandshakeFailedError:
-            return certificateText(certificateErrors);
+            return {certificateKind(certificateErrors)};
         case QNetworkReply::ProxyConnectionRefusedError:
         case QNetworkReply::ProxyConnectionClosedError:
         case QNetworkReply::ProxyNotFoundError:
         case QNetworkReply::ProxyTimeoutError:
         case QNetworkReply::UnknownProxyError:
-            return "The proxy server could not be reached.";
+            return {Kind::proxyUnreachable};
         case QNetworkReply::ProxyAuthenticationRequiredError:
-            return "The proxy server asks for a password.";
+            return {Kind::proxyWantsPassword};
         case QNetworkReply::ProtocolUnknownError:
         case QNetworkReply::ProtocolFailure:
-            return "The server's answer could not be understood.";
+            return {Kind::notUnderstood};
         default:
-            return "The network connection failed.";
+            return {Kind::connectionFailed};
     }
 }
 
