@@ -48,9 +48,7 @@ UnitKind unitKind(const Item& item, Action action) {
         return UnitKind::inApp;
     }
     if (action == Action::update) {
-        // What a line counts as is told by the first letter of its type, and the update of a Mac app is an
-        // F7.
-        return item.hardware == Hardware::mac ? UnitKind::app : UnitKind::update;
+        return UnitKind::update;
     }
     return action == Action::redownload ? UnitKind::redownload : UnitKind::app;
 }

@@ -54,10 +54,13 @@ Fields moneyFields(const CurrencyConverter& converter, const AmountsByCurrency& 
 
 }  // namespace
 
-std::string sourceText(PeriodSource source) {
-    switch (source) {
+std::string sourceText(const PeriodStat& period) {
+    switch (period.source) {
         case PeriodSource::dailyReports:
             return "From daily reports";
+        case PeriodSource::someDailyReports:
+            return "From daily reports · " + std::to_string(period.fetchedDays) + " of " +
+                   std::to_string(period.days) + " days";
         case PeriodSource::monthToDate:
             return "From daily reports · MTD";
         case PeriodSource::yearToDate:
@@ -131,7 +134,7 @@ std::string exportPeriods(const EarningsStore& store, const std::vector<PeriodSt
     const CurrencyConverter& converter = store.converter();
     CSVText text(joined({"period", "source"}, statsHeader(converter)));
     for (const PeriodStat& period : periods) {
-        text.add(joined({period.label, sourceText(period.source)}, statsFields(converter, period.stats)));
+        text.add(joined({period.label, sourceText(period)}, statsFields(converter, period.stats)));
     }
     return std::move(text).take();
 }

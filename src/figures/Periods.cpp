@@ -1,6 +1,7 @@
 #include "figures/Periods.h"
 
 #include "StatsAccumulator.h"
+#include "calendar/DayKey.h"
 #include "figures/SalesSelection.h"
 
 #include <algorithm>
@@ -12,6 +13,28 @@ namespace {
 
 constexpr int finishedMonths = 12;
 
+PeriodStat finishedMonth(const SharedSnapshot& snapshot, const std::string& month, const AppFilter& apps) {
+    if (std::ranges::binary_search(snapshot->monthlyOKLabels, month)) {
+        return {month, PeriodSource::monthlyReport,
+                reportRows(snapshot, ReportFrequency::monthly, month, apps).aggregate()};
+    }
+    const CivilDate first = dateFromDayKey(month + "-01").value();
+    const auto all = days(dayKey(first), dayKey(first.year() / first.month() / std::chrono::last));
+    const auto isKnown = [&snapshot](const KeyedDay& day) {
+        const ReportStatus status = snapshot->dailyStatus(day.key);
+        return status == ReportStatus::ok || status == ReportStatus::empty;
+    };
+    PeriodStat stat{month, PeriodSource::dailyReports,
+                    dailyRows(snapshot, all.front().key, all.back().key, apps).aggregate()};
+    const auto known = std::ranges::count_if(all, isKnown);
+    if (known < std::ssize(all)) {
+        stat.source = PeriodSource::someDailyReports;
+        stat.days = static_cast<int>(all.size());
+        stat.fetchedDays = static_cast<int>(known);
+    }
+    return stat;
+}
+
 }  // namespace
 
 std::vector<PeriodStat> monthStats(const SharedSnapshot& snapshot, const ReportCalendar& calendar,
@@ -21,9 +44,7 @@ std::vector<PeriodStat> monthStats(const SharedSnapshot& snapshot, const ReportC
         {thisMonth, PeriodSource::monthToDate,
          dailyRows(snapshot, thisMonth + "-01", calendar.dayKey(1), apps).aggregate()}};
     for (int monthsAgo = 1; monthsAgo <= finishedMonths; ++monthsAgo) {
-        const std::string month = calendar.monthKey(monthsAgo);
-        months.push_back({month, PeriodSource::monthlyReport,
-                          reportRows(snapshot, ReportFrequency::monthly, month, apps).aggregate()});
+        months.push_back(finishedMonth(snapshot, calendar.monthKey(monthsAgo), apps));
     }
     return months;
 }
@@ -38,7 +59,7 @@ std::vector<PeriodStat> yearStats(const SharedSnapshot& snapshot, const ReportCa
     }
     const SalesRows& rows = snapshot->salesRows;
     std::map<std::string_view, StatsAccumulator> sums;
-    laterDailyRows(snapshot, apps)
+    dailyRowsOfOtherYears(snapshot, apps)
         .forEachSection(
             [&rows](std::size_t chunk) { return std::optional(yearOf(*rows.reportDate(chunk))); },
             [&sums](std::string_view year, const std::vector<OfferSum>& lines) { sums[year].add(lines); });

@@ -13,7 +13,12 @@ ProductKind productKind(std::string_view productType) {
         const char letter = index < text.size() ? text[index] : '\0';
         return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
     };
-    if (upper(0) == 'I' && upper(1) == 'A') {
+    // Two types of Mac apps are not what they begin with.
+    if (upper(0) == 'F' && upper(1) == '7' && text.size() == 2) {
+        return ProductKind::update;
+    }
+    const bool isInMacApp = upper(0) == 'F' && upper(1) == 'I' && upper(2) == '1' && text.size() == 3;
+    if (isInMacApp || (upper(0) == 'I' && upper(1) == 'A')) {
         return ProductKind::iap;
     }
     switch (upper(0)) {

@@ -4,6 +4,21 @@
 #include <utility>
 
 namespace vantrell {
+namespace {
+
+/// Spans that meet become one, since each costs a look at every report.
+void append(std::vector<SalesRows::Span>& spans, SalesRows::Span next) {
+    if (next.first >= next.last) {
+        return;
+    }
+    if (!spans.empty() && spans.back().last == next.first) {
+        spans.back().last = next.last;
+    } else {
+        spans.push_back(next);
+    }
+}
+
+}  // namespace
 
 SalesRows::SalesRows(SalesChunks chunks, std::shared_ptr<const OfferTable> table,
                      std::shared_ptr<const TextDictionary> texts, std::int64_t load)
@@ -32,12 +47,28 @@ SalesRows::Span SalesRows::span(ReportFrequency frequency, const std::optional<s
             static_cast<std::size_t>(last - chunks_.begin())};
 }
 
-SalesRows::Span SalesRows::dailySpanAfterYear(std::string_view label) const {
-    Span daily = span(ReportFrequency::daily, std::nullopt, std::nullopt);
-    while (daily.first < daily.last && yearOf(chunks_[daily.first]->reportDate) <= label) {
-        ++daily.first;
+std::vector<SalesRows::Span> SalesRows::dailySpansOutside(const std::vector<std::string>& years) const {
+    const auto daily = span(ReportFrequency::daily, std::nullopt, std::nullopt);
+    const auto yearOfChunk = [](const auto& chunk) { return yearOf(chunk->reportDate); };
+    const auto begin = chunks_.begin() + static_cast<std::ptrdiff_t>(daily.first);
+    const auto end = chunks_.begin() + static_cast<std::ptrdiff_t>(daily.last);
+    std::vector<Span> spans;
+    std::size_t first = daily.first;
+    for (const std::string& year : years) {
+        const auto covered = std::ranges::equal_range(begin, end, std::string_view(year), {}, yearOfChunk);
+        append(spans, {first, static_cast<std::size_t>(covered.begin() - chunks_.begin())});
+        first = static_cast<std::size_t>(covered.end() - chunks_.begin());
     }
-    return daily;
+    append(spans, {first, daily.last});
+    return spans;
+}
+
+std::vector<SalesRows::Span> SalesRows::yearlySpans(const std::vector<std::string>& years) const {
+    std::vector<Span> spans;
+    for (const std::string& year : years) {
+        append(spans, span(ReportFrequency::yearly, year, year));
+    }
+    return spans;
 }
 
 SalesRowLite SalesRows::row(std::size_t chunk, std::size_t index) const {

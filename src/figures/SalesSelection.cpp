@@ -3,6 +3,7 @@
 #include "StatsAccumulator.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <memory>
 
@@ -86,18 +87,16 @@ SalesSelection dailyRows(const SharedSnapshot& snapshot, const std::optional<std
         snapshot, {snapshot->salesRows.span(ReportFrequency::daily, from, to)}, offerMask(*snapshot, apps)};
 }
 
-SalesSelection laterDailyRows(const SharedSnapshot& snapshot, const AppFilter& apps) {
-    return {snapshot,
-            {snapshot->salesRows.dailySpanAfterYear(snapshot->lastYearlyLabel())},
+SalesSelection dailyRowsOfOtherYears(const SharedSnapshot& snapshot, const AppFilter& apps) {
+    return {snapshot, snapshot->salesRows.dailySpansOutside(snapshot->yearlyOKLabels),
             offerMask(*snapshot, apps)};
 }
 
 SalesSelection allTimeRows(const SharedSnapshot& snapshot, const AppFilter& apps) {
     const SalesRows& rows = snapshot->salesRows;
-    return {snapshot,
-            {rows.dailySpanAfterYear(snapshot->lastYearlyLabel()),
-             rows.span(ReportFrequency::yearly, std::nullopt, std::nullopt)},
-            offerMask(*snapshot, apps)};
+    auto spans = rows.dailySpansOutside(snapshot->yearlyOKLabels);
+    std::ranges::copy(rows.yearlySpans(snapshot->yearlyOKLabels), std::back_inserter(spans));
+    return {snapshot, std::move(spans), offerMask(*snapshot, apps)};
 }
 
 SalesSelection reportRows(const SharedSnapshot& snapshot, ReportFrequency frequency,

@@ -58,10 +58,14 @@ void takeStatuses(Snapshot& snapshot, const ModelContext& context) {
     for (const auto& [id, report] : context.salesReports().all()) {
         switch (reportFrequency(report.frequencyRaw).value_or(ReportFrequency::daily)) {
             case ReportFrequency::weekly:
+                break;
             case ReportFrequency::monthly:
+                if (report.isWhole()) {
+                    snapshot.monthlyOKLabels.push_back(report.reportDate);
+                }
                 break;
             case ReportFrequency::yearly:
-                if (report.status() == ReportStatus::ok) {
+                if (report.isWhole()) {
                     snapshot.yearlyOKLabels.push_back(report.reportDate);
                 } else if (report.status() == ReportStatus::unavailable) {
                     snapshot.unavailableYears.push_back(report.reportDate);
@@ -78,6 +82,7 @@ void takeStatuses(Snapshot& snapshot, const ModelContext& context) {
         }
     }
     std::ranges::sort(snapshot.yearlyOKLabels);
+    std::ranges::sort(snapshot.monthlyOKLabels);
     std::ranges::sort(snapshot.unavailableYears);
     std::ranges::sort(snapshot.financeOKLabels);
 }

@@ -31,9 +31,9 @@ QString sinceText(const EarningsStore& store) {
     if (years.empty() && days.empty()) {
         return {};
     }
-    const std::string_view year =
-        years.empty() ? yearOf(days.begin()->first) : std::string_view(years.front());
-    return HeadlineWords::tr("Since %1").arg(shownText(year));
+    const std::string_view firstDay = days.empty() ? years.front() : yearOf(days.begin()->first);
+    const std::string_view firstReport = years.empty() ? firstDay : std::string_view(years.front());
+    return HeadlineWords::tr("Since %1").arg(shownText(std::min(firstDay, firstReport)));
 }
 
 /// Collects figures and adds them all up at once.

@@ -80,9 +80,11 @@ class OpenReports {
                    std::chrono::days(settlingDays);
         }
         // An answer without a report in it was kept as one without rows.
-        return !isFinal(report.status()) || report.message == notAReport;
+        return !isFinal(report.status()) || report.message == notAReport || wasStillRunning(report);
     }
 
+    static bool wasStillRunning(const SalesReport& year) { return year.wasStillRunning(); }
+    static bool wasStillRunning(const FinanceReport& /*period*/) { return false; }
     [[nodiscard]] CivilDate answeredOn(const SalesReportRequest& /*request*/, Instant fetchedAt) const {
         return basis_.calendar.dateAt(known(fetchedAt));
     }

@@ -16,9 +16,6 @@
 
 namespace vantrell {
 
-/// What is stored of an answer that came as a report and is none.
-inline constexpr const char* notAReport = "Apple's answer was not a report.";
-
 /// One sales report to ask for. With FinanceReportRequest this is all in which the two kinds of reports
 /// differ on their way from a request to stored rows.
 struct SalesReportRequest {

@@ -23,6 +23,12 @@ RunStep unlessFinal(const RunBasis& basis, const Request& request, RunProgress p
     return {request, !isFinal(storedStatus(basis, request)), std::move(progress)};
 }
 
+RunStep yearUnlessFinal(const RunBasis& basis, const SalesReportRequest& request, RunProgress progress) {
+    const auto found = basis.store.salesReports().find(request.recordKey());
+    const bool isRunning = found && found->record.wasStillRunning();
+    return {request, isRunning || !isFinal(storedStatus(basis, request)), std::move(progress)};
+}
+
 double share(std::size_t done, std::size_t all) {
     return static_cast<double>(done) / static_cast<double>(all);
 }
@@ -70,15 +76,15 @@ RunSteps months(RunBasis basis, int count, bool tellsShare) {
 
 RunSteps lastYear(RunBasis basis) {
     const int year = basis.calendar.currentYear() - yearsOfSync;
-    RunStep step =
-        unlessFinal(basis, SalesReportRequest{ReportFrequency::yearly, zeroPadded(year, 4)}, {Part::years});
+    RunStep step = yearUnlessFinal(basis, SalesReportRequest{ReportFrequency::yearly, zeroPadded(year, 4)},
+                                   {Part::years});
     co_yield step;
 }
 
 RunSteps allYears(RunBasis basis) {
     for (int year = basis.calendar.currentYear(); year >= earliestBackfillYear; --year) {
         const SalesReportRequest request{ReportFrequency::yearly, zeroPadded(year, 4)};
-        RunStep step = unlessFinal(basis, request, {Part::years, request.reportDate});
+        RunStep step = yearUnlessFinal(basis, request, {Part::years, request.reportDate});
         co_yield step;
         if (storedStatus(basis, request) == ReportStatus::unavailable) {
             co_return;

@@ -144,6 +144,7 @@ TEST_F(IndependentCheck, MonthsAndYearsAreTheirDaysAddedUp) {
     std::map<std::string, SalesTotals> expected{
         {"2026-11", sample::salesTotals(account_, {sample::dayOf(2026, 11, 1), sample::dayOf(2026, 11, 21)})},
         {"2026-10", totals(ReportKind::monthly, "2026-10")},
+        {"2026-09", sample::salesTotals(account_, {sample::dayOf(2026, 9, 20), sample::dayOf(2026, 9, 30)})},
         {"2026-08", totals(ReportKind::monthly, "2026-08")},
         {"2026", thisYear()},
         {"2025", totals(ReportKind::yearly, "2025")},

@@ -63,8 +63,8 @@ std::string windows(const Entry& entry) {
 
 std::string period(const PeriodStat& stat) {
     return stat.label + " (" +
-           (stat.days == 0
-                ? sourceText(stat.source)
+           (stat.days == 0 || stat.source == PeriodSource::someDailyReports
+                ? sourceText(stat)
                 : std::to_string(stat.fetchedDays) + " of " + std::to_string(stat.days) + " days fetched") +
            "): " + text(stat.stats);
 }

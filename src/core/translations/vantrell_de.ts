@@ -546,6 +546,13 @@
         <source>Products</source>
         <translation>Produkte</translation>
     </message>
+    <message numerus="yes">
+        <source>From daily reports · %1 of %2 days</source>
+        <translation>
+            <numerusform>Aus Tagesberichten · %1 von %2 Tag</numerusform>
+            <numerusform>Aus Tagesberichten · %1 von %2 Tagen</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>SettingsScreen</name>

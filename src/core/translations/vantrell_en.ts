@@ -34,6 +34,13 @@
             <numerusform>%1 of %2 days fetched</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>From daily reports · %1 of %2 days</source>
+        <translation>
+            <numerusform>From daily reports · %1 of %2 days</numerusform>
+            <numerusform>From daily reports · %1 of %2 days</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>UnitsCaption</name>

@@ -28,6 +28,10 @@ QString proceedsLabel() {
 QString sourceLabel(const Locale& locale, const PeriodStat& period) {
     if (period.days > 0) {
         const QString days = fromUtf8(locale.count(period.days));
+        if (period.source == PeriodSource::someDailyReports) {
+            return SalesWords::tr("From daily reports · %1 of %2 days", nullptr, period.days)
+                .arg(fromUtf8(locale.count(period.fetchedDays)), days);
+        }
         return period.fetchedDays == period.days
                    ? SalesWords::tr("%1 days", nullptr, period.days).arg(days)
                    : SalesWords::tr("%1 of %2 days fetched", nullptr, period.days)
@@ -35,6 +39,7 @@ QString sourceLabel(const Locale& locale, const PeriodStat& period) {
     }
     switch (period.source) {
         case PeriodSource::dailyReports:
+        case PeriodSource::someDailyReports:
             return SalesWords::tr("From daily reports");
         case PeriodSource::monthToDate:
             return SalesWords::tr("From daily reports · MTD");

@@ -14,6 +14,9 @@ namespace vantrell {
 /// The most that a message takes, since all of them are held in memory. A longer one is cut.
 inline constexpr std::size_t mostMessageBytes = std::size_t{16} << 10U;
 
+/// What is stored of an answer that came as a report and is none.
+inline constexpr const char* notAReport = "Apple's answer was not a report.";
+
 /// What is known of one sales report, also of one that never gave data.
 struct SalesReport {
     std::string accountID = "default";
@@ -26,6 +29,10 @@ struct SalesReport {
 
     [[nodiscard]] ReportStatus status() const { return reportStatus(statusRaw); }
     void setStatus(ReportStatus status) { statusRaw = rawText(status); }
+    /// `ok`, of a year that still ran when it was asked for: there is more to come.
+    [[nodiscard]] bool wasStillRunning() const;
+    /// `ok`, with a report that covers its time.
+    [[nodiscard]] bool isWhole() const;
 
     bool operator==(const SalesReport&) const = default;
 };

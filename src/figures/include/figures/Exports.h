@@ -33,7 +33,7 @@ inline constexpr std::array exportKinds{ExportKind::days, ExportKind::months, Ex
 [[nodiscard]] std::string exportProducts(const EarningsStore& store);
 
 // The words of the files, which are English in every language.
-[[nodiscard]] std::string sourceText(PeriodSource source);
+[[nodiscard]] std::string sourceText(const PeriodStat& period);
 /// What a product is, and of which app.
 [[nodiscard]] std::string formText(const ProductStat& product);
 

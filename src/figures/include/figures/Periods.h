@@ -11,14 +11,22 @@
 namespace vantrell {
 
 /// Which reports a period's figures come from.
-enum class PeriodSource { dailyReports, monthToDate, yearToDate, monthlyReport, yearlyReport };
+enum class PeriodSource {
+    dailyReports,
+    someDailyReports,  ///< not all of its days are known
+    monthToDate,
+    yearToDate,
+    monthlyReport,
+    yearlyReport,
+};
 
 /// One month, year or other stretch of a list.
 struct PeriodStat {
     std::string label;
     PeriodSource source = PeriodSource::dailyReports;
     AggregateStats stats;
-    // Of a bucket: how many days it has, and how many of them need no further request.
+    // Of a bucket and where some days aren't known: how many it has, and how many of them need no further
+    // request.
     int days = 0;
     int fetchedDays = 0;
     bool operator==(const PeriodStat&) const = default;

@@ -7,8 +7,8 @@ namespace vantrell {
 /// What a line of a sales report is about.
 enum class ProductKind { app, iap, update, redownload, other, last = other };
 
-/// Tells the kind by the first letters of the report's product type, such as "1F", "IAY" or "7T"; case and
-/// surrounding white space don't matter.
+/// Tells the kind by the first letters of the report's product type, such as "1F", "IAY" or "7T", but for two
+/// types of Mac apps; case and surrounding white space don't matter.
 [[nodiscard]] ProductKind productKind(std::string_view productType);
 
 /// Whether lines of this kind are sales and refunds of something, which is what money figures are made of.

@@ -49,9 +49,10 @@ class SalesRows {
     [[nodiscard]] Span span(ReportFrequency frequency, const std::optional<std::string>& from,
                             const std::optional<std::string>& to) const;
 
-    /// The chunks of daily reports whose year, the first four characters of the report date, sorts after
-    /// `label`.
-    [[nodiscard]] Span dailySpanAfterYear(std::string_view label) const;
+    /// The chunks of daily reports of all years but these, which are in ascending order.
+    [[nodiscard]] std::vector<Span> dailySpansOutside(const std::vector<std::string>& years) const;
+    /// The chunks of the yearly reports of these years.
+    [[nodiscard]] std::vector<Span> yearlySpans(const std::vector<std::string>& years) const;
 
     /// Of the report with this number of a chunk.
     [[nodiscard]] std::optional<std::string_view> reportDate(std::size_t chunk) const {

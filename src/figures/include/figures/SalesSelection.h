@@ -119,18 +119,17 @@ void forEachShared(std::span<const SalesSelection> selections, Visit visit) {
 //
 //     a range of days, chart days, day table        daily reports in the range
 //     windows of tables                             daily reports since their first day
-//     a finished month                              the monthly report
-//     a year with an ok yearly report               the yearly report
-//     a later year                                  its daily reports
-//     all time                                      all yearly reports, and the daily ones of the years
-//                                                   after the newest ok yearly report
+//     a finished month                              its ok monthly report, else its daily reports
+//     a year                                        its ok yearly report, unless it still ran when that was
+//                                                   given, else its daily reports
+//     all time                                      year by year, as above
 //     anything                                      never weekly reports
 
 /// Daily rows with a report date from `from` to `to`, both included, each bound only if given.
 [[nodiscard]] SalesSelection dailyRows(const SharedSnapshot& snapshot, const std::optional<std::string>& from,
                                        const std::optional<std::string>& to, const AppFilter& apps);
-/// Those of the years that have no yearly report.
-[[nodiscard]] SalesSelection laterDailyRows(const SharedSnapshot& snapshot, const AppFilter& apps);
+/// Those of the years that don't count by a yearly report.
+[[nodiscard]] SalesSelection dailyRowsOfOtherYears(const SharedSnapshot& snapshot, const AppFilter& apps);
 [[nodiscard]] SalesSelection allTimeRows(const SharedSnapshot& snapshot, const AppFilter& apps);
 /// Rows of one monthly or yearly report.
 [[nodiscard]] SalesSelection reportRows(const SharedSnapshot& snapshot, ReportFrequency frequency,

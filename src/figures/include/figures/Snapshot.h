@@ -24,7 +24,8 @@ struct Snapshot {
     std::shared_ptr<const Catalog> catalog = std::make_shared<const Catalog>();
     DailyStatuses dailyStatuses;
     // Labels in ascending order.
-    std::vector<std::string> yearlyOKLabels;
+    std::vector<std::string> yearlyOKLabels;  ///< of years whose report covers them
+    std::vector<std::string> monthlyOKLabels;
     std::vector<std::string> unavailableYears;
     std::vector<std::string> financeOKLabels;
 
@@ -32,10 +33,6 @@ struct Snapshot {
     [[nodiscard]] ReportStatus dailyStatus(std::string_view day) const {
         const auto known = dailyStatuses.find(day);
         return known == dailyStatuses.end() ? ReportStatus::missing : known->second;
-    }
-    /// The greatest of `yearlyOKLabels`: what a year must be after to count by its daily reports.
-    [[nodiscard]] std::string_view lastYearlyLabel() const {
-        return yearlyOKLabels.empty() ? std::string_view() : yearlyOKLabels.back();
     }
 };
 
