@@ -165,7 +165,7 @@ void HttpExchange::takeHeaders() {
     if (!isNumber) {
         finish(HttpFailure{HttpFailure::Kind::notUnderstood});
     } else if (announcedBytes_ > maxBodyBytes()) {
-        finish(HttpFailure{HttpFailure::Kind::tooLarge});
+        finishTooLarge();
     }
 }
 
@@ -183,7 +183,7 @@ void HttpExchange::appendBytes() {
     const auto bytes = reply_->readAll();
     const auto count = static_cast<std::size_t>(bytes.size());
     if (count > maxBodyBytes() - body_.size()) {
-        finish(HttpFailure{HttpFailure::Kind::tooLarge});
+        finishTooLarge();
         return;
     }
     // By itself it would double, and for a moment take three times what is read.
@@ -191,6 +191,16 @@ void HttpExchange::appendBytes() {
         body_.reserve(std::min(std::max(size, body_.size() + body_.size() / 4), maxBodyBytes()));
     }
     body_.append(bytes.constData(), count);
+}
+
+/// An error tells its kind by its status, whatever it says.
+void HttpExchange::finishTooLarge() {
+    const auto code = status();
+    if (code == 200 || (code && isRedirect(*code))) {
+        finish(HttpFailure{HttpFailure::Kind::tooLarge});
+    } else {
+        finish(HttpResponse{code, std::move(body_), wantedHeaders()});
+    }
 }
 
 void HttpExchange::conclude() {

@@ -41,6 +41,7 @@ class HttpExchange {
     void takeHeaders();
     void takeBytes();
     void appendBytes();
+    void finishTooLarge();
     void conclude();
     [[nodiscard]] std::vector<HttpHeader> wantedHeaders() const;
     bool follow(int status);

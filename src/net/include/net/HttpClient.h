@@ -33,7 +33,8 @@ struct HttpRequest {
     /// Longest silence that is borne, and longest time for the whole exchange.
     std::chrono::milliseconds idleTimeout{std::chrono::seconds{90}};
     std::chrono::milliseconds totalTimeout{std::chrono::minutes{15}};
-    /// Most bytes of a body with status 200, and of any other body. A body that is larger is a failure.
+    /// Most bytes of a body with status 200, and of any other body. A larger one is a failure, or of an error
+    /// cut off.
     std::size_t maxBodyBytes = std::size_t{64} << 20U;
     std::size_t maxErrorBodyBytes = std::size_t{1} << 20U;
     std::vector<std::string> wantedHeaders = {};  ///< by name; others of the answer are dropped
