@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
+#include <fstream>
 #include <sys/stat.h>
 #include <utility>
 
@@ -36,6 +37,24 @@ std::optional<QTimeZone> withHistory(std::string_view name) {
 std::optional<std::string> variable(const char* name) {
     const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe)
     return value != nullptr ? std::optional<std::string>(value) : std::nullopt;
+}
+
+/// The rules at the end of a zone file, which hold from now on.
+std::string rulesIn(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    std::string magic(4, '\0');
+    stream.read(magic.data(), 4);
+    std::string line;
+    std::string last;
+    while (magic == "TZif" && std::getline(stream, line)) {
+        last = line;
+    }
+    return last;
+}
+
+std::optional<QTimeZone> byRules(const std::string& rules) {
+    QTimeZone zone(QByteArray::fromStdString(rules));
+    return !rules.empty() && zone.isValid() ? std::optional(std::move(zone)) : std::nullopt;
 }
 
 /// The zone's name in a TZ setting: "Asia/Tokyo", ":Asia/Tokyo" and "/usr/share/zoneinfo/Asia/Tokyo" are one.
@@ -75,8 +94,14 @@ TimeZone TimeZone::ofHost() {
         if (auto zone = named(nameIn(*setting))) {
             return *zone;
         }
+        std::error_code failed;
+        const std::filesystem::path file =
+            std::filesystem::canonical(setting->substr(setting->starts_with(':') ? 1 : 0), failed);
+        if (auto zone = failed ? std::nullopt : named(nameIn(file.string()))) {
+            return *zone;
+        }
         tzset();
-        rules = QTimeZone(static_cast<int>(-timezone));
+        rules = byRules(failed ? *setting : rulesIn(file)).value_or(QTimeZone(static_cast<int>(-timezone)));
     } else if (const auto own = QTimeZone::systemTimeZone(); own.isValid()) {
         rules = own;
     }
