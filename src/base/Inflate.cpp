@@ -40,16 +40,17 @@ Inflated inflateRaw(std::string_view stream, std::size_t maxBytes) {
         // Left unwritten at first: pages that the text never reaches cost nothing.
         const auto buffer = std::make_unique_for_overwrite<char[]>(capacity);
         std::size_t written = 0;
-        const auto result = libdeflate_deflate_decompress(decompressor.get(), stream.data(), stream.size(),
-                                                          buffer.get(), capacity, &written);
+        std::size_t read = 0;
+        const auto result = libdeflate_deflate_decompress_ex(decompressor.get(), stream.data(), stream.size(),
+                                                             buffer.get(), capacity, &read, &written);
         if (result == LIBDEFLATE_SUCCESS) {
-            return {std::string(buffer.get(), written), std::nullopt};
+            return {std::string(buffer.get(), written), std::nullopt, read};
         }
         if (result != LIBDEFLATE_INSUFFICIENT_SPACE) {
-            return {{}, InflateError::corrupt};
+            return {{}, InflateError::corrupt, 0};
         }
         if (capacity == maxBytes) {
-            return {{}, InflateError::tooLarge};
+            return {{}, InflateError::tooLarge, 0};
         }
         capacity = timesCapped(capacity, growth, maxBytes);
     }

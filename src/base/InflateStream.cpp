@@ -28,6 +28,10 @@ InflateStream::InflateStream(std::string_view stream) {
     state_.reset(state.release());
 }
 
+std::size_t InflateStream::streamBytes() const {
+    return state_->total_in;
+}
+
 std::optional<InflateError> InflateStream::appendNext(std::string& output, std::size_t most) {
     const std::size_t before = output.size();
     output.resize(before + most);

@@ -64,4 +64,14 @@ std::optional<std::string_view> gzipStream(std::string_view data) {
     return data.substr(start, end - start);
 }
 
+void checkTrailer(const char* end, std::uint32_t checksum, std::size_t length) {
+    const auto number = [trailer = std::string_view(end, trailerBytes)](std::size_t at) {
+        return byteAt(trailer, at) | byteAt(trailer, at + 1) << 8U | byteAt(trailer, at + 2) << 16U |
+               byteAt(trailer, at + 3) << 24U;
+    };
+    if (number(0) != checksum || number(4) != static_cast<std::uint32_t>(length)) {
+        throw ReportError(ReportError::Reason::corruptStream);
+    }
+}
+
 }  // namespace vantrell

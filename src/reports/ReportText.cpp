@@ -1,6 +1,7 @@
 #include "reports/ReportText.h"
 
 #include "GzipMember.h"
+#include "base/Checksum.h"
 #include "base/Utf8.h"
 #include "reports/ReportError.h"
 #include "reports/ReportLines.h"
@@ -63,12 +64,14 @@ void ReportText::unpack() {
     Inflated whole = inflateRaw(*packed, std::min(mostAtOnce_, maxBytes_));
     if (whole.error == InflateError::tooLarge && maxBytes_ > mostAtOnce_) {
         stream_.emplace(*packed);
+        packed_ = *packed;
         rest_ = {};
         return;
     }
     if (whole.error) {
         throw ReportError(reason(*whole.error));
     }
+    checkTrailer(packed->data() + whole.streamBytes, crc32(whole.bytes), whole.bytes.size());
     unpacked_ = std::move(whole.bytes);
     rest_ = unpacked_;
 }
@@ -82,12 +85,16 @@ bool ReportText::readMore() {
     const std::size_t before = unpacked_.size();
     const auto error = stream_->appendNext(unpacked_, pieceBytes);
     streamedBytes_ += unpacked_.size() - before;
+    checksum_ = crc32(std::string_view(unpacked_).substr(before), checksum_);
     rest_ = unpacked_;
     if (error) {
         throw ReportError(reason(*error));
     }
     if (streamedBytes_ > maxBytes_) {
         throw ReportError(ReportError::Reason::tooLarge);
+    }
+    if (stream_->isAtEnd()) {
+        checkTrailer(packed_.data() + stream_->streamBytes(), checksum_, streamedBytes_);
     }
     return true;
 }

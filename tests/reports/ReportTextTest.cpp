@@ -1,3 +1,4 @@
+#include "base/Checksum.h"
 #include "base/Utf8.h"
 #include "reports/ReportError.h"
 #include "reports/ReportText.h"
@@ -25,14 +26,22 @@ std::string deflated(const std::string& text) {
     return packed;
 }
 
-/// A gzip member with the optional fields that `flags` asks for and a trailer of zeros.
-std::string member(int flags, const std::string& stream) {
+std::string littleEndian(std::uint32_t number) {
+    std::string bytes;
+    for (unsigned shift = 0; shift < 32; shift += 8) {
+        bytes += static_cast<char>(number >> shift & 0xFFU);
+    }
+    return bytes;
+}
+
+/// A gzip member with the optional fields that `flags` asks for, and the trailer of `text`.
+std::string member(int flags, const std::string& stream, const std::string& text = {}) {
     std::string bytes = "\x1F\x8B\x08"s + static_cast<char>(flags) + "\1\2\3\4\5\6"s;
     bytes += (flags & 0x04) != 0 ? "\x03\x00xyz"s : "";
     bytes += (flags & 0x08) != 0 ? "report.txt\0"s : "";
     bytes += (flags & 0x10) != 0 ? "\0"s : "";
     bytes += (flags & 0x02) != 0 ? "cc"s : "";
-    return bytes + stream + std::string(8, '\0');
+    return bytes + stream + littleEndian(crc32(text)) + littleEndian(static_cast<std::uint32_t>(text.size()));
 }
 
 /// All pieces of a body together.
@@ -58,12 +67,13 @@ std::optional<ReportError::Reason> failure(const std::string& body, std::size_t 
 
 TEST(ReportText, UnpacksEveryCombinationOfHeaderFieldsWhateverTheTrailerSays) {
     for (int flags = 0; flags < 0x20; ++flags) {
-        EXPECT_EQ(textOf(member(flags, deflated("\xEF\xBB\xBF" + report))), report) << flags;
+        EXPECT_EQ(textOf(member(flags, deflated("\xEF\xBB\xBF" + report), "\xEF\xBB\xBF" + report)), report)
+            << flags;
     }
 }
 
 TEST(ReportText, HandsOnWhatDoesNotBeginLikeAMember) {
-    const std::string packed = member(0, deflated(report));
+    const std::string packed = member(0, deflated(report), report);
     for (const std::string& data : {""s, report, packed.substr(0, 18), "\x1F\x8B\x07"s + packed.substr(3),
                                     "\x1F"s + packed, member(0x02, "").substr(0, 18)}) {
         EXPECT_EQ(textOf(data), repairedUtf8(data));
@@ -85,7 +95,7 @@ TEST(ReportText, RefusesAHeaderThatLeavesNoRoomForAStream) {
 }
 
 TEST(ReportText, RefusesAStreamThatIsDamagedOrCutShort) {
-    const std::string packed = member(0x08, deflated(report));
+    const std::string packed = member(0x08, deflated(report), report);
     for (std::size_t size = 22; size < packed.size(); ++size) {
         EXPECT_EQ(failure(packed.substr(0, size)).has_value(), true) << size;
     }
@@ -93,17 +103,29 @@ TEST(ReportText, RefusesAStreamThatIsDamagedOrCutShort) {
     EXPECT_EQ(failure(member(0, std::string(50, '\xFF'))), ReportError::Reason::corruptStream);
 }
 
+TEST(ReportText, RefusesATextThatIsNotTheOneThatWasPacked) {
+    const std::string packed = member(0, deflated(report), report);
+    EXPECT_EQ(textOf(packed + "more"), report) << "what comes after is nobody's";
+    for (std::size_t end = 1; end <= 8; ++end) {
+        std::string damaged = packed;
+        damaged[packed.size() - end] = static_cast<char>(damaged[packed.size() - end] ^ 1);
+        for (const std::size_t atOnce : {mostUnpackedAtOnce, std::size_t{4}}) {
+            EXPECT_EQ(failure(damaged, maxInflatedBytes, atOnce), ReportError::Reason::corruptStream) << end;
+        }
+    }
+}
+
 TEST(ReportText, IsTheSameInPiecesAsAtOnce) {
     std::string longText;
     for (int line = 0; longText.size() < 2'500'000; ++line) {
         longText += std::to_string(line) + (line % 100'000 == 7 ? "\t\xC3\xFF\n" : "\tCaf\u00E9\n");
     }
-    const std::string packed = member(0, deflated(longText));
+    const std::string packed = member(0, deflated(longText), longText);
     const std::string expected = repairedUtf8(longText);
     EXPECT_TRUE(textOf(longText) == expected) << "plain";
     EXPECT_TRUE(textOf(packed) == expected) << "at once";
     EXPECT_TRUE(textOf(packed, maxInflatedBytes, 4'096) == expected) << "as a stream";
-    EXPECT_TRUE(textOf(member(0, deflated("a\xFF"))) == "a\uFFFD") << "at once";
+    EXPECT_TRUE(textOf(member(0, deflated("a\xFF"), "a\xFF")) == "a\uFFFD") << "at once";
     for (const std::size_t atOnce : {std::size_t{4'096}, mostUnpackedAtOnce}) {
         EXPECT_EQ(failure(packed, longText.size(), atOnce), std::nullopt);
         EXPECT_EQ(failure(packed, longText.size() - 1, atOnce), ReportError::Reason::tooLarge);
@@ -137,7 +159,7 @@ TEST(ReportText, EndsAReportThatCostsTooMuch) {
 }
 
 TEST(ReportText, IgnoresWhatFollowsTheStream) {
-    EXPECT_EQ(textOf(member(0, deflated(report)) + member(0, deflated(report))), report);
+    EXPECT_EQ(textOf(member(0, deflated(report), report) + member(0, deflated(report), report)), report);
 }
 
 }  // namespace

@@ -13,6 +13,7 @@ enum class InflateError { corrupt, tooLarge };
 struct Inflated {
     std::string bytes;
     std::optional<InflateError> error;  ///< when present, `bytes` is empty
+    std::size_t streamBytes = 0;        ///< how long the stream is
 };
 
 /// Unpacks a raw DEFLATE stream (RFC 1951, no wrapper). The stream must reach its end: a cut one is corrupt.

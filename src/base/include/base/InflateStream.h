@@ -22,6 +22,8 @@ class InflateStream {
     /// Appends at most `most` bytes of what comes next.
     [[nodiscard]] std::optional<InflateError> appendNext(std::string& output, std::size_t most);
     [[nodiscard]] bool isAtEnd() const { return isAtEnd_; }
+    /// How much of the stream was read.
+    [[nodiscard]] std::size_t streamBytes() const;
 
   private:
     struct End {

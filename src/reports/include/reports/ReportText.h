@@ -4,6 +4,7 @@
 #include "base/InflateStream.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -37,7 +38,9 @@ class ReportText {
     std::string unpacked_;
     std::string_view rest_;  // of the body or of what was unpacked of it
     std::optional<InflateStream> stream_;
+    std::string_view packed_;  // what the stream is made from
     std::size_t streamedBytes_ = 0;
+    std::uint32_t checksum_ = 0;
     std::string repaired_;
     bool isStarted_ = false;
 };
