@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::string_view addressesKey = "appIconURLs";
 constexpr const char* largestStorefront = "US";
+constexpr std::size_t mostAtOnce = 100;  // of one request
 
 bool isLargestStorefront(const std::optional<std::string>& country) {
     return country && QString::fromStdString(*country).toUpper() == QLatin1StringView(largestStorefront);
@@ -25,36 +26,54 @@ AppIconStore::AppIconStore(const Parts& parts, std::string lookupService)
 }
 
 QCoro::Task<> AppIconStore::loadIcons(std::vector<std::int64_t> appleIDs) {
-    const std::vector<std::int64_t> missing = takeUntried(appleIDs);
-    if (missing.empty()) {
-        co_return;
+    std::vector<std::int64_t> missing = takeUntried(appleIDs);
+    const std::stop_token life = life_.token();
+    while (!missing.empty()) {
+        const auto count = static_cast<std::ptrdiff_t>(std::min(missing.size(), mostAtOnce));
+        if (!co_await loadSome({missing.begin(), missing.begin() + count})) {
+            break;
+        }
+        missing.erase(missing.begin(), missing.begin() + count);
     }
+    if (!life.stop_requested()) {
+        // Those that nobody answered for.
+        for (const std::int64_t id : missing) {
+            attempted_.erase(id);
+        }
+    }
+}
+
+QCoro::Task<bool> AppIconStore::loadSome(std::vector<std::int64_t> appleIDs) {
     const auto country = parts_.locale.regionCode();
-    if (!co_await lookUp(missing, country)) {
-        co_return;
+    if (!co_await lookUp(appleIDs, country)) {
+        co_return false;
     }
-    auto stillMissing = withoutIcon(missing);
+    auto stillMissing = withoutIcon(appleIDs);
+    bool isAlive = true;
     if (!stillMissing.empty() && !isLargestStorefront(country)) {
         // An app that isn't sold in the user's country is found in the largest one.
-        if (!co_await lookUp(stillMissing, largestStorefront)) {
-            co_return;
+        const std::stop_token life = life_.token();
+        isAlive = co_await lookUp(stillMissing, largestStorefront);
+        if (life.stop_requested()) {
+            co_return false;
         }
         stillMissing = withoutIcon(std::move(stillMissing));
     }
-    if (stillMissing.size() < missing.size()) {
+    if (stillMissing.size() < appleIDs.size()) {
         saveUrls();
     }
+    co_return isAlive;
 }
 
 QCoro::Task<bool> AppIconStore::lookUp(std::vector<std::int64_t> appleIDs,
                                        std::optional<std::string> country) {
     const std::stop_token life = life_.token();
-    IconAddresses found = co_await IconLookup::fetch(parts_.http, lookupService_, std::move(appleIDs),
-                                                     std::move(country), life);
-    if (life.stop_requested()) {
+    auto found = co_await IconLookup::fetch(parts_.http, lookupService_, std::move(appleIDs),
+                                            std::move(country), life);
+    if (life.stop_requested() || !found) {
         co_return false;
     }
-    takeIn(found);
+    takeIn(*found);
     // Whoever hears of new addresses may do away with the store as well.
     co_return !life.stop_requested();
 }

@@ -80,9 +80,10 @@ bool isIconAddress(std::string_view text) {
     return !text.empty() && QUrl(address, QUrl::StrictMode).isValid();
 }
 
-QCoro::Task<IconAddresses> IconLookup::fetch(HttpClient& http, std::string service,
-                                             std::vector<std::int64_t> appleIDs,
-                                             std::optional<std::string> country, std::stop_token cancel) {
+QCoro::Task<std::optional<IconAddresses>> IconLookup::fetch(HttpClient& http, std::string service,
+                                                            std::vector<std::int64_t> appleIDs,
+                                                            std::optional<std::string> country,
+                                                            std::stop_token cancel) {
     auto url = requestUrl(service, "/lookup", queryItems(appleIDs, country));
     if (!url) {
         co_return IconAddresses();
@@ -95,7 +96,10 @@ QCoro::Task<IconAddresses> IconLookup::fetch(HttpClient& http, std::string servi
                         .maxErrorBodyBytes = maxBodyBytes};
     const HttpResult result = co_await http.get(std::move(request), std::move(cancel));
     const auto* response = std::get_if<HttpResponse>(&result);
-    auto found = response == nullptr ? IconAddresses() : parse(response->body);
+    if (response == nullptr) {
+        co_return std::nullopt;
+    }
+    auto found = parse(response->body);
     qCInfo(iconsLog) << found.size() << "icons of" << appleIDs.size() << "apps";
     co_return found;
 }

@@ -6,6 +6,7 @@
 #include "testing/SlowHttp.h"
 
 #include <memory>
+#include <numeric>
 
 #include <gmock/gmock.h>
 
@@ -13,8 +14,10 @@ namespace vantrell {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::IsEmpty;
 using ::testing::Pair;
+using ::testing::StartsWith;
 
 constexpr auto germany = "de_DE.UTF-8";
 constexpr auto nowhere = "C";
@@ -102,6 +105,19 @@ TEST_F(AppIconStoreTest, KnowsAgainWhatItFoundAndDropsWhatItCanNotRead) {
     QCoro::waitFor(store->loadIcons({5, 6}));
     EXPECT_THAT(queries(), ElementsAre("id=6&country=US"));
     EXPECT_EQ(defaults.textMap("appIconURLs"), (TextMap{{"5", "https://a/5"}, {"6", "https://a/6"}}));
+}
+
+TEST_F(AppIconStoreTest, AsksForAHundredAtATimeAndAgainWhereNobodyAnswered) {
+    std::vector<std::int64_t> apps(150);
+    std::iota(apps.begin(), apps.end(), 1);
+    const auto store = storeIn("en_US");
+    http.answer(200, nothingFound);
+    http.answers.emplace_back(HttpFailure{});
+    QCoro::waitFor(store->loadIcons(apps));
+    EXPECT_THAT(queries(), ElementsAre(EndsWith("%2C100&country=US"), StartsWith("id=101%2C")));
+    http.answer(200, nothingFound);
+    QCoro::waitFor(store->loadIcons(apps));
+    EXPECT_EQ(queries().at(2), queries().at(1));
 }
 
 TEST(IconLookup, TakesAddressesFromABodyThatIsWholeAndNothingFromAnyOther) {

@@ -38,14 +38,16 @@ class AppIconStore : public QObject {
     [[nodiscard]] const IconAddresses& urls() const { return urls_; }
 
     /// Returns when all lookups of this call are over, or the store is gone. A failure costs nothing but the
-    /// icon: there is no further try by this store.
+    /// icon: where an answer came there is no further try by this store, else the next call is one.
     [[nodiscard]] QCoro::Task<> loadIcons(std::vector<std::int64_t> appleIDs);
 
   Q_SIGNALS:
     void urlsChanged();
 
   private:
-    /// False if the store is gone by the end.
+    /// A request's worth of apps. False if the store is gone by the end, or nobody answers.
+    [[nodiscard]] QCoro::Task<bool> loadSome(std::vector<std::int64_t> appleIDs);
+    /// As above.
     [[nodiscard]] QCoro::Task<bool> lookUp(std::vector<std::int64_t> appleIDs,
                                            std::optional<std::string> country);
     [[nodiscard]] std::vector<std::int64_t> takeUntried(const std::vector<std::int64_t>& appleIDs);

@@ -24,11 +24,12 @@ using IconAddresses = std::map<std::int64_t, std::string>;
 namespace IconLookup {
 
 /// One request for all of `appleIDs`, in the storefront of `country` if one is given. `service` is a scheme
-/// and a host with no path; `http` must outlive the task. Empty on any failure; only the body decides, not
-/// the HTTP status, and it may tell of apps that weren't asked for.
-[[nodiscard]] QCoro::Task<IconAddresses> fetch(HttpClient& http, std::string service,
-                                               std::vector<std::int64_t> appleIDs,
-                                               std::optional<std::string> country, std::stop_token cancel);
+/// and a host with no path; `http` must outlive the task. Absent without an answer, empty for any that can't
+/// be used; only the body decides, not the HTTP status, and it may tell of apps that weren't asked for.
+[[nodiscard]] QCoro::Task<std::optional<IconAddresses>> fetch(HttpClient& http, std::string service,
+                                                              std::vector<std::int64_t> appleIDs,
+                                                              std::optional<std::string> country,
+                                                              std::stop_token cancel);
 
 /// A body that isn't what the service sends, in any of its entries, gives nothing.
 [[nodiscard]] IconAddresses parse(std::string_view body);
