@@ -58,7 +58,7 @@ LoadedCredentials loadedFrom(const SecretRead& read) {
 }  // namespace
 
 std::string keychainErrorText(const SecretError& error) {
-    return error.description.empty() ? "Keychain error " + std::to_string(error.code) : error.description;
+    return error.description.empty() ? "Keyring error " + std::to_string(error.code) : error.description;
 }
 
 LoadedCredentials CredentialsKeychain::load() {
@@ -71,8 +71,6 @@ void CredentialsKeychain::whenLoadedLate(std::function<void(LoadedCredentials)> 
 
 void CredentialsKeychain::store(const APICredentials& credentials) {
     const std::string item = json(credentials);
-    // A failed removal is no failure: there may have been nothing to remove.
-    std::ignore = secrets_.remove(service, account);
     if (const auto error = secrets_.add(service, account, item)) {
         throw CredentialsError(error->code, keychainErrorText(*error));
     }

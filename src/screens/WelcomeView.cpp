@@ -34,7 +34,9 @@ WelcomeView::WelcomeView(const ScreenParts& parts, QObject* parent)
 
 QString WelcomeView::problem() const {
     const auto& problem = parts_.engine.account().problem();
-    return problem ? tr("The Keychain could not be read: %1").arg(shownText(*problem)) : QString();
+    return problem ? tr("Your desktop's keyring could not be read: %1")
+                         .arg(shownText(*problem, messageCharacters))
+                   : QString();
 }
 
 QString WelcomeView::linkAddress() const {

@@ -49,7 +49,7 @@ TEST(CredentialsKeychain, ThrowsTheServicesWordingOrTheCode) {
     CredentialsKeychain keychain(secrets);
     for (const auto& [error, text] : std::vector<std::pair<SecretError, std::string>>{
              {{-25308, "User interaction is not allowed."}, "User interaction is not allowed."},
-             {{-34018, ""}, "Keychain error -34018"}}) {
+             {{-34018, ""}, "Keyring error -34018"}}) {
         secrets.failNextAdd(error);
         try {
             keychain.store(sample);

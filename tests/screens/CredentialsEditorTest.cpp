@@ -28,7 +28,9 @@ class CredentialsEditorTest : public ::testing::Test {
 };
 
 TEST_F(CredentialsEditorTest, TakesTheKeyFromAFileOrSaysWhyItCanNot) {
-    const std::string read = "Key file read. It stays in the Keychain only — you can delete the download.";
+    const std::string read =
+        "Key file read. “Save” puts it into your desktop's keyring and nowhere else; you can delete the "
+        "download then.";
     const std::string unread = "Could not read the key file: ";
     std::filesystem::create_directory(folder / "folder");
     const struct {
@@ -63,7 +65,7 @@ TEST_F(CredentialsEditorTest, SavesWithoutBlanksAroundAndFetchesIfNothingWasFetc
     editor.save();
     EXPECT_EQ(fixture.engine().account().credentials(), (APICredentials{"3f7a", "AB", "pem", "6041"}));
     EXPECT_EQ(editor.issuerID(), QStringLiteral("3f7a"));
-    EXPECT_EQ(editor.status(), QStringLiteral("Saved to the Keychain."));
+    EXPECT_EQ(editor.status(), QStringLiteral("Saved to your desktop's keyring."));
     EXPECT_TRUE(fixture.engine().lastRun()) << "a backfill ran";
 }
 
@@ -81,14 +83,15 @@ TEST_F(CredentialsEditorTest, TestsAndTellsTheResult) {
 TEST_F(CredentialsEditorTest, RemovesTheKeyButNotTheFields) {
     fixture.secrets.setUnreadable("The keyring is locked.");
     editor.removeKey();
-    EXPECT_EQ(editor.status(), QStringLiteral("Could not remove from the Keychain: The keyring is locked."));
+    EXPECT_EQ(editor.status(),
+              QStringLiteral("Could not remove from your desktop's keyring: The keyring is locked."));
     EXPECT_TRUE(editor.statusIsError() && editor.hasKey() && editor.canRemove());
     fixture.secrets.setUnreadable({});
     editor.removeKey();
     EXPECT_FALSE(editor.canRemove());
     EXPECT_FALSE(editor.hasKey());
     EXPECT_EQ(editor.issuerID(), QStringLiteral("issuer"));
-    EXPECT_EQ(editor.status(), QStringLiteral("Credentials removed from the Keychain."));
+    EXPECT_EQ(editor.status(), QStringLiteral("Credentials removed from your desktop's keyring."));
     EXPECT_FALSE(fixture.engine().hasCredentials());
 }
 

@@ -561,10 +561,6 @@
         <translation>App Store Connect API</translation>
     </message>
     <message>
-        <source>Generate a team key under Users and Access → Integrations → App Store Connect API with the Finance role. An In-App Purchase key looks identical but is rejected by the reports endpoints. Your vendor number is on Payments and Financial Reports. Credentials are stored in the Keychain and sync through iCloud Keychain — never in the app&apos;s database.</source>
-        <translation>Erstellen Sie unter „Benutzer und Zugriff → Integrationen → App Store Connect API“ einen Teamschlüssel mit der Rolle „Finanzen“. Ein Schlüssel für In-App-Käufe sieht genauso aus, wird für Berichte aber abgelehnt. Die Anbieternummer steht unter „Zahlungen und Finanzberichte“. Zugangsdaten liegen im Schlüsselbund und werden über den iCloud-Schlüsselbund abgeglichen – nie in der Datenbank des Programms.</translation>
-    </message>
-    <message>
         <source>Updates</source>
         <translation>Updates</translation>
     </message>
@@ -573,8 +569,12 @@
         <translation>Datenschutz und Abgleich</translation>
     </message>
     <message>
-        <source>iCloud sync</source>
-        <translation>iCloud-Abgleich</translation>
+        <source>Generate a team key under Users and Access → Integrations → App Store Connect API with the Finance role. An In-App Purchase key looks identical but is rejected by the reports endpoints. Your vendor number is on Payments and Financial Reports. Credentials are stored in your desktop&apos;s keyring — never in the app&apos;s database.</source>
+        <translation>Erstellen Sie unter „Benutzer und Zugriff → Integrationen → App Store Connect API“ einen Teamschlüssel mit der Rolle „Finanzen“. Ein Schlüssel für In-App-Käufe sieht genauso aus, wird für Berichte aber abgelehnt. Die Anbieternummer steht unter „Zahlungen und Finanzberichte“. Zugangsdaten liegen im Schlüsselbund des Desktops – nie in der Datenbank des Programms.</translation>
+    </message>
+    <message>
+        <source>Sync between devices</source>
+        <translation>Abgleich zwischen Geräten</translation>
     </message>
 </context>
 <context>
@@ -919,24 +919,24 @@
         <translation>Die Schlüsseldatei konnte nicht gelesen werden: %1</translation>
     </message>
     <message>
-        <source>Key file read. It stays in the Keychain only — you can delete the download.</source>
-        <translation>Schlüsseldatei gelesen. Der Schlüssel bleibt allein im Schlüsselbund – die geladene Datei können Sie löschen.</translation>
+        <source>Key file read. “Save” puts it into your desktop&apos;s keyring and nowhere else; you can delete the download then.</source>
+        <translation>Schlüsseldatei gelesen. „Sichern“ legt sie im Schlüsselbund des Desktops ab und nirgends sonst; danach kann der Download gelöscht werden.</translation>
     </message>
     <message>
-        <source>Could not remove from the Keychain: %1</source>
-        <translation>Konnte nicht aus dem Schlüsselbund entfernt werden: %1</translation>
+        <source>Could not remove from your desktop&apos;s keyring: %1</source>
+        <translation>Konnte nicht aus dem Schlüsselbund des Desktops entfernt werden: %1</translation>
     </message>
     <message>
-        <source>Credentials removed from the Keychain.</source>
-        <translation>Zugangsdaten aus dem Schlüsselbund entfernt.</translation>
+        <source>Credentials removed from your desktop&apos;s keyring.</source>
+        <translation>Zugangsdaten aus dem Schlüsselbund des Desktops entfernt.</translation>
     </message>
     <message>
-        <source>Could not save to the Keychain: %1</source>
-        <translation>Konnte nicht im Schlüsselbund gesichert werden: %1</translation>
+        <source>Could not save to your desktop&apos;s keyring: %1</source>
+        <translation>Konnte nicht im Schlüsselbund des Desktops gesichert werden: %1</translation>
     </message>
     <message>
-        <source>Saved to the Keychain.</source>
-        <translation>Im Schlüsselbund gesichert.</translation>
+        <source>Saved to your desktop&apos;s keyring.</source>
+        <translation>Im Schlüsselbund des Desktops gesichert.</translation>
     </message>
 </context>
 <context>
@@ -1037,7 +1037,7 @@
     </message>
     <message>
         <source>The server could not be found. Check the connection to the internet.</source>
-        <translation>Der Server wurde nicht gefunden. Prüfe die Verbindung zum Internet.</translation>
+        <translation>Der Server wurde nicht gefunden. Prüfen Sie die Verbindung zum Internet.</translation>
     </message>
     <message>
         <source>The server refused the connection.</source>
@@ -1275,8 +1275,8 @@
         <translation>Nicht aktiv – Daten liegen nur auf diesem Gerät</translation>
     </message>
     <message>
-        <source>Your data never leaves your devices except to fetch your own reports from %1, daily exchange rates from %2, and — if you use iCloud — your own iCloud account. There is no server and no analytics.</source>
-        <translation>Ihre Daten verlassen Ihre Geräte nie, außer um Ihre eigenen Berichte von %1 und tägliche Wechselkurse von %2 abzurufen und – falls Sie iCloud nutzen – in Ihren eigenen iCloud-Account. Es gibt keinen Server und keine Auswertung.</translation>
+        <source>Your data never leaves this computer. Vantrell asks %1 for your own reports, %2 for daily exchange rates and %3 for the icons of your apps, whose pictures come from the addresses that it names. There is no server of ours and no analytics.</source>
+        <translation>Ihre Daten verlassen diesen Computer nie. Vantrell fragt %1 nach Ihren eigenen Berichten, %2 nach täglichen Wechselkursen und %3 nach den Symbolen Ihrer Apps, deren Bilder von den dort genannten Adressen kommen. Es gibt keinen eigenen Server und keine Auswertung.</translation>
     </message>
 </context>
 <context>
@@ -1399,8 +1399,8 @@
         <translation>Kopieren Sie **Schlüssel-ID** und **Issuer-ID** sowie Ihre **Anbieternummer** aus „Zahlungen und Finanzberichte“.</translation>
     </message>
     <message>
-        <source>The Keychain could not be read: %1</source>
-        <translation>Der Schlüsselbund konnte nicht gelesen werden: %1</translation>
+        <source>Your desktop&apos;s keyring could not be read: %1</source>
+        <translation>Der Schlüsselbund des Desktops konnte nicht gelesen werden: %1</translation>
     </message>
 </context>
 </TS>

@@ -20,8 +20,7 @@ FocusScope {
             footer: qsTr("Generate a team key under Users and Access → Integrations → App Store Connect "
                 + "API with the Finance role. An In-App Purchase key looks identical but is rejected by "
                 + "the reports endpoints. Your vendor number is on Payments and Financial Reports. "
-                + "Credentials are stored in the Keychain and sync through iCloud Keychain — never in the "
-                + "app's database.")
+                + "Credentials are stored in your desktop's keyring — never in the app's database.")
             CredentialsForm { model: screen.model.credentials }
         }
         DisplaySection {
@@ -52,7 +51,7 @@ FocusScope {
             width: parent.width
             heading: qsTr("Privacy & Sync")
             FormRow {
-                label: qsTr("iCloud sync")
+                label: qsTr("Sync between devices")
                 DataText {
                     Layout.maximumWidth: 420
                     text: screen.model.cloudStatus

@@ -51,7 +51,8 @@ QUrl CredentialsEditor::fileFolder() const {
 void CredentialsEditor::importKey(const QUrl& file) {
     auto read = keyFileText(file);
     if (const auto* error = std::get_if<FileReadError>(&read)) {
-        say(tr("Could not read the key file: %1").arg(shownText(error->description)), true);
+        say(tr("Could not read the key file: %1").arg(shownText(error->description, messageCharacters)),
+            true);
         return;
     }
     values_.privateKeyPEM = std::get<std::string>(std::move(read));
@@ -61,7 +62,9 @@ void CredentialsEditor::importKey(const QUrl& file) {
         values_.keyID = name.mid(prefix.size()).toStdString();
     }
     Q_EMIT valuesChanged();
-    say(tr("Key file read. It stays in the Keychain only — you can delete the download."), false);
+    say(tr("Key file read. “Save” puts it into your desktop's keyring and nowhere else; you can delete the "
+           "download then."),
+        false);
 }
 
 void CredentialsEditor::save() {
@@ -84,12 +87,14 @@ void CredentialsEditor::removeKey() {
     try {
         parts_.engine.account().remove();
     } catch (const CredentialsError& error) {
-        say(tr("Could not remove from the Keychain: %1").arg(shownText(error.what())), true);
+        say(tr("Could not remove from your desktop's keyring: %1")
+                .arg(shownText(error.what(), messageCharacters)),
+            true);
         return;
     }
     replace(values_, {values_.issuerID, values_.keyID, {}, values_.vendorNumber});
     Q_EMIT valuesChanged();
-    say(tr("Credentials removed from the Keychain."), false);
+    say(tr("Credentials removed from your desktop's keyring."), false);
 }
 
 QCoro::Task<> CredentialsEditor::runTest(Account& account, QPointer<CredentialsEditor> editor,
@@ -102,7 +107,7 @@ QCoro::Task<> CredentialsEditor::runTest(Account& account, QPointer<CredentialsE
 
 void CredentialsEditor::tested(const std::string& result, int appearance) {
     if (appearance == appearance_) {
-        testResult_ = shownText(result);
+        testResult_ = shownText(result, messageCharacters);
         isTesting_ = false;
         Q_EMIT outcomeChanged();
     }
@@ -120,10 +125,12 @@ bool CredentialsEditor::isSaved() {
     try {
         parts_.engine.account().save(values_);
     } catch (const CredentialsError& error) {
-        say(tr("Could not save to the Keychain: %1").arg(shownText(error.what())), true);
+        say(tr("Could not save to your desktop's keyring: %1")
+                .arg(shownText(error.what(), messageCharacters)),
+            true);
         return false;
     }
-    say(tr("Saved to the Keychain."), false);
+    say(tr("Saved to your desktop's keyring."), false);
     return true;
 }
 

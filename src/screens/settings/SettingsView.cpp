@@ -25,10 +25,13 @@ Tone::Value SettingsView::cloudTone() const {
 }
 
 QString SettingsView::privacyText() const {
-    return tr("Your data never leaves your devices except to fetch your own reports from %1, daily exchange "
-              "rates from %2, and — if you use iCloud — your own iCloud account. There is no server and no "
-              "analytics.")
-        .arg(hostName(parts().origins.reportService), hostName(parts().origins.rateService));
+    return tr("Your data never leaves this computer. Vantrell asks %1 for your own reports, %2 for daily "
+              "exchange "
+              "rates and %3 for the icons of your apps, whose pictures come from the addresses that it "
+              "names. "
+              "There is no server of ours and no analytics.")
+        .arg(hostName(parts().origins.reportService), hostName(parts().origins.rateService),
+             hostName(parts().origins.lookupService));
 }
 
 void SettingsView::refresh() {

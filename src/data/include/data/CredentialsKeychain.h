@@ -21,7 +21,7 @@ class CredentialsError : public std::runtime_error {
     int code_;
 };
 
-/// The wording of a failure, or "Keychain error " and the code where the service gave none.
+/// The wording of a failure, or "Keyring error " and the code where the service gave none.
 [[nodiscard]] std::string keychainErrorText(const SecretError& error);
 
 struct LoadedCredentials {
@@ -35,7 +35,7 @@ class CredentialsKeychain {
     explicit CredentialsKeychain(SecretStore& secrets) : secrets_(secrets) {}
 
     [[nodiscard]] LoadedCredentials load();
-    /// Replaces what is there; throws CredentialsError. If that happens the old item may be gone.
+    /// Replaces what is there; throws CredentialsError, and then the old item is still there.
     void store(const APICredentials& credentials);
     /// Throws CredentialsError; the item is still there then.
     void remove();
