@@ -33,10 +33,11 @@ class CSVText {
     std::string text_;
 };
 
+// A blank code is a word like any other.
 std::string withSpaces(const Fields& words) {
     std::string text;
-    for (const std::string& word : words) {
-        text += (text.empty() ? "" : " ") + word;
+    for (std::size_t index = 0; index < words.size(); ++index) {
+        text += (index == 0 ? "" : " ") + words[index];
     }
     return text;
 }

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -29,6 +30,7 @@ std::optional<std::string> envelopeDetail(std::string_view body) {
         return std::nullopt;
     }
     std::string joined;
+    bool isFirst = true;
     for (const QJsonValue entry : errors.toArray()) {
         const QJsonValue detail = entry[QLatin1String("detail")];
         const QJsonValue title = entry[QLatin1String("title")];
@@ -37,7 +39,7 @@ std::optional<std::string> envelopeDetail(std::string_view body) {
         }
         const QJsonValue& words = detail.isString() ? detail : title;
         if (words.isString()) {
-            joined += joined.empty() ? "" : " ";
+            joined += std::exchange(isFirst, false) ? "" : " ";
             joined += words.toString().toStdString();
         }
     }

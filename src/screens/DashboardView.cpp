@@ -22,7 +22,7 @@ DashboardView::DashboardView(const ScreenParts& parts, QObject* parent)
 }
 
 QString DashboardView::error() const {
-    return shownText(runText(engine().lastError()).toStdString());
+    return shownText(runText(engine().lastError()).toStdString(), messageCharacters);
 }
 
 EmptyState DashboardView::emptyState() const {

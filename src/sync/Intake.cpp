@@ -17,7 +17,7 @@ namespace vantrell {
 namespace {
 
 constexpr std::size_t keptLogEntries = 2000;
-constexpr std::size_t loggedCharacters = 500;
+constexpr std::size_t loggedCharacters = 1000;
 // A few milliseconds' work.
 constexpr std::size_t rowsAtOnce = 4'000;
 constexpr std::size_t rowsOfLongReport = 100'000;
@@ -154,8 +154,9 @@ class Intake::OneReport {
             intake_.log(request_.logKey(), "rate-limited", limited->message);
             return {false, RunFailure{RunFailure::Kind::rateLimited}};
         }
-        if (std::holds_alternative<response::Success>(answer) && report.status() == ReportStatus::ok &&
-            report.fetchedAt > started && report.fetchedAt <= parts_.clock.now()) {
+        if (parts_.othersWrite && std::holds_alternative<response::Success>(answer) &&
+            report.status() == ReportStatus::ok && report.fetchedAt > started &&
+            report.fetchedAt <= parts_.clock.now()) {
             intake_.log(request_.logKey(), "skipped", "A fresher copy synced in from another device.");
             return {};
         }

@@ -26,6 +26,7 @@ struct IntakeParts {
     std::string rateService;         ///< "https://host", no path
     std::stop_token end;             ///< ends what is waited for; nothing is changed any more then
     std::function<void()> onLogged;  ///< the sync log has changed
+    bool othersWrite = false;        ///< another device can have stored the same report meanwhile
 };
 
 /// What became of a request.

@@ -98,17 +98,17 @@ TEST(StoringAReport, KeepsAFresherCopyThatCameWhileTheRequestWasOut) {
     }
 }
 
-TEST(StoringAReport, CutsTheLoggedMessageAt500CharactersAndKeepsTheWholeInTheReport) {
+TEST(StoringAReport, CutsTheLoggedMessageAt1000CharactersAndKeepsTheWholeInTheReport) {
     EngineFixture fixture;
     std::string detail;
-    for (int count = 0; count < 600; ++count) {
+    for (int count = 0; count < 1100; ++count) {
         detail += "ä";
     }
     fixture.answers[std::string("DAILY ") + day] = EngineFixture::error(500, detail);
     fixture.run(fixture.engine().refetchDay(*dateFromDayKey(day)));
     const std::string prefix = "HTTP 500: ";
     EXPECT_EQ(fixture.context().syncLog().all().begin()->second.message.size(),
-              prefix.size() + 2 * (500 - prefix.size()));
+              prefix.size() + 2 * (1000 - prefix.size()));
     EXPECT_EQ(fixture.daily(day).message, prefix + detail);
 }
 

@@ -55,7 +55,9 @@ void EngineFixture::restart() {
 void EngineFixture::makeEngine() {
     engine_ = std::make_unique<SyncEngine>(
         SyncEngineParts{*context_, http, clock, worker, localTime, secrets, defaults},
-        SyncEngineSettings{"https://reports.test", "https://rates.test"});
+        SyncEngineSettings{.reportService = "https://reports.test",
+                           .rateService = "https://rates.test",
+                           .othersWrite = true});
 }
 
 std::string EngineFixture::shortForm(const HttpRequest& request) {

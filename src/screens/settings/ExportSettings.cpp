@@ -60,13 +60,15 @@ void ExportSettings::save(const QUrl& file) {
         say(tr("Only a file on this computer can be written."));
         return;
     }
-    writer_.start([this, path = QFile::encodeName(file.toLocalFile()).toStdString(),
-                   text = std::move(text_)] {
-        if (const auto problem = writeAtomically(path, text)) {
-            const auto tell = [this, words = shownText(*problem)] { say(tr("Not exported: %1").arg(words)); };
-            QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
-        }
-    });
+    writer_.start(
+        [this, path = QFile::encodeName(file.toLocalFile()).toStdString(), text = std::move(text_)] {
+            if (const auto problem = writeAtomically(path, text)) {
+                const auto tell = [this, words = shownText(*problem, messageCharacters)] {
+                    say(tr("Not exported: %1").arg(words));
+                };
+                QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+            }
+        });
 }
 
 void ExportSettings::say(const QString& problem) {

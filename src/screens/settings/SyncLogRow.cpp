@@ -6,9 +6,6 @@
 namespace vantrell {
 namespace {
 
-// As long as the engine writes them.
-constexpr int messageCharacters = 500;
-
 Tone::Value outcomeTone(const std::string& outcome) {
     return outcome == "ok" ? Tone::Good : outcome == "error" ? Tone::Bad : Tone::Secondary;
 }

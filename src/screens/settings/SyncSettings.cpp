@@ -18,7 +18,7 @@ SyncSettings::SyncSettings(const ScreenParts& parts, QObject* parent)
 
 QString SyncSettings::summary() const {
     const QString text = runText(parts_.engine.lastRun(), parts_.locale, parts_.localTime.zone());
-    return shownText(text.toStdString());
+    return shownText(text.toStdString(), messageCharacters);
 }
 
 void SyncSettings::fetchDay() {

@@ -14,7 +14,7 @@ class Words {
 };
 
 QString whyUnsaved(const StoreError& error) {
-    const QString words = shownText(error.description);
+    const QString words = shownText(error.description, messageCharacters);
     switch (error.kind) {
         case StoreFailure::diskFull:
             return Words::tr("Not stored: the disk is full.");

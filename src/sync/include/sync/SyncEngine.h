@@ -47,6 +47,7 @@ struct SyncEngineSettings {
     std::string reportService;
     std::string rateService;
     std::chrono::microseconds pause = std::chrono::milliseconds(150);
+    bool othersWrite = false;  ///< another device can write into the store
 };
 
 /// The one object that changes the stored reports. It carries runs out, one request after another, and says
