@@ -62,6 +62,8 @@ void takeStatuses(Snapshot& snapshot, const ModelContext& context) {
             case ReportFrequency::monthly:
                 if (report.isWhole()) {
                     snapshot.monthlyOKLabels.push_back(report.reportDate);
+                } else if (report.status() == ReportStatus::empty) {
+                    snapshot.emptyMonths.push_back(report.reportDate);
                 }
                 break;
             case ReportFrequency::yearly:
@@ -83,6 +85,7 @@ void takeStatuses(Snapshot& snapshot, const ModelContext& context) {
     }
     std::ranges::sort(snapshot.yearlyOKLabels);
     std::ranges::sort(snapshot.monthlyOKLabels);
+    std::ranges::sort(snapshot.emptyMonths);
     std::ranges::sort(snapshot.unavailableYears);
     std::ranges::sort(snapshot.financeOKLabels);
 }

@@ -1,10 +1,14 @@
 #include "screens/DashboardView.h"
 
+#include "figures/Coverage.h"
 #include "figures/Days.h"
 #include "screens/HeadlineFigures.h"
 #include "screens/components/ShownText.h"
 #include "screens/components/StatTile.h"
+#include "screens/words/CoverageWords.h"
 #include "screens/words/RunWords.h"
+
+#include <algorithm>
 
 namespace vantrell {
 
@@ -55,6 +59,9 @@ void DashboardView::refresh() {
     }
     tiles_.show(tiles);
     const ReportCalendar& calendar = store().calendar();
+    const std::string from = std::min(calendar.dayKey(30), calendar.currentYearLabel() + "-01-01");
+    lacking_ = lackingDaysText(locale(), dayCounts(*snapshot(), from, calendar.dayKey(1)));
+    Q_EMIT lackingChanged();
     chart_.show(dayPoints(snapshot(), store().converter(), calendar.dayKey(30), calendar.dayKey(1),
                           store().appFilter()));
 }

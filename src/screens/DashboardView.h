@@ -20,6 +20,7 @@ class DashboardView : public vantrell::Screen {
     Q_PROPERTY(vantrell::EmptyState emptyState READ emptyState NOTIFY isEmptyChanged)
     Q_PROPERTY(bool canFetch READ canFetch NOTIFY canFetchChanged)
     Q_PROPERTY(vantrell::RowList* tiles READ tiles CONSTANT)
+    Q_PROPERTY(QString lacking READ lacking NOTIFY lackingChanged)
     Q_PROPERTY(vantrell::DailyProceedsChart* chart READ chart CONSTANT)
     Q_PROPERTY(vantrell::DaySheet* selectedDay READ selectedDay CONSTANT)
 
@@ -40,12 +41,18 @@ class DashboardView : public vantrell::Screen {
     [[nodiscard]] DailyProceedsChart* chart() { return &chart_; }
     [[nodiscard]] DaySheet* selectedDay() { return &selectedDay_; }
 
+    /// Which days that count in the figures aren't known, though they could be; empty if none.
+    [[nodiscard]] QString lacking() const { return lacking_; }
+
     Q_INVOKABLE void fetch();
+    Q_INVOKABLE void openLog() { Q_EMIT logWanted(); }
 
   Q_SIGNALS:
     void errorChanged();
     void isEmptyChanged();
     void canFetchChanged();
+    void lackingChanged();
+    void logWanted();
 
   private:
     void refresh() override;
@@ -55,6 +62,7 @@ class DashboardView : public vantrell::Screen {
     DaySheet selectedDay_;
     RowList tiles_;
     DailyProceedsChart chart_;
+    QString lacking_;
     bool isEmpty_ = false;
 };
 

@@ -1,8 +1,10 @@
 #include "screens/HeadlineFigures.h"
 
 #include "calendar/DayKey.h"
+#include "figures/Coverage.h"
 #include "figures/SalesSelection.h"
 #include "screens/components/ShownText.h"
+#include "screens/words/CoverageWords.h"
 #include "screens/words/DayText.h"
 
 #include <algorithm>
@@ -62,6 +64,13 @@ SalesSelection rowsUntilYesterday(const EarningsStore& store, const std::string&
     return dailyRows(store.snapshot(), from, store.calendar().dayKey(1), apps);
 }
 
+/// The days from `from` to yesterday, and how many of them are known where not all are.
+void addRange(FigureList& figures, const QString& title, const EarningsStore& store, const Locale& locale,
+              const std::string& from, const AppFilter& apps) {
+    const DayCounts known = dayCounts(*store.snapshot(), from, store.calendar().dayKey(1));
+    figures.add(title, knownDaysText(locale, known), rowsUntilYesterday(store, from, apps));
+}
+
 void addNewestDay(FigureList& figures, const QString& title, const EarningsStore& store, const Locale& locale,
                   const AppFilter& apps) {
     if (const auto day = mostRecentOkDay(store)) {
@@ -70,11 +79,12 @@ void addNewestDay(FigureList& figures, const QString& title, const EarningsStore
     }
 }
 
-void addMonthAndYear(FigureList& figures, const EarningsStore& store, const AppFilter& apps) {
+void addMonthAndYear(FigureList& figures, const EarningsStore& store, const Locale& locale,
+                     const AppFilter& apps) {
     const ReportCalendar& calendar = store.calendar();
-    figures.add(HeadlineWords::tr("Last 30 days"), {}, rowsUntilYesterday(store, calendar.dayKey(30), apps));
-    figures.add(HeadlineWords::tr("Year to date"), {},
-                rowsUntilYesterday(store, calendar.currentYearLabel() + "-01-01", apps));
+    addRange(figures, HeadlineWords::tr("Last 30 days"), store, locale, calendar.dayKey(30), apps);
+    addRange(figures, HeadlineWords::tr("Year to date"), store, locale,
+             calendar.currentYearLabel() + "-01-01", apps);
 }
 
 }  // namespace
@@ -83,9 +93,8 @@ std::vector<HeadlineFigure> headlineFigures(const EarningsStore& store, const Lo
     const AppFilter& apps = store.appFilter();
     FigureList figures;
     addNewestDay(figures, HeadlineWords::tr("Most recent day with data"), store, locale, apps);
-    figures.add(HeadlineWords::tr("Last 7 days"), {},
-                rowsUntilYesterday(store, store.calendar().dayKey(7), apps));
-    addMonthAndYear(figures, store, apps);
+    addRange(figures, HeadlineWords::tr("Last 7 days"), store, locale, store.calendar().dayKey(7), apps);
+    addMonthAndYear(figures, store, locale, apps);
     figures.add(HeadlineWords::tr("All time"), sinceText(store), allTimeRows(store.snapshot(), apps));
     return figures.take();
 }
@@ -95,7 +104,7 @@ std::vector<HeadlineFigure> appHeadlineFigures(const EarningsStore& store, const
     const AppFilter apps{std::set{app}};
     FigureList figures;
     addNewestDay(figures, HeadlineWords::tr("Newest day"), store, locale, apps);
-    addMonthAndYear(figures, store, apps);
+    addMonthAndYear(figures, store, locale, apps);
     figures.add(HeadlineWords::tr("All time"), {}, allTimeRows(store.snapshot(), apps));
     return figures.take();
 }

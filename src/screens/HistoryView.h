@@ -15,11 +15,24 @@ class HistoryView : public vantrell::Screen {
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")
     Q_PROPERTY(vantrell::BlockList* rows READ rows CONSTANT)
+    Q_PROPERTY(QString coverage READ coverage NOTIFY coverageChanged)
+    Q_PROPERTY(bool isWhole READ isWhole NOTIFY coverageChanged)
+    Q_PROPERTY(bool canFetch READ canFetch NOTIFY canFetchChanged)
 
   public:
     explicit HistoryView(const ScreenParts& parts, QObject* parent = nullptr);
 
     [[nodiscard]] BlockList* rows() { return &rows_; }
+    /// How much of what the service keeps is stored, whichever apps are chosen.
+    [[nodiscard]] QString coverage() const { return coverage_; }
+    [[nodiscard]] bool isWhole() const { return isWhole_; }
+    [[nodiscard]] bool canFetch() const;
+
+    Q_INVOKABLE void fetchMissing();
+
+  Q_SIGNALS:
+    void coverageChanged();
+    void canFetchChanged();
 
   private:
     void refresh() override;
@@ -29,6 +42,8 @@ class HistoryView : public vantrell::Screen {
     std::vector<PeriodStat> months_;
     std::vector<ProductStat> products_;
     BlockList rows_;
+    QString coverage_;
+    bool isWhole_ = true;
 };
 
 }  // namespace vantrell

@@ -38,6 +38,10 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
     connect(this, &RootView::selectionChanged, this, &RootView::shownScreenChanged);
     connect(this, &RootView::shownScreenChanged, this, &RootView::screenTitleChanged);
     connect(&apps_, &AppsView::opened, this, &RootView::openApp);
+    connect(&dashboard_, &DashboardView::logWanted, this, [this] {
+        select(Destination::settings);
+        settings_.openLog();
+    });
     connect(&settings_, &SettingsView::isLogShownChanged, this, &RootView::screenTitleChanged);
     connect(&parts.engine, &SyncEngine::isSyncingChanged, this, &RootView::footerChanged);
     connect(&parts.engine, &SyncEngine::progressChanged, this, &RootView::footerChanged);

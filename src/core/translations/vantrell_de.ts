@@ -114,6 +114,51 @@
     </message>
 </context>
 <context>
+    <name>CoverageWords</name>
+    <message numerus="yes">
+        <source>%1 of %2 days</source>
+        <translation>
+            <numerusform>%1 von %2 Tag</numerusform>
+            <numerusform>%1 von %2 Tagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 months</source>
+        <translation>
+            <numerusform>%1 von %2 Monat</numerusform>
+            <numerusform>%1 von %2 Monaten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 years</source>
+        <translation>
+            <numerusform>%1 Jahr</numerusform>
+            <numerusform>%1 Jahre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 payout periods</source>
+        <translation>
+            <numerusform>%1 Auszahlungszeitraum</numerusform>
+            <numerusform>%1 Auszahlungszeiträume</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days failed</source>
+        <translation>
+            <numerusform>%1 Tag fehlgeschlagen</numerusform>
+            <numerusform>%1 Tage fehlgeschlagen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days not fetched</source>
+        <translation>
+            <numerusform>%1 Tag nicht abgerufen</numerusform>
+            <numerusform>%1 Tage nicht abgerufen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>CredentialsForm</name>
     <message>
         <source>Issuer ID</source>
@@ -196,6 +241,14 @@
     <message>
         <source>Fetch Reports</source>
         <translation>Berichte abrufen</translation>
+    </message>
+    <message>
+        <source>%1 ·</source>
+        <translation>%1 ·</translation>
+    </message>
+    <message>
+        <source>Sync Log</source>
+        <translation>Abgleichprotokoll</translation>
     </message>
 </context>
 <context>
@@ -347,6 +400,10 @@
     <message>
         <source>History</source>
         <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Fetch What Is Missing</source>
+        <translation>Fehlendes abrufen</translation>
     </message>
 </context>
 <context>

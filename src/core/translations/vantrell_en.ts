@@ -2,6 +2,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>CoverageWords</name>
+    <message numerus="yes">
+        <source>%1 of %2 days</source>
+        <translation>
+            <numerusform>%1 of %2 day</numerusform>
+            <numerusform>%1 of %2 days</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 months</source>
+        <translation>
+            <numerusform>%1 of %2 month</numerusform>
+            <numerusform>%1 of %2 months</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 years</source>
+        <translation>
+            <numerusform>%1 year</numerusform>
+            <numerusform>%1 years</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 payout periods</source>
+        <translation>
+            <numerusform>%1 payout period</numerusform>
+            <numerusform>%1 payout periods</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days failed</source>
+        <translation>
+            <numerusform>%1 day failed</numerusform>
+            <numerusform>%1 days failed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 days not fetched</source>
+        <translation>
+            <numerusform>%1 day not fetched</numerusform>
+            <numerusform>%1 days not fetched</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PayoutRow</name>
     <message numerus="yes">
         <source>%1 units</source>

@@ -36,6 +36,20 @@ ScreenScroll {
         width: parent.width
         tiles: screen.model.tiles
     }
+    Row {
+        visible: !screen.model.isEmpty && screen.model.lacking !== ""
+        spacing: 6
+        PlainText {
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("%1 ·").arg(screen.model.lacking)
+            font.pixelSize: Theme.callout
+            color: Theme.secondary
+        }
+        TextLink {
+            text: qsTr("Sync Log")
+            onClicked: screen.model.openLog()
+        }
+    }
     Card {
         visible: !screen.model.isEmpty
         width: parent.width

@@ -9,4 +9,22 @@ BlockView {
     rows: screen.history.rows
     Accessible.name: qsTr("History")
     delegate: BlockDelegates {}
+    header: Column {
+        width: screen.rowWidth
+        topPadding: 20
+        spacing: 10
+        PlainText {
+            width: parent.width
+            wrapMode: Text.Wrap
+            text: screen.history.coverage
+            font.pixelSize: Theme.callout
+            color: Theme.secondary
+        }
+        PushButton {
+            visible: !screen.history.isWhole
+            text: qsTr("Fetch What Is Missing")
+            enabled: screen.history.canFetch
+            onClicked: screen.history.fetchMissing()
+        }
+    }
 }

@@ -26,6 +26,7 @@ struct Snapshot {
     // Labels in ascending order.
     std::vector<std::string> yearlyOKLabels;  ///< of years whose report covers them
     std::vector<std::string> monthlyOKLabels;
+    std::vector<std::string> emptyMonths;  ///< without sales, as their reports say
     std::vector<std::string> unavailableYears;
     std::vector<std::string> financeOKLabels;
 

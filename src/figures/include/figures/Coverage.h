@@ -1,0 +1,34 @@
+#pragma once
+
+#include "calendar/ReportCalendar.h"
+#include "figures/Snapshot.h"
+
+#include <string>
+
+namespace vantrell {
+
+/// How many days of a stretch are known: their report is there, or there were no sales.
+struct DayCounts {
+    int days = 0;
+    int known = 0;
+    int failed = 0;
+    int missing = 0;  ///< never asked for
+    bool operator==(const DayCounts&) const = default;
+};
+
+/// Of the days from `from` to `to`, both day keys included.
+[[nodiscard]] DayCounts dayCounts(const Snapshot& snapshot, const std::string& from, const std::string& to);
+
+/// How much of what the service keeps is stored.
+struct Coverage {
+    DayCounts days;       ///< of the last year
+    int knownMonths = 0;  ///< of the last `monthsOfBackfill`
+    int years = 0;        ///< with a report that covers them
+    int payoutPeriods = 0;
+    [[nodiscard]] bool isWhole() const;
+    bool operator==(const Coverage&) const = default;
+};
+
+[[nodiscard]] Coverage coverage(const Snapshot& snapshot, const ReportCalendar& calendar);
+
+}  // namespace vantrell
