@@ -20,7 +20,7 @@ DayCounts dayCounts(const Snapshot& snapshot, const std::string& from, const std
 }
 
 bool Coverage::isWhole() const {
-    return days.known == days.days && knownMonths == monthsOfBackfill;
+    return days.failed == 0 && days.missing == 0 && knownMonths == monthsOfBackfill;
 }
 
 Coverage coverage(const Snapshot& snapshot, const ReportCalendar& calendar) {

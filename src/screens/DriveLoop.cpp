@@ -4,10 +4,11 @@ namespace vantrell {
 namespace {
 
 constexpr auto roundInterval = std::chrono::seconds(900);
+constexpr auto keyPatience = std::chrono::seconds(30);
 
 }  // namespace
 
-DriveLoop::DriveLoop(const Parts& parts) : parts_(parts) {
+DriveLoop::DriveLoop(const Parts& parts) : parts_(parts), keyRead_(parts.clock.monotonic()) {
     // The only way in which fetched data reaches the screens during a run.
     connect(&parts_.engine, &SyncEngine::revisionChanged, this,
             [this] { parts_.tasks.spawn(reloadNext(parts_, life_.token())); });
@@ -20,6 +21,12 @@ void DriveLoop::start() {
 }
 
 void DriveLoop::becameActive() {
+    // A keyring may ask for its password, and the window is active again when that was refused.
+    const auto now = parts_.clock.monotonic();
+    if (now - keyRead_ >= keyPatience) {
+        parts_.engine.account().readAgain();
+        keyRead_ = parts_.clock.monotonic();
+    }
     parts_.tasks.spawn(goRound(parts_, life_.token()));
 }
 

@@ -6,6 +6,8 @@
 #include "figures/EarningsStore.h"
 #include "sync/SyncEngine.h"
 
+#include <chrono>
+
 #include <QObject>
 #include <qcoro/qcorotask.h>
 
@@ -45,6 +47,7 @@ class DriveLoop : public QObject {
     [[nodiscard]] static QCoro::Task<> repeat(Parts parts, std::stop_token cancel);
 
     Parts parts_;
+    std::chrono::microseconds keyRead_;  ///< when the keyring was last asked, by the monotonic clock
     Lifetime life_;
 };
 

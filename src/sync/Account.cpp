@@ -34,6 +34,16 @@ void Account::take(LoadedCredentials loaded) {
     }
 }
 
+void Account::readAgain() {
+    if (!problem_ || hasCredentials_) {
+        return;
+    }
+    take(keychain_.load());
+    if (!problem_) {
+        Q_EMIT problemChanged();
+    }
+}
+
 void Account::save(const APICredentials& credentials) {
     keychain_.store(credentials);
     client_.setCredentials(credentials);

@@ -1,6 +1,7 @@
 #include "sync/SyncEngine.h"
 
 #include "Intake.h"
+#include "LastRun.h"
 #include "RunPlan.h"
 #include "RunTally.h"
 #include "calendar/ReportSchedule.h"
@@ -30,7 +31,9 @@ SyncEngine::SyncEngine(const SyncEngineParts& parts, const SyncEngineSettings& s
       account_(parts.secrets, client_, calendar_, parts.worker, life_.token()),
       intake_(std::make_unique<Intake>(
           IntakeParts{parts.context, parts.http, parts.clock, parts.worker, client_, settings.rateService,
-                      life_.token(), [this] { Q_EMIT syncLogChanged(); }, settings.othersWrite})) {}
+                      life_.token(), [this] { Q_EMIT syncLogChanged(); }, settings.othersWrite})) {
+    lastRun_ = keptLastRun(defaults_, clock_.now());
+}
 
 SyncEngine::~SyncEngine() {
     close();
@@ -173,7 +176,9 @@ void SyncEngine::finish(RunKind kind) {
     if (!lastError_.value()) {
         lastError_ = tally_->nothingStored();
     }
-    lastRun_ = FinishedRun{kind, clock_.now(), tally_->failed(), tally_->firstProblem()};
+    const FinishedRun run{kind, clock_.now(), tally_->failed(), tally_->firstProblem()};
+    keepLastRun(run, defaults_);
+    lastRun_ = run;
     isSyncing_ = false;
 }
 

@@ -82,5 +82,18 @@ TEST(Run, LetsTheWindowMoveWhileItKeepsALongReport) {
     }
 }
 
+TEST(Run, IsStillToldAfterARestart) {
+    EngineFixture fixture;
+    fixture.otherwise = EngineFixture::error(500, "Try later.");
+    fixture.run(fixture.engine().refetchFinance("2026-01"));
+    const auto told = fixture.engine().lastRun();
+    EXPECT_EQ(told->failed, 1);
+    fixture.restart();
+    EXPECT_EQ(fixture.engine().lastRun(), told);
+    fixture.clock.setNow(told->at - std::chrono::seconds(1));
+    fixture.restart();
+    EXPECT_EQ(fixture.engine().lastRun(), std::nullopt) << "what lies ahead counts as absent";
+}
+
 }  // namespace
 }  // namespace vantrell

@@ -25,6 +25,7 @@ struct Coverage {
     int knownMonths = 0;  ///< of the last `monthsOfBackfill`
     int years = 0;        ///< with a report that covers them
     int payoutPeriods = 0;
+    /// There is nothing more to fetch but what isn't published yet.
     [[nodiscard]] bool isWhole() const;
     bool operator==(const Coverage&) const = default;
 };

@@ -42,6 +42,8 @@ class Account : public QObject {
     /// What requests are signed with; four empty texts without a key.
     [[nodiscard]] const APICredentials& credentials() const { return client_.credentials(); }
 
+    /// Reads once more what could not be read. Blocks for a bounded time.
+    void readAgain();
     /// Throws CredentialsError, and then changes nothing here, if the secret service refuses.
     void save(const APICredentials& credentials);
     /// Forgets the key; stored reports stay. Throws CredentialsError, and then forgets nothing, if the secret
