@@ -1,11 +1,11 @@
 #pragma once
 
-#include "screens/AboutView.h"
 #include "screens/Screen.h"
+#include "screens/about/AboutView.h"
+#include "screens/log/SyncLogView.h"
 #include "screens/settings/CredentialsEditor.h"
 #include "screens/settings/DisplaySettings.h"
 #include "screens/settings/ExportSettings.h"
-#include "screens/settings/SyncLogView.h"
 #include "screens/settings/SyncSettings.h"
 
 #include <QTimer>
