@@ -88,20 +88,31 @@ std::optional<TimeZone> TimeZone::named(std::string_view id) {
                  : std::nullopt;
 }
 
+/// Universal time for what is no such file; a pipe would be waited for.
+TimeZone TimeZone::ofFile(const std::string& path) {
+    std::error_code failed;
+    QTimeZone rules = QTimeZone::utc();
+    if (std::filesystem::is_regular_file(path, failed)) {
+        if (auto zone = named(nameIn(std::filesystem::canonical(path, failed).string()))) {
+            return *zone;
+        }
+        rules = byRules(rulesIn(path)).value_or(rules);
+    }
+    return TimeZone(std::make_shared<const Zone>(Zone{rules}));
+}
+
 TimeZone TimeZone::ofHost() {
     QTimeZone rules = QTimeZone::utc();
     if (const auto setting = variable("TZ")) {
         if (auto zone = named(nameIn(*setting))) {
             return *zone;
         }
-        std::error_code failed;
-        const std::filesystem::path file =
-            std::filesystem::canonical(setting->substr(setting->starts_with(':') ? 1 : 0), failed);
-        if (auto zone = failed ? std::nullopt : named(nameIn(file.string()))) {
-            return *zone;
+        const std::string path = setting->substr(setting->starts_with(':') ? 1 : 0);
+        if (path.starts_with('/')) {
+            return ofFile(path);
         }
         tzset();
-        rules = byRules(failed ? *setting : rulesIn(file)).value_or(QTimeZone(static_cast<int>(-timezone)));
+        rules = byRules(*setting).value_or(QTimeZone(static_cast<int>(-timezone)));
     } else if (const auto own = QTimeZone::systemTimeZone(); own.isValid()) {
         rules = own;
     }

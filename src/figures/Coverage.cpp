@@ -12,7 +12,7 @@ DayCounts dayCounts(const Snapshot& snapshot, const std::string& from, const std
     for (const KeyedDay& day : days(from, to)) {
         const ReportStatus status = snapshot.dailyStatus(day.key);
         ++counts.days;
-        counts.known += status == ReportStatus::ok || status == ReportStatus::empty ? 1 : 0;
+        counts.known += isKnown(status) ? 1 : 0;
         counts.failed += status == ReportStatus::error ? 1 : 0;
         counts.missing += status == ReportStatus::missing ? 1 : 0;
     }
@@ -29,10 +29,10 @@ Coverage coverage(const Snapshot& snapshot, const ReportCalendar& calendar) {
                       .payoutPeriods = static_cast<int>(snapshot.financeOKLabels.size())};
     for (int monthsAgo = 1; monthsAgo <= monthsOfBackfill; ++monthsAgo) {
         const std::string month = calendar.monthKey(monthsAgo);
-        const auto isKnown = [&month](const std::vector<std::string>& labels) {
+        const auto isAmong = [&month](const std::vector<std::string>& labels) {
             return std::ranges::binary_search(labels, month);
         };
-        coverage.knownMonths += isKnown(snapshot.monthlyOKLabels) || isKnown(snapshot.emptyMonths) ? 1 : 0;
+        coverage.knownMonths += isAmong(snapshot.monthlyOKLabels) || isAmong(snapshot.emptyMonths) ? 1 : 0;
     }
     return coverage;
 }

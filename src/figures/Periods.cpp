@@ -2,6 +2,7 @@
 
 #include "StatsAccumulator.h"
 #include "calendar/DayKey.h"
+#include "figures/Coverage.h"
 #include "figures/SalesSelection.h"
 
 #include <algorithm>
@@ -19,18 +20,13 @@ PeriodStat finishedMonth(const SharedSnapshot& snapshot, const std::string& mont
                 reportRows(snapshot, ReportFrequency::monthly, month, apps).aggregate()};
     }
     const CivilDate first = dateFromDayKey(month + "-01").value();
-    const auto all = days(dayKey(first), dayKey(first.year() / first.month() / std::chrono::last));
-    const auto isKnown = [&snapshot](const KeyedDay& day) {
-        const ReportStatus status = snapshot->dailyStatus(day.key);
-        return status == ReportStatus::ok || status == ReportStatus::empty;
-    };
-    PeriodStat stat{month, PeriodSource::dailyReports,
-                    dailyRows(snapshot, all.front().key, all.back().key, apps).aggregate()};
-    const auto known = std::ranges::count_if(all, isKnown);
-    if (known < std::ssize(all)) {
+    const std::string from = dayKey(first);
+    const std::string to = dayKey(first.year() / first.month() / std::chrono::last);
+    PeriodStat stat{month, PeriodSource::dailyReports, dailyRows(snapshot, from, to, apps).aggregate()};
+    if (const DayCounts counts = dayCounts(*snapshot, from, to); counts.known < counts.days) {
         stat.source = PeriodSource::someDailyReports;
-        stat.days = static_cast<int>(all.size());
-        stat.fetchedDays = static_cast<int>(known);
+        stat.days = counts.days;
+        stat.fetchedDays = counts.known;
     }
     return stat;
 }

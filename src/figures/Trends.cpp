@@ -64,9 +64,7 @@ using CellsByStart = std::map<CivilDate, Cells>;
 
 /// How many of a bucket's days need no further request.
 int fetchedDays(const std::vector<ReportStatus>& statuses) {
-    return static_cast<int>(std::ranges::count_if(statuses, [](ReportStatus status) {
-        return status == ReportStatus::ok || status == ReportStatus::empty;
-    }));
+    return static_cast<int>(std::ranges::count_if(statuses, isKnown));
 }
 
 std::optional<CivilDate> bucketOf(const TrendBuckets& buckets, std::string_view day) {

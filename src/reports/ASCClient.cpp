@@ -75,7 +75,7 @@ QCoro::Task<ReportResponse> ASCClient::fetchSales(ReportFrequency frequency, std
     }
     const std::string latest = refused->latest;
     ReportResponse second = co_await send(path, salesQuery(frequency, reportDate, latest), cancel);
-    if (!cancel.stop_requested() && !std::holds_alternative<response::WrongVersion>(second)) {
+    if (!std::holds_alternative<response::WrongVersion>(second)) {
         versions_[frequency] = latest;
     }
     co_return second;

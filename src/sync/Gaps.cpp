@@ -101,12 +101,9 @@ class OpenReports {
     const CivilDate today_ = basis_.calendar.today();
 };
 
-RunStep gap(const SalesReportRequest& request, RunProgress progress) {
+template <typename Request>
+RunStep gap(const Request& request, RunProgress progress) {
     return {request, true, std::move(progress), true};
-}
-
-double shareOf(std::size_t index, std::size_t count) {
-    return static_cast<double>(index + 1) / static_cast<double>(count);
 }
 
 }  // namespace
@@ -116,7 +113,7 @@ RunSteps gapSteps(RunBasis basis, std::set<std::string> asked) {
     using Part = RunProgress::Part;
     const auto days = OpenReports(basis, asked).days();
     for (std::size_t index = 0; index < days.size(); ++index) {
-        RunStep step = gap(days[index], {Part::days, days[index].reportDate, shareOf(index, days.size())});
+        RunStep step = gap(days[index], {Part::days, days[index].reportDate, share(index + 1, days.size())});
         co_yield step;
     }
     for (int year = basis.calendar.currentYear() - 1; year >= earliestBackfillYear; --year) {
@@ -131,14 +128,13 @@ RunSteps gapSteps(RunBasis basis, std::set<std::string> asked) {
     }
     const auto months = OpenReports(basis, asked).months();
     for (std::size_t index = 0; index < months.size(); ++index) {
-        RunStep step = gap(months[index], {Part::months, {}, shareOf(index, months.size())});
+        RunStep step = gap(months[index], {Part::months, {}, share(index + 1, months.size())});
         co_yield step;
     }
     const auto periods = OpenReports(basis, asked).fiscalPeriods();
     for (std::size_t index = 0; index < periods.size(); ++index) {
         const std::string& period = periods[index].fiscalPeriod;
-        RunStep step{periods[index], true, RunProgress{Part::finance, period, shareOf(index, periods.size())},
-                     true};
+        RunStep step = gap(periods[index], {Part::finance, period, share(index + 1, periods.size())});
         co_yield step;
     }
 }

@@ -29,10 +29,6 @@ RunStep yearUnlessFinal(const RunBasis& basis, const SalesReportRequest& request
     return {request, isRunning || !isFinal(storedStatus(basis, request)), std::move(progress)};
 }
 
-double share(std::size_t done, std::size_t all) {
-    return static_cast<double>(done) / static_cast<double>(all);
-}
-
 // Steps have a name before they are handed out, since GCC 12 frees what it is handed in braces wrongly.
 
 RunSteps recentDays(RunBasis basis) {

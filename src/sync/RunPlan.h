@@ -61,6 +61,11 @@ template <typename Request>
     return found ? found->record.status() : ReportStatus::missing;
 }
 
+/// How far a part of a run is.
+[[nodiscard]] inline double share(std::size_t done, std::size_t all) {
+    return static_cast<double>(done) / static_cast<double>(all);
+}
+
 /// Whether the stored exchange rates are missing or older than a day.
 [[nodiscard]] bool areRatesDue(const RunBasis& basis);
 

@@ -105,7 +105,7 @@ bool SyncEngine::hasAnsweredDailyReport() const {
     return std::ranges::any_of(context_.salesReports().all(), [](const auto& entry) {
         const SalesReport& report = entry.second;
         return report.frequencyRaw == rawText(ReportFrequency::daily) &&
-               (isFinal(report.status()) || report.status() == ReportStatus::empty || report.rowCount > 0);
+               (isKnown(report.status()) || isFinal(report.status()) || report.rowCount > 0);
     });
 }
 

@@ -1,8 +1,11 @@
 #include "base/LocalTime.h"
 #include "testing/Cases.h"
+#include "testing/TemporaryFolder.h"
 
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
+#include <sys/stat.h>
 
 namespace vantrell {
 namespace {
@@ -38,6 +41,15 @@ TEST(LocalTime, TheHostZoneFollowsTheVariableWhileTheProgramRuns) {
         ::setenv("TZ", setting.c_str(), 1);
         return testing::textOf(host.zone().noonOf(2026y / 7 / 1));
     });
+    // A file that isn't the database's own tells its rules but not its name.
+    const testing::TemporaryFolder folder;
+    const auto file = folder / "here";
+    std::filesystem::copy_file("/usr/share/zoneinfo/Europe/Berlin", file);
+    ::setenv("TZ", (":" + file.string()).c_str(), 1);
+    EXPECT_EQ(testing::textOf(host.zone().noonOf(2026y / 7 / 1)), "2026-07-01T10:00:00Z");
+    ::mkfifo((folder / "pipe").c_str(), S_IRUSR | S_IWUSR);
+    ::setenv("TZ", (folder / "pipe").c_str(), 1);
+    EXPECT_EQ(testing::textOf(host.zone().noonOf(2026y / 7 / 1)), "2026-07-01T12:00:00Z");
     ::setenv("TZ", before.c_str(), 1);
 }
 

@@ -88,6 +88,30 @@ TEST_F(DriveLoopTest, LetsTheWindowMoveWhileItReadsMuch) {
     EXPECT_EQ(runsBegun(), 1U);
 }
 
+TEST_F(DriveLoopTest, AsksForOldRatesBeforeItsFirstRunAlone) {
+    loop->start();
+    fixture.clock.advance(std::chrono::microseconds::zero());
+    EXPECT_EQ(fixture.takeRequests(), (std::vector<std::string>{"rates", "DAILY 2026-11-20"}));
+    fixture.clock.advance(std::chrono::hours(30));
+    const auto requests = fixture.takeRequests();
+    EXPECT_EQ(std::ranges::count(requests, "rates"), 1) << "in their place once they are a day old";
+    EXPECT_NE(requests.front(), "rates");
+}
+
+TEST_F(DriveLoopTest, TriesAKeyringThatCouldNotBeReadAgainNowAndThen) {
+    fixture.secrets.setUnreadable("locked");
+    loop.reset();
+    fixture.restart();
+    loop = std::make_unique<DriveLoop>(
+        DriveLoop::Parts{fixture.engine(), store, fixture.context(), fixture.clock, fixture.tasks()});
+    fixture.secrets.setUnreadable(std::nullopt);
+    loop->becameActive();
+    EXPECT_FALSE(fixture.engine().hasCredentials()) << "it was only just asked";
+    fixture.clock.advance(std::chrono::seconds(30));
+    loop->becameActive();
+    EXPECT_TRUE(fixture.engine().hasCredentials());
+}
+
 TEST_F(DriveLoopTest, EndsItsWaitWithTheWindow) {
     loop->start();
     fixture.clock.advance(std::chrono::seconds(120));

@@ -71,9 +71,12 @@ TEST(StoringAReport, KeepsAFresherCopyThatCameWhileTheRequestWasOut) {
         std::chrono::seconds after;
         std::chrono::seconds passed;
         const char* outcome;
+        bool othersWrite = true;
     };
     const std::vector<Fresher> cases = {
         {"ok and later", ReportStatus::ok, std::chrono::seconds(1), std::chrono::seconds(1), "skipped"},
+        {"where nobody else writes", ReportStatus::ok, std::chrono::seconds(1), std::chrono::seconds(1), "ok",
+         false},
         {"later but not ok", ReportStatus::error, std::chrono::seconds(1), std::chrono::seconds(1), "ok"},
         {"ok but not later", ReportStatus::ok, std::chrono::seconds(0), std::chrono::seconds(0), "ok"},
         {"from a clock that ran ahead", ReportStatus::ok, std::chrono::hours(1), std::chrono::seconds(1),
@@ -81,6 +84,7 @@ TEST(StoringAReport, KeepsAFresherCopyThatCameWhileTheRequestWasOut) {
     };
     for (const Fresher& row : cases) {
         EngineFixture fixture;
+        fixture.restart(row.othersWrite);
         fixture.answers[std::string("DAILY ") + day] = EngineFixture::sales(2);
         fixture.store(ReportFrequency::daily, day, ReportStatus::error);
         fixture.http.whileWaiting = [&](const HttpRequest&) {

@@ -43,21 +43,21 @@ EngineFixture::EngineFixture(const std::string& vfs, const std::string& sql)
         return answer == answers.end() ? otherwise : answer->second;
     };
     CredentialsKeychain(secrets).store({"issuer", "key", generateKeyPair().privatePEM, "6041"});
-    makeEngine();
+    makeEngine(true);
 }
 
-void EngineFixture::restart() {
+void EngineFixture::restart(bool othersWrite) {
     engine_.reset();
     context_ = store_.open();
-    makeEngine();
+    makeEngine(othersWrite);
 }
 
-void EngineFixture::makeEngine() {
+void EngineFixture::makeEngine(bool othersWrite) {
     engine_ = std::make_unique<SyncEngine>(
         SyncEngineParts{*context_, http, clock, worker, localTime, secrets, defaults},
         SyncEngineSettings{.reportService = "https://reports.test",
                            .rateService = "https://rates.test",
-                           .othersWrite = true});
+                           .othersWrite = othersWrite});
 }
 
 std::string EngineFixture::shortForm(const HttpRequest& request) {

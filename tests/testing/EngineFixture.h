@@ -34,7 +34,7 @@ class EngineFixture {
     /// The engine goes away as at the end of the program; the store stays.
     void destroyEngine() { engine_.reset(); }
     /// What is neither saved nor in the secret service is lost, as when the program is killed.
-    void restart();
+    void restart(bool othersWrite = true);
 
     /// A request in short: "DAILY 2026-11-21", "FINANCE 2027-01", "rates", "icons 1,2".
     [[nodiscard]] static std::string shortForm(const HttpRequest& request);
@@ -68,7 +68,7 @@ class EngineFixture {
     ScriptedHttp http;
 
   private:
-    void makeEngine();
+    void makeEngine(bool othersWrite);
 
     StoreFixture store_;
     ModelContext* context_;

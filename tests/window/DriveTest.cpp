@@ -96,6 +96,17 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     driver->waitUntil([&] { return !driver->sees(QAccessible::Button, QStringLiteral("All time, 0.00")); },
                       "for the figures of one app");
 
+    // What lacks is told, and fetched from there.
+    driver->click(QAccessible::Button, QStringLiteral("Sync Log"));
+    driver->expectToSee(QAccessible::Heading, QStringLiteral("Sync Log"));
+    driver->click(QAccessible::ListItem, QStringLiteral("History"));
+    driver->expectToSee(QAccessible::Button, QStringLiteral("Fetch What Is Missing"));
+    driver->click(QAccessible::Button, QStringLiteral("Fetch What Is Missing"));
+    driver->waitUntil([&, before = days()] { return days() > before; }, "for another day");
+    engine.requestStop();
+    driver->waitUntil(isIdle, "for the run to stop");
+    driver->click(QAccessible::ListItem, QStringLiteral("Dashboard"));
+
     // A day is opened from the chart and closed, by keyboard and by pointer.
     const DaySheet& sheet = *newcomer.root().dashboard()->selectedDay();
     const auto isClosed = [&] { return sheet.day() == nullptr; };

@@ -94,9 +94,4 @@ class Chart : public QObject {
     RowList table_;
 };
 
-/// Whether a column of this status has bars.
-[[nodiscard]] inline bool isFetched(ReportStatus status) {
-    return status == ReportStatus::ok || status == ReportStatus::empty;
-}
-
 }  // namespace vantrell

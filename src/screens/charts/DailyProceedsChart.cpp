@@ -10,7 +10,7 @@ namespace vantrell {
 namespace {
 
 ChartColumn columnOf(const DayPoint& point) {
-    ChartColumn column{point.day, isFetched(point.status), {}};
+    ChartColumn column{point.day, isKnown(point.status), {}};
     if (column.isFetched) {
         column.bars = {{point.proceeds, ChartInk::proceeds, {}}};
         if (point.refunds < 0) {
@@ -37,7 +37,7 @@ ChartAnnotation DailyProceedsChart::annotationOf(std::size_t column) const {
     const DayPoint& point = points_[column];
     ChartAnnotation annotation{
         fromUtf8(context().locale.weekdayMonthDay(point.day)), statusLabel(point.status).text, {}};
-    if (isFetched(point.status)) {
+    if (isKnown(point.status)) {
         annotation.amounts.push_back(chartAmount(point.proceeds));
     }
     std::ranges::copy(refundLine(point.refunds), std::back_inserter(annotation.amounts));

@@ -11,6 +11,7 @@ ListView {
     // The row where Tab enters the list.
     readonly property int stop: list.count === 0 ? -1 : list.rows.stopNear(list.currentIndex)
     readonly property real rowWidth: Math.min(list.width - 40, Theme.widestContent)
+    property real beginning: 0
 
     function step(direction) {
         // The focus may be at what is no row, such as a tile.
@@ -28,6 +29,12 @@ ListView {
     }
 
     model: list.rows
+    // What stands above the rows grows once it is known; who is at the beginning stays there.
+    onOriginYChanged: {
+        if (list.contentY === list.beginning)
+            list.contentY = list.originY
+        list.beginning = list.originY
+    }
     leftMargin: (list.width - list.rowWidth) / 2
     rightMargin: leftMargin
     // What is shown doesn't follow the margins by itself.

@@ -36,7 +36,7 @@ bool TrendChart::opensDays() const {
 }
 
 ChartColumn TrendChart::columnOf(const TrendPoint& point) const {
-    ChartColumn column{point.periodStart, isFetched(point.status), {}};
+    ChartColumn column{point.periodStart, isKnown(point.status), {}};
     if (!column.isFetched) {
         return column;
     }

@@ -15,7 +15,7 @@ class TimeZone {
     /// Absent for a name that the time zone database doesn't know.
     [[nodiscard]] static std::optional<TimeZone> named(std::string_view id);
     /// The zone that the machine is set to now (the TZ variable first); UTC if it can't be told. Can take
-    /// milliseconds. A TZ that spells out rules instead of a name counts with its standard offset alone.
+    /// milliseconds. TZ can name a zone or a zone file, or spell out rules.
     [[nodiscard]] static TimeZone ofHost();
 
     [[nodiscard]] std::string id() const;
@@ -29,6 +29,7 @@ class TimeZone {
   private:
     struct Zone;
     explicit TimeZone(std::shared_ptr<const Zone> zone);
+    [[nodiscard]] static TimeZone ofFile(const std::string& path);
     std::shared_ptr<const Zone> zone_;
 };
 

@@ -14,6 +14,11 @@ enum class ReportStatus {
     missing,      ///< nothing has been tried yet
 };
 
+/// Whether what was sold is known, be it nothing.
+[[nodiscard]] constexpr bool isKnown(ReportStatus status) {
+    return status == ReportStatus::ok || status == ReportStatus::empty;
+}
+
 /// The text that is stored and exported: "ok", "empty", "pending", "unavailable", "error" or "missing".
 [[nodiscard]] std::string_view rawText(ReportStatus status);
 

@@ -13,7 +13,6 @@ struct DayCounts {
     int known = 0;
     int failed = 0;
     int missing = 0;  ///< never asked for
-    bool operator==(const DayCounts&) const = default;
 };
 
 /// Of the days from `from` to `to`, both day keys included.
@@ -27,7 +26,6 @@ struct Coverage {
     int payoutPeriods = 0;
     /// There is nothing more to fetch but what isn't published yet.
     [[nodiscard]] bool isWhole() const;
-    bool operator==(const Coverage&) const = default;
 };
 
 [[nodiscard]] Coverage coverage(const Snapshot& snapshot, const ReportCalendar& calendar);
