@@ -102,8 +102,9 @@ TrialEnd closed(MyApp& app, TrialSurroundings& surroundings, TrialEnd end, std::
     const auto problem = storeProblem(app.context().health());
     if (problem || unsaved) {
         errors << onOneLine(problem ? *problem : *unsaved) << std::endl;
-        return TrialEnd::notStored;
+        end = TrialEnd::notStored;
     }
+    app.leave(static_cast<int>(end));
     return end;
 }
 

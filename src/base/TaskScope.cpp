@@ -11,33 +11,31 @@
 
 namespace vantrell {
 
-TaskScope::~TaskScope() {
-    if (pending_ != 0) {
-        qFatal("%d tasks outlive their scope", pending_);
-    }
-}
-
 void TaskScope::finish(std::chrono::milliseconds patience) {
+    state_->isEnding = true;
     const QDeadlineTimer deadline(patience);
-    while (pending_ != 0 && !deadline.hasExpired()) {
+    while (pending() != 0 && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
         QThread::yieldCurrentThread();
     }
 }
 
 void TaskScope::spawn(QCoro::Task<> task) {
-    ++pending_;
-    // Goes on by itself; `pending_` tells when it has ended.
-    static_cast<void>(run(std::move(task)));
+    ++state_->pending;
+    // Goes on by itself; `state_` tells when it has ended.
+    static_cast<void>(run(std::move(task), state_));
 }
 
-QCoro::Task<> TaskScope::run(QCoro::Task<> task) {
+QCoro::Task<> TaskScope::run(QCoro::Task<> task, std::shared_ptr<State> state) {
     try {
         co_await std::move(task);
     } catch (const std::exception& error) {
-        qFatal("an exception escaped a task: %s", error.what());
+        if (!state->isEnding) {
+            qFatal("an exception escaped a task: %s", error.what());
+        }
+        qWarning("an exception escaped a task at the end: %s", error.what());
     }
-    --pending_;
+    --state->pending;
 }
 
 }  // namespace vantrell

@@ -4,6 +4,7 @@
 #include "base/ProgramVersion.h"
 
 #include <chrono>
+#include <cstdlib>
 #include <tuple>
 #include <utility>
 
@@ -52,9 +53,18 @@ void MyApp::close() {
     constexpr auto patience = std::chrono::seconds(10);
     engine_.close();
     tasks_.finish(patience);
+    if (tasks_.pending() != 0) {
+        qCWarning(coreLog) << tasks_.pending() << "tasks did not end in time and are let go";
+    }
     contextToChange().holdSaves(false);
     // Told by the store's health to whoever asks before the store is closed.
     std::ignore = contextToChange().save();
+}
+
+void MyApp::leave(int code) const {
+    if (tasks_.pending() != 0) {
+        std::_Exit(code);
+    }
 }
 
 }  // namespace vantrell

@@ -61,7 +61,7 @@ int run(const ProgramFolders& folders, InstanceGuard& guard, const EndSignals& e
                                                       .placementFile = folders.config / "window.json"});
     QObject::connect(&guard, &InstanceGuard::wakened, &*windows, &AppWindows::raise);
     windows->show();
-    const int code = endSignals.exec();
+    int code = endSignals.exec();
     // What they keep moving ends with them, and would be waited for.
     windows.reset();
     app.close();
@@ -69,8 +69,9 @@ int run(const ProgramFolders& folders, InstanceGuard& guard, const EndSignals& e
     const auto problem = storeProblem(app.context().health());
     if (problem || unsaved) {
         std::cerr << (problem ? *problem : *unsaved) << std::endl;
-        return notStored;
+        code = notStored;
     }
+    app.leave(code);
     return code;
 }
 

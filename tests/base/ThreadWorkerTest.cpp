@@ -1,8 +1,10 @@
 #include "base/Lifetime.h"
+#include "base/SystemClock.h"
 #include "base/TaskScope.h"
 #include "base/ThreadWorker.h"
 
 #include <future>
+#include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
@@ -59,6 +61,25 @@ TEST(ThreadWorker, WhoeverIsCancelledGoesAtOnceAndTheWorkEndsUnheard) {
         go.set_value();
     }
     EXPECT_TRUE(hasEnded) << "the worker waits for what is under way";
+}
+
+QCoro::Task<> fail(Clock& clock, std::stop_token cancel, bool& hasGoneOn) {
+    co_await clock.sleep(std::chrono::hours(1), std::move(cancel));
+    hasGoneOn = true;
+    throw std::runtime_error("late");
+}
+
+TEST(TaskScope, ATaskThatDoesNotEndInTimeMayOutlastIt) {
+    Lifetime lifetime;
+    SystemClock clock;
+    bool hasGoneOn = false;
+    std::optional<TaskScope> tasks(std::in_place);
+    tasks->spawn(fail(clock, lifetime.token(), hasGoneOn));
+    tasks->finish(std::chrono::milliseconds::zero());
+    EXPECT_EQ(tasks->pending(), 1);
+    tasks.reset();
+    lifetime.end();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hasGoneOn; }));
 }
 
 }  // namespace

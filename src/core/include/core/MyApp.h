@@ -45,6 +45,9 @@ class MyApp {
     /// To be called once the windows are gone. Ends what is under way, and tries once more to save what could
     /// not be saved; reports not yet reached keep their status.
     void close();
+    /// To be called last. Where a task could not be ended, the process ends here, since nothing that the task
+    /// refers to may go before it.
+    void leave(int code) const;
 
     /// To read: the engine alone changes the store.
     [[nodiscard]] const ModelContext& context() const { return container_->mainContext(); }
