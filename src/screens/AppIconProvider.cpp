@@ -74,6 +74,11 @@ QString AppIconProvider::source(std::string_view address) {
         .arg(QLatin1StringView(name), QString::fromLatin1(bytes.toPercentEncoding()));
 }
 
+QString AppIconProvider::sourceFor(std::int64_t appID, const AppIconStore& icons) {
+    const auto known = icons.urls().find(appID);
+    return known == icons.urls().end() ? QString() : source(known->second);
+}
+
 QQuickImageResponse* AppIconProvider::requestImageResponse(const QString& id, const QSize& requestedSize) {
     const auto address = QByteArray::fromPercentEncoding(id.toUtf8()).toStdString();
     return new AppIconResponse(desk_.ask(address), requestedSize);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "icons/AppIconStore.h"
 #include "icons/ImageDesk.h"
 
 #include <string_view>
@@ -22,6 +23,8 @@ class AppIconProvider final : public QQuickAsyncImageProvider {
     explicit AppIconProvider(ImageLoader& loader);
 
     [[nodiscard]] static QString source(std::string_view address);
+    /// That of an app; empty where none is known.
+    [[nodiscard]] static QString sourceFor(std::int64_t appID, const AppIconStore& icons);
 
     QQuickImageResponse* requestImageResponse(const QString& id, const QSize& requestedSize) override;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "icons/AppIconStore.h"
 #include "screens/Destination.h"
 #include "screens/DriveLoop.h"
 #include "screens/RowList.h"
@@ -136,6 +137,7 @@ class RootView : public QObject {
 
     ScreenParts parts_;
     DriveLoop driveLoop_;
+    AppIconStore icons_;
     RowList destinations_;
     std::optional<Destination::Value> selection_;
     AppFilterPicker filter_;

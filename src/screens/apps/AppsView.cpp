@@ -9,8 +9,8 @@
 
 namespace vantrell {
 
-AppsView::AppsView(const ScreenParts& parts, QObject* parent)
-    : Screen(parts, parent), icons_({parts.http, parts.defaults, parts.locale}, parts.origins.lookupService) {
+AppsView::AppsView(const ScreenParts& parts, AppIconStore& icons, QObject* parent)
+    : Screen(parts, parent), icons_(icons) {
     connect(&icons_, &AppIconStore::urlsChanged, &rows_, &BlockList::touch);
 }
 
@@ -74,7 +74,7 @@ void AppsView::addEntry(BlockBuilder& rows, const AppTableEntry& entry, bool isB
     const bool hasProducts = products != productsByApp_.end() && !products->second.empty();
     rows.add(RowKind::AppWindows, [this, &entry, isBanded, hasProducts] {
         WindowsRow row = windowsRow(context(), entry);
-        row.icon = icon(entry.app.id);
+        row.icon = AppIconProvider::sourceFor(entry.app.id, icons_);
         row.isBanded = isBanded;
         row.endsEntry = !hasProducts;
         return row;
@@ -146,11 +146,6 @@ void AppsView::showEmptyState(bool isEmpty) {
 bool AppsView::passes(const AppInfo& app) const {
     const AppFilter& filter = store().appFilter();
     return !filter || filter->contains(app.id);
-}
-
-QString AppsView::icon(std::int64_t appID) const {
-    const auto known = icons_.urls().find(appID);
-    return known == icons_.urls().end() ? QString() : AppIconProvider::source(known->second);
 }
 
 }  // namespace vantrell

@@ -26,7 +26,7 @@ class AppsView : public vantrell::Screen {
     Q_PROPERTY(vantrell::BlockList* rows READ rows CONSTANT)
 
   public:
-    explicit AppsView(const ScreenParts& parts, QObject* parent = nullptr);
+    AppsView(const ScreenParts& parts, AppIconStore& icons, QObject* parent = nullptr);
 
     /// Nothing passes the filter.
     [[nodiscard]] bool isEmpty() const { return !emptyState_.title.isEmpty(); }
@@ -53,7 +53,6 @@ class AppsView : public vantrell::Screen {
     void addPayouts(BlockBuilder& rows);
     void showEmptyState(bool isEmpty);
     [[nodiscard]] bool passes(const AppInfo& app) const;
-    [[nodiscard]] QString icon(std::int64_t appID) const;
     [[nodiscard]] FigureContext context() const { return {store(), locale()}; }
 
     std::optional<std::int64_t> loadedRevision_;
@@ -61,7 +60,7 @@ class AppsView : public vantrell::Screen {
     YearMatrix matrix_;
     std::vector<AppPayout> payouts_;
     ProductWindows productsByApp_;
-    AppIconStore icons_;
+    AppIconStore& icons_;
     EmptyState emptyState_;
     BlockList rows_;
 };

@@ -16,7 +16,7 @@ constexpr int daysOfFirstCustomRange = 30;
 
 }  // namespace
 
-ByDayView::ByDayView(const ScreenParts& parts, QObject* parent)
+ByDayView::ByDayView(const ScreenParts& parts, AppIconStore& icons, QObject* parent)
     : Screen(parts, parent),
       customStart_(
           store().calendar().dateDaysAgo(daysOfFirstCustomRange).value_or(store().calendar().today())),
@@ -24,7 +24,7 @@ ByDayView::ByDayView(const ScreenParts& parts, QObject* parent)
       from_(parts.locale, tr("From")),
       through_(parts.locale, tr("Through")),
       chart_({parts.store, parts.locale}, tr("Trends Over Time")),
-      trendLegend_(parts),
+      trendLegend_(parts.tasks, icons),
       selectedDay_(parts) {
     chart_.setOnSelectDay([this](const std::string& key) { selectedDay_.open(key, store().appFilter()); });
     connect(&from_, &DateField::picked, this, &ByDayView::setCustomStart);

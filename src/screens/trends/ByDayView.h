@@ -29,7 +29,7 @@ class ByDayView : public vantrell::Screen {
     Q_PROPERTY(vantrell::DaySheet* selectedDay READ selectedDay CONSTANT)
 
   public:
-    explicit ByDayView(const ScreenParts& parts, QObject* parent = nullptr);
+    ByDayView(const ScreenParts& parts, AppIconStore& icons, QObject* parent = nullptr);
 
     [[nodiscard]] int windowPlace() const { return windowPlace_; }
     [[nodiscard]] int granularityPlace() const { return static_cast<int>(granularity_); }

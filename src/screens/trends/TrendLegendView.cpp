@@ -8,10 +8,8 @@
 
 namespace vantrell {
 
-TrendLegendView::TrendLegendView(const ScreenParts& parts, QObject* parent)
-    : QObject(parent),
-      tasks_(parts.tasks),
-      icons_({parts.http, parts.defaults, parts.locale}, parts.origins.lookupService) {
+TrendLegendView::TrendLegendView(TaskScope& tasks, AppIconStore& icons, QObject* parent)
+    : QObject(parent), tasks_(tasks), icons_(icons) {
     connect(&icons_, &AppIconStore::urlsChanged, this, &TrendLegendView::refresh);
 }
 
@@ -26,7 +24,7 @@ void TrendLegendView::refresh() {
     rows.reserve(items_.size());
     for (const TrendLegendItem& item : items_) {
         rows.push_back({item.appID ? shownText(item.title) : otherAppsLabel(), seriesColor(item.colorIndex),
-                        iconOf(item)});
+                        item.appID ? AppIconProvider::sourceFor(*item.appID, icons_) : QString()});
     }
     rows_.show(rows);
 }
@@ -42,11 +40,6 @@ void TrendLegendView::loadIcons() {
         apps_ = apps;
         tasks_.spawn(icons_.loadIcons(std::move(apps)));
     }
-}
-
-QString TrendLegendView::iconOf(const TrendLegendItem& item) const {
-    const auto address = item.appID ? icons_.urls().find(*item.appID) : icons_.urls().end();
-    return address == icons_.urls().end() ? QString() : AppIconProvider::source(address->second);
 }
 
 }  // namespace vantrell

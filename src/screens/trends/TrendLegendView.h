@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/TaskScope.h"
 #include "figures/Trends.h"
 #include "icons/AppIconStore.h"
 #include "screens/RowList.h"
-#include "screens/ScreenParts.h"
 #include "screens/charts/SeriesColor.h"
 
 #include <vector>
@@ -33,7 +33,7 @@ class TrendLegendView : public QObject {
     Q_PROPERTY(vantrell::RowList* rows READ rows CONSTANT)
 
   public:
-    explicit TrendLegendView(const ScreenParts& parts, QObject* parent = nullptr);
+    TrendLegendView(TaskScope& tasks, AppIconStore& icons, QObject* parent = nullptr);
 
     [[nodiscard]] RowList* rows() { return &rows_; }
 
@@ -43,10 +43,9 @@ class TrendLegendView : public QObject {
   private:
     void refresh();
     void loadIcons();
-    [[nodiscard]] QString iconOf(const TrendLegendItem& item) const;
 
     TaskScope& tasks_;
-    AppIconStore icons_;
+    AppIconStore& icons_;
     std::vector<TrendLegendItem> items_;
     std::vector<std::int64_t> apps_;
     RowList rows_;

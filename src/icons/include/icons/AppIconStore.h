@@ -18,8 +18,8 @@
 namespace vantrell {
 
 /// Knows where the icons of apps are found. The addresses are kept in the settings for good; what isn't known
-/// is asked of the App Store's public lookup service, each app at most once by one store. A screen owns its
-/// own store and names the apps that it is about to show as often as it likes. Main thread only.
+/// is asked of the App Store's public lookup service, each app at most once. All screens share one store, and
+/// each names the apps that it is about to show as often as it likes. Main thread only.
 class AppIconStore : public QObject {
     Q_OBJECT
 
