@@ -1,4 +1,3 @@
-#include "base/LowerCase.h"
 #include "base/Whitespace.h"
 #include "testing/Cases.h"
 
@@ -29,11 +28,6 @@ TEST(Whitespace, EveryLineEndSplits) {
     using Pieces = std::vector<std::string_view>;
     EXPECT_EQ(splitAtNewlines("a\r\nb\n"), (Pieces{"a", "", "b", ""}));
     EXPECT_EQ(splitAtNewlines("a\u2029b\u0085c\vd"), (Pieces{"a", "b", "c", "d"}));
-}
-
-TEST(LowerCase, FollowsUnicodeWithoutALanguage) {
-    EXPECT_EQ(lowerCase("\u00C9T\u00C9 \u0416"), "\u00E9t\u00E9 \u0436");
-    EXPECT_EQ(lowerCase("\uFEFFA"), "\uFEFFa") << "a byte order mark stays";
 }
 
 }  // namespace

@@ -84,12 +84,12 @@ TEST(ReportCalendar, LabelsInAllZonesAreThoseOfTheCLibrary) {
         for (const auto& [instant, period] : fiscal) {
             clock.setNow(Instant(std::chrono::seconds(instant)));
             const std::tm wall = wallOf(instant);
-            const bool isRight = calendar.dayKey(0) == dayText(wall, 0) &&
-                                 calendar.dayKey(1) == dayText(wall, 1) &&
-                                 calendar.monthKey(1) == lastMonth(wall) &&
-                                 calendar.currentYearLabel() == std::to_string(wall.tm_year + 1900) &&
-                                 calendar.currentFiscalPeriod() == period;
-            labels += 5;
+            const bool isRight =
+                calendar.dayKey(0) == dayText(wall, 0) && calendar.dayKey(1) == dayText(wall, 1) &&
+                calendar.dayKey(365) == dayText(wall, 365) && calendar.monthKey(1) == lastMonth(wall) &&
+                calendar.currentYearLabel() == std::to_string(wall.tm_year + 1900) &&
+                calendar.currentFiscalPeriod() == period;
+            labels += 6;
             wrong += isRight ? 0 : 1;
             EXPECT_TRUE(isRight || wrong > 10) << name << " at " << instant << ": " << calendar.dayKey(0);
         }
@@ -99,6 +99,14 @@ TEST(ReportCalendar, LabelsInAllZonesAreThoseOfTheCLibrary) {
     EXPECT_GT(zones.size(), 500U);
     EXPECT_EQ(wrong, 0U);
     std::printf("labels: %zu in %zu zones, wrong %zu\n", labels, zones.size(), wrong);
+}
+
+TEST(ReportCalendar, FiscalPeriodsTurnAtMidnightInLosAngelesWhereverTheUserIs) {
+    const testing::ManualClock clock(std::chrono::sys_days(2026y / 10 / 1) + 6h + 59min);
+    const testing::FixedLocalTime zone("Pacific/Kiritimati");
+    const ReportCalendar calendar(clock, zone);
+    EXPECT_EQ(calendar.currentFiscalPeriod(), "2026-12");
+    EXPECT_EQ(calendar.fiscalPeriodAt(clock.now() + 1min), "2027-01");
 }
 
 }  // namespace

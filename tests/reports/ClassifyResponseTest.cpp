@@ -41,10 +41,5 @@ TEST(ClassifyResponse, BearsBodiesOfAnySize) {
     }
 }
 
-TEST(DataLineCount, LeavesOutTheHeadingAndEmptyLines) {
-    EXPECT_EQ(dataLineCount("h\na\nb\n\r\nc\n"), 3U);
-    EXPECT_EQ(dataLineCount(""), 0U);
-}
-
 }  // namespace
 }  // namespace vantrell

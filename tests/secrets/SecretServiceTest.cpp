@@ -58,5 +58,19 @@ TEST_F(SecretService, DoesNotWaitLongerThanItMay) {
     EXPECT_EQ(keychain.read(service, "held"), SecretRead("secret"));
 }
 
+// The last, since nobody is there to unlock it.
+TEST_F(SecretService, WhenLockedIsToldApartFromOneWithoutTheSecret) {
+    ASSERT_EQ(keychain.add(service, "kept", "secret"), std::nullopt);
+    keyring->lock();
+    const SecretRead locked = SecretUnreadable{"The keyring is locked."};
+    EXPECT_EQ(keychain.read(service, "kept"), locked);
+    EXPECT_EQ(keychain.read(service, "never written"), locked);
+    EXPECT_EQ(keychain.remove(service, "kept").value().description, "The keyring is locked.");
+    const auto error = keychain.add(service, "new", "secret");
+    ASSERT_TRUE(error);
+    EXPECT_NE(error->code, 0);
+    EXPECT_EQ(error->description, "Cannot create an item in a locked collection");
+}
+
 }  // namespace
 }  // namespace vantrell

@@ -130,8 +130,8 @@ class RunScript {
             answer = EngineFixture::sales(std::stoi(text));
         } else if (status == "finance") {
             answer = EngineFixture::finance(text);
-        } else if (status == "body") {
-            answer = HttpResponse{200, text};
+        } else if (status == "body" || status == "body-under-503") {
+            answer = HttpResponse{status == "body" ? 200 : 503, text};
         } else {
             answer = EngineFixture::error(std::stoi(status), text);
         }

@@ -26,6 +26,7 @@ TEST(StoringAReport, FailsByItselfWhereItCostsTooMuchAndLeavesNothingBehind) {
     } cases[] = {
         {"too long a line behind good ones", header + "\tnew\t\t\t1/1/2026\t\n" + std::string(1U << 20U, 'x'),
          "The report has a line that is too long."},
+        {"a line without end", std::string(2'000'000, 'x'), "The report has a line that is too long."},
         {"too many new texts", manyTexts, "The report holds more than can be kept."},
         {"no memory", "", "There is not enough memory for the report."},
     };

@@ -75,6 +75,8 @@ std::string EngineFixture::shortForm(const HttpRequest& request) {
     if (url.find("/lookup") != std::string::npos) {
         return "icons " + item("id");
     }
+    EXPECT_EQ(url, "https://rates.test/v6/latest/USD");
+    EXPECT_EQ(std::ranges::find(request.headers, "Authorization", &HttpHeader::name), request.headers.end());
     return "rates";
 }
 
