@@ -84,12 +84,12 @@ TEST(ReportCalendar, LabelsInAllZonesAreThoseOfTheCLibrary) {
         for (const auto& [instant, period] : fiscal) {
             clock.setNow(Instant(std::chrono::seconds(instant)));
             const std::tm wall = wallOf(instant);
-            const bool isRight =
-                calendar.dayKey(0) == dayText(wall, 0) && calendar.dayKey(1) == dayText(wall, 1) &&
-                calendar.dayKey(365) == dayText(wall, 365) && calendar.monthKey(1) == lastMonth(wall) &&
-                calendar.currentYearLabel() == std::to_string(wall.tm_year + 1900) &&
-                calendar.currentFiscalPeriod() == period;
-            labels += 6;
+            const bool isRight = calendar.dayKey(0) == dayText(wall, 0) &&
+                                 calendar.dayKey(365) == dayText(wall, 365) &&
+                                 calendar.monthKey(1) == lastMonth(wall) &&
+                                 calendar.currentYearLabel() == std::to_string(wall.tm_year + 1900) &&
+                                 calendar.currentFiscalPeriod() == period;
+            labels += 5;
             wrong += isRight ? 0 : 1;
             EXPECT_TRUE(isRight || wrong > 10) << name << " at " << instant << ": " << calendar.dayKey(0);
         }

@@ -107,13 +107,5 @@ TEST(DesktopAppearance, FollowsTheDesktopEvenIfItsFirstAnswerNeverComes) {
     EXPECT_FALSE(appearance.isDark());
 }
 
-TEST(DesktopAppearance, IsLightWithoutAPortal) {
-    DesktopAppearance appearance;
-    const QSignalSpy changes(&appearance, &Appearance::isDarkChanged);
-    QTest::qWait(50);
-    EXPECT_FALSE(appearance.isDark());
-    EXPECT_EQ(changes.count(), 0);
-}
-
 }  // namespace
 }  // namespace vantrell

@@ -1,5 +1,4 @@
 #include "ProgramFolders.h"
-#include "core/PublicServices.h"
 #include "testing/Golden.h"
 #include "testing/TemporaryFolder.h"
 
@@ -15,14 +14,6 @@ namespace vantrell {
 namespace {
 
 using testing::TemporaryFolder;
-
-TEST(PublicServices, AreTheRealOnesAndEncrypted) {
-    const ServiceOrigins services = publicServices();
-    EXPECT_EQ(services.reportService, "https://api.appstoreconnect.apple.com");
-    EXPECT_EQ(services.rateService, "https://open.er-api.com");
-    EXPECT_EQ(services.lookupService, "https://itunes.apple.com");
-    EXPECT_EQ(services.keyWebSite, "https://appstoreconnect.apple.com");
-}
 
 TEST(ProgramFolders, AreThoseOfTheDesktopAndOtherwiseOfTheAccount) {
     const std::string bytes = "/caf\xE9";

@@ -18,10 +18,6 @@ void write(const fs::path& file, const std::string& bytes) {
     std::ofstream(file, std::ios::binary) << bytes;
 }
 
-void withSQL(const fs::path& file, const std::string& sql) {
-    testing::changed(file, sql);
-}
-
 TEST(StoreFile, OfSomebodyElseStopsTheStartAndIsNotTouched) {
     using Text = const std::string&;
     testing::expectCases<2>(VANTRELL_TEST_DATA "/foreign-files.tsv", [](Text before, Text content) {
@@ -33,7 +29,7 @@ TEST(StoreFile, OfSomebodyElseStopsTheStartAndIsNotTouched) {
         if (before == "a text") {
             write(store.file(), content);
         } else {
-            withSQL(store.file(), content);
+            testing::changed(store.file(), content);
         }
         const std::string bytes = testing::fileText(store.file());
         EXPECT_EQ(store.open(), nullptr);
@@ -63,7 +59,7 @@ TEST(StoreFile, WithoutTablesAndOwnerIsANewStore) {
     for (const char* sql : {"", "BEGIN EXCLUSIVE; COMMIT", "CREATE TABLE t (a); DROP TABLE t; VACUUM"}) {
         StoreFixture store;
         write(store.file(), "");
-        withSQL(store.file(), sql);
+        testing::changed(store.file(), sql);
         EXPECT_NE(store.open(), nullptr) << store.error() << sql;
     }
 }
@@ -97,13 +93,6 @@ TEST(StoreFile, ThatIsNoFileStopsTheStartAtOnce) {
         EXPECT_EQ(store.open(), nullptr);
         EXPECT_TRUE(store.error().ends_with("is no regular file")) << store.error();
     }
-}
-
-TEST(StoreFile, IsNotMirroredOnThisPlatform) {
-    testing::TemporaryFolder folder;
-    auto opened = ModelContainer::open({folder / "a.sqlite", CloudDatabase::automatic, {}});
-    EXPECT_TRUE(std::holds_alternative<StoreError>(opened));
-    EXPECT_FALSE(fs::exists(folder / "a.sqlite"));
 }
 
 TEST(StoreFile, ShowsDatesAndTextsReadably) {

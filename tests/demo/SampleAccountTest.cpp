@@ -1,5 +1,4 @@
 #include "sample/Publication.h"
-#include "sample/SalesBody.h"
 #include "sample/SampleAccount.h"
 #include "sample/SampleTotals.h"
 #include "testing/Cases.h"
@@ -8,19 +7,6 @@
 
 namespace vantrell::sample {
 namespace {
-
-std::string dayBody(const SampleAccount& account, Day day) {
-    return salesBody(account, {day, day});
-}
-
-TEST(SampleAccount, GivesADayTheSameLinesWheneverItIsAskedFor) {
-    const SampleAccount account;
-    const auto body = dayBody(account, dayOf(2026, 8, 14));
-    EXPECT_NE(dayBody(account, dayOf(2026, 8, 15)), body);
-    EXPECT_EQ(dayBody(account, dayOf(2026, 8, 14)), body);
-    EXPECT_EQ(dayBody(SampleAccount{}, dayOf(2026, 8, 14)), body);
-    EXPECT_NE(dayBody(SampleAccount{{.seed = 2}}, dayOf(2026, 8, 14)), body);
-}
 
 // Whoever keeps a trial's data keeps days that a later build must still add up with.
 TEST(SampleAccount, StaysTheSameFromBuildToBuild) {

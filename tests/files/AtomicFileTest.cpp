@@ -73,6 +73,7 @@ TEST(AtomicFile, AFullDiskLeavesWhatWasThereAndIsTold) {
         EXPECT_EQ(writeAtomically(folder / "figures.csv", std::string(21, 'x')), told("figures.csv"));
         defaults.setText("currency", "CHF");
         EXPECT_EQ(defaults.saveAll(), told("defaults.json"));
+        EXPECT_EQ(defaults.text("currency"), "CHF");
         EXPECT_EQ(JsonDefaults(folder / "defaults.json").text("currency"), "EUR");
     }
     EXPECT_EQ(JsonDefaults(folder / "defaults.json").text("currency"), "CHF") << "tried again at the end";

@@ -84,18 +84,5 @@ TEST_F(JsonDefaultsTest, SetsADamagedFileAsideBeforeItWrites) {
     EXPECT_EQ(testing::fileText(file.string() + ".damaged-4"), "\xFF\xFE");
 }
 
-TEST_F(JsonDefaultsTest, KeepsValuesInMemoryWhenASaveFailsAndTriesAgain) {
-    JsonDefaults defaults(file);
-    // A file in place of the folder stops every user, the administrator as well.
-    const auto obstacle = file.parent_path();
-    fs::create_directories(obstacle.parent_path());
-    std::ofstream(obstacle) << "in the way";
-    defaults.setText("first", "1");
-    EXPECT_EQ(defaults.text("first"), "1");
-    fs::remove(obstacle);
-    defaults.setText("first", "1");
-    EXPECT_EQ(JsonDefaults(file).text("first"), "1");
-}
-
 }  // namespace
 }  // namespace vantrell

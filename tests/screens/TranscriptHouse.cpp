@@ -112,8 +112,8 @@ void TranscriptHouse::damageReport(const QString& frequency, const QString& date
     fixture_.context().health().addDamagedReport({frequency.toStdString(), date.toStdString()});
 }
 
-void TranscriptHouse::answerTo(const QString& request, const QString& body) {
-    fixture_.answers[request.toStdString()] = HttpResponse{200, body.toStdString()};
+void TranscriptHouse::answerTo(const QString& request, int status, const QString& body) {
+    fixture_.answers[request.toStdString()] = HttpResponse{status, body.toStdString()};
 }
 
 QString TranscriptHouse::requests() {

@@ -27,7 +27,10 @@ class TranscriptHouse : public QObject {
     Q_INVOKABLE void openApp(int appID) { root_.openApp(appID); }
     Q_INVOKABLE void leaveUnsaved(bool isDiskFull);
     Q_INVOKABLE void damageReport(const QString& frequency, const QString& date);
-    Q_INVOKABLE void answerTo(const QString& request, const QString& body);
+    Q_INVOKABLE void answerTo(const QString& request, int status, const QString& body);
+    Q_INVOKABLE void lockKeyring(bool isLocked) {
+        fixture_.secrets.setUnreadable(isLocked ? std::optional<std::string>("It is locked.") : std::nullopt);
+    }
     /// What was asked since the last call.
     Q_INVOKABLE QString requests();
     Q_INVOKABLE QVariant row(const QAbstractItemModel* list, int place);

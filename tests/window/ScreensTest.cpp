@@ -32,33 +32,6 @@ std::string walkThrough(WindowHouse& house) {
     return heard;
 }
 
-struct Look {
-    const char* name;
-    bool isDark;
-    const char* locale;
-    QSize size;
-};
-
-class EveryScreen : public ::testing::TestWithParam<Look> {};
-
-TEST_P(EveryScreen, LoadsWithoutAComplaint) {
-    Complaints complaints;
-    const auto& [name, isDark, locale, size] = GetParam();
-    WindowHouse house({locale, locale, locale, locale, locale});
-    house.appearance().setDark(isDark);
-    house.window().resize(size);
-    house.sold("2026-11-20", "Notebook", "USD", 3);
-    house.sold("2026-11-21", "Notebook", "EUR", 3);
-    house.show();
-    EXPECT_NE(walkThrough(house).find("Notebook"), std::string::npos);
-    EXPECT_EQ(complaints.take(), "");
-}
-
-INSTANTIATE_TEST_SUITE_P(Looks, EveryScreen,
-                         ::testing::Values(Look{"German", true, "de_DE", {800, 600}},
-                                           Look{"Japanese", false, "ja_JP", {1920, 1080}}),
-                         [](const auto& look) { return look.param.name; });
-
 // A row may go while the pointer rests on it, and the delay of its help runs on.
 TEST(Screens, ShowHelpOnlyInAWindow) {
     Complaints complaints;

@@ -69,31 +69,5 @@ TEST_F(CredentialsEditorTest, SavesWithoutBlanksAroundAndFetchesIfNothingWasFetc
     EXPECT_TRUE(fixture.engine().lastRun()) << "a backfill ran";
 }
 
-TEST_F(CredentialsEditorTest, TestsAndTellsTheResult) {
-    bool wasTesting = false;
-    QObject::connect(&editor, &CredentialsEditor::outcomeChanged, &editor,
-                     [&] { wasTesting |= editor.isTesting() && editor.testResult().isEmpty(); });
-    editor.test();
-    EXPECT_TRUE(wasTesting);
-    EXPECT_FALSE(editor.isTesting());
-    EXPECT_TRUE(editor.testResult().startsWith(QStringLiteral("Credentials accepted. ")));
-    EXPECT_EQ(fixture.takeRequests(), std::vector<std::string>{"DAILY 2026-11-21"}) << "and no backfill";
-}
-
-TEST_F(CredentialsEditorTest, RemovesTheKeyButNotTheFields) {
-    fixture.secrets.setUnreadable("The keyring is locked.");
-    editor.removeKey();
-    EXPECT_EQ(editor.status(),
-              QStringLiteral("Could not remove from your desktop's keyring: The keyring is locked."));
-    EXPECT_TRUE(editor.statusIsError() && editor.hasKey() && editor.canRemove());
-    fixture.secrets.setUnreadable({});
-    editor.removeKey();
-    EXPECT_FALSE(editor.canRemove());
-    EXPECT_FALSE(editor.hasKey());
-    EXPECT_EQ(editor.issuerID(), QStringLiteral("issuer"));
-    EXPECT_EQ(editor.status(), QStringLiteral("Credentials removed from your desktop's keyring."));
-    EXPECT_FALSE(fixture.engine().hasCredentials());
-}
-
 }  // namespace
 }  // namespace vantrell
