@@ -6,13 +6,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-TEST(DayKey, LabelsAreOfFixedWidthSoThatTheyCompareAsText) {
-    const CivilDate day = 987y / 3 / 4;
-    EXPECT_EQ(reportLabel(day, ReportFrequency::daily), "0987-03-04");
-    EXPECT_EQ(reportLabel(day, ReportFrequency::monthly), "0987-03");
-    EXPECT_EQ(reportLabel(day, ReportFrequency::yearly), "0987");
-}
-
 TEST(DayKey, KeysAreReadAsALenientCalendarWould) {
     testing::expectCases<1>(VANTRELL_TEST_DATA "/day-keys.tsv", [](const std::string& text) {
         const auto date = dateFromDayKey(text);

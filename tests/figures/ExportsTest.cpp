@@ -21,15 +21,6 @@ TEST(CSVLine, QuotesOnlyWhatWouldBeReadWrongly) {
     });
 }
 
-TEST(BreakdownText, IsExactAndInTheOrderOfTheCodes) {
-    EXPECT_EQ(breakdownText({}), "");
-    EXPECT_EQ(breakdownText({{"USD", *Decimal::parse("-1234567.890")},
-                             {"EUR", *Decimal::parse("1e3")},
-                             {"KWD", *Decimal::parse("0.001")},
-                             {"JPY", Decimal()}}),
-              "EUR 1000; JPY 0; KWD 0.001; USD -1234567.89");
-}
-
 TEST(Exports, OfEachKindAreTheFilesThatAreKept) {
     const std::filesystem::path folder = std::filesystem::path(VANTRELL_TEST_DATA) / "exports";
     EarningsFixture fixture;

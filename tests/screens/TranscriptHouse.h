@@ -22,6 +22,10 @@ class TranscriptHouse : public QObject {
 
     Q_INVOKABLE void reload() { fixture_.reload(); }
     Q_INVOKABLE void passHours(int hours) { fixture_.clock.advance(std::chrono::hours(hours)); }
+    /// The pauses of a run that stays under way.
+    Q_INVOKABLE void passReports(int count) {
+        fixture_.clock.advance(std::chrono::milliseconds(150) * count);
+    }
     /// One that stays under way.
     Q_INVOKABLE void beginRun();
     Q_INVOKABLE void openApp(int appID) { root_.openApp(appID); }

@@ -86,7 +86,8 @@ AccountFile::AccountFile(const std::filesystem::path& file) {
         } else if (word == "locale") {
             words >> locale;
         } else {
-            words >> reports_.emplace_back(Report{.kind = word}).date >> reports_.back().status;
+            words >> reports_.emplace_back(Report{.kind = word}).date >> reports_.back().status >>
+                reports_.back().fetched;
         }
     }
 }
@@ -112,7 +113,7 @@ void AccountFile::storeReport(ShortReports& store, const Report& report) {
     std::ranges::transform(frequency, frequency.begin(), [](char letter) { return std::toupper(letter); });
     std::vector<Line> sales;
     std::ranges::transform(report.lines, std::back_inserter(sales), lineOf);
-    store.report(reportFrequency(frequency).value(), report.date, sales, status);
+    store.report(reportFrequency(frequency).value(), report.date, sales, status, report.fetched);
 }
 
 }  // namespace vantrell::testing

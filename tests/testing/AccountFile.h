@@ -4,11 +4,11 @@
 
 namespace vantrell::testing {
 
-/// An account that a test writes down as a text: rates, reports with their lines in short, and what is asked
-/// about it. An unknown word fails the test.
+/// An account that a test writes down as a text: rates, reports with their status, perhaps the day when they
+/// were fetched, and their lines in short, and what is asked about it. An unknown word fails the test.
 ///
 ///     rates USD=1 EUR=0.5
-///     daily 2026-11-20 ok
+///     daily 2026-11-20 ok 2026-11-21
 ///         units=3; proceeds=0.7; title=Notes, Pro
 ///     payments 2026-12 ok
 ///         share=7.5; start=2026-08-30
@@ -34,6 +34,7 @@ class AccountFile {
         std::string kind;
         std::string date;
         std::string status = "ok";
+        std::string fetched;
         std::vector<std::string> lines;
     };
     static void storeReport(ShortReports& store, const Report& report);

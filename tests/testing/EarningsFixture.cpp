@@ -41,17 +41,17 @@ ParsedFinanceRow row(const Payment& payment) {
 }  // namespace
 
 void ShortReports::report(ReportFrequency frequency, const std::string& date, const std::vector<Line>& lines,
-                          ReportStatus status) {
+                          ReportStatus status, const std::string& fetched) {
     std::vector<SalesRowView> rows;
     rows.reserve(lines.size());
     for (const Line& line : lines) {
         rows.push_back(row(line, firstDay(date)));
     }
-    parsedReport(frequency, date, rows, status);
+    parsedReport(frequency, date, rows, status, fetched.empty() ? distantPast : firstDay(fetched));
 }
 
 void ShortReports::parsedReport(ReportFrequency frequency, const std::string& date,
-                                const std::vector<SalesRowView>& rows, ReportStatus status) {
+                                const std::vector<SalesRowView>& rows, ReportStatus status, Instant fetched) {
     const std::string raw(rawText(frequency));
     context().replaceSalesRows(raw, date, rows);
     SalesReport record;
@@ -59,6 +59,7 @@ void ShortReports::parsedReport(ReportFrequency frequency, const std::string& da
     record.reportDate = date;
     record.rowCount = static_cast<std::int64_t>(rows.size());
     record.setStatus(status);
+    record.fetchedAt = fetched;
     if (const auto known = context().salesReports().find(salesReportKey(raw, date))) {
         context().salesReports().update(known->id, record);
     } else {

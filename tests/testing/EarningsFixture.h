@@ -45,9 +45,10 @@ class ShortReports {
 
     /// Puts a report with these lines and status ok into the store, in place of what was there.
     void report(ReportFrequency frequency, const std::string& date, const std::vector<Line>& lines,
-                ReportStatus status = ReportStatus::ok);
+                ReportStatus status = ReportStatus::ok, const std::string& fetched = {});
     void parsedReport(ReportFrequency frequency, const std::string& date,
-                      const std::vector<SalesRowView>& rows, ReportStatus status = ReportStatus::ok);
+                      const std::vector<SalesRowView>& rows, ReportStatus status = ReportStatus::ok,
+                      Instant fetched = distantPast);
     void daily(const std::string& date, const std::vector<Line>& lines) {
         report(ReportFrequency::daily, date, lines);
     }
