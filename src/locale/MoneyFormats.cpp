@@ -30,6 +30,13 @@ Precision axisDigits() {
     return Precision::minMaxFraction(2, 4).trailingZeroDisplay(UNUM_TRAILING_ZERO_HIDE_IF_WHOLE);
 }
 
+/// With the locale's own grouping, since not every locale has a short form for thousands.
+LocalizedNumberFormatter compactOf(const LocalizedNumberFormatter& format) {
+    return format.notation(Notation::compactShort())
+        .precision(Precision::maxFraction(2))
+        .grouping(UNUM_GROUPING_AUTO);
+}
+
 icu::CurrencyUnit unitOf(std::string_view currency) {
     UErrorCode status = U_ZERO_ERROR;
     icu::CurrencyUnit unit(piece(currency), status);
@@ -59,8 +66,7 @@ std::string afterCode(std::string_view code, const std::string& number) {
 MoneyFormats::MoneyFormats(const icu::Locale& locale)
     : base_(amountsOf(locale)),
       plain_{base_.precision(Precision::fixedFraction(2)), base_.precision(Precision::integer()),
-             base_.precision(Precision::fixedFraction(2)), base_.precision(axisDigits()),
-             base_.notation(Notation::compactShort()).precision(Precision::maxFraction(2))} {}
+             base_.precision(Precision::fixedFraction(2)), base_.precision(axisDigits()), compactOf(base_)} {}
 
 std::string MoneyFormats::money(const Decimal& amount, std::string_view currency) const {
     const auto* forms = formsOf(currency);
@@ -112,8 +118,7 @@ const MoneyFormats::Forms* MoneyFormats::formsOf(std::string_view currency) cons
     const auto format = base_.unit(unitOf(currency));
     const auto usual = format.precision(Precision::currency(UCURR_USAGE_STANDARD));
     Forms forms{usual, format.precision(Precision::integer()), usual.unitWidth(UNUM_UNIT_WIDTH_FULL_NAME),
-                format.precision(axisDigits()),
-                format.notation(Notation::compactShort()).precision(Precision::maxFraction(2))};
+                format.precision(axisDigits()), compactOf(format)};
     return &byCurrency_.emplace(currency, std::move(forms)).first->second;
 }
 
