@@ -163,27 +163,27 @@ class Session {
 
 void takeSyncing(const TourParts& tour, const Visit& visit) {
     SilentHttp http(tour.parts.clock);
-    SideProgram side(tour.parts, http, tour.windowParts, SideProgram::Key::stored, tour.storeFile);
+    SideProgram side(tour, http, SideProgram::Key::stored, tour.storeFile);
     side.app().tasks().spawn(side.app().engine().runSync());
     visit(side.window(), "dashboard-syncing");
 }
 
 void takeError(const TourParts& tour, const Visit& visit) {
     BusyHttp http;
-    SideProgram side(tour.parts, http, tour.windowParts, SideProgram::Key::stored, tour.storeFile);
+    SideProgram side(tour, http, SideProgram::Key::stored, tour.storeFile);
     side.app().tasks().spawn(side.app().engine().runSync());
     visit(side.window(), "dashboard-error");
 }
 
 void takeEmpty(const TourParts& tour, const Visit& visit) {
     BusyHttp http;
-    SideProgram side(tour.parts, http, tour.windowParts, SideProgram::Key::stored);
+    SideProgram side(tour, http, SideProgram::Key::stored);
     Session(side.windows(), visit, side.app().store()).takeEmpty();
 }
 
 void takeWelcome(const TourParts& tour, const Visit& visit) {
     BusyHttp http;
-    SideProgram side(tour.parts, http, tour.windowParts, SideProgram::Key::none);
+    SideProgram side(tour, http, SideProgram::Key::none);
     visit(side.window(), "welcome");
 }
 

@@ -9,8 +9,8 @@
 
 namespace vantrell {
 
-SideProgram::SideProgram(const MyAppParts& parts, HttpClient& http, const AppWindowsParts& windowParts,
-                         Key key, const std::optional<std::filesystem::path>& storeFile)
+SideProgram::SideProgram(const TourParts& tour, HttpClient& http, Key key,
+                         const std::optional<std::filesystem::path>& storeFile)
     : folder_(temporary_.path().toStdString()), defaults_(folder_ / "defaults.json") {
     if (key == Key::stored) {
         CredentialsKeychain(secrets_).store({"issuer", "key", generateKeyPair().privatePEM, "vendor"});
@@ -20,20 +20,21 @@ SideProgram::SideProgram(const MyAppParts& parts, HttpClient& http, const AppWin
         std::filesystem::copy_file(*storeFile, ownStore);
     }
     const MyAppParts own{.http = http,
-                         .clock = parts.clock,
-                         .worker = parts.worker,
-                         .localTime = parts.localTime,
-                         .locale = parts.locale,
+                         .clock = tour.parts.clock,
+                         .worker = tour.parts.worker,
+                         .localTime = tour.parts.localTime,
+                         .locale = tour.parts.locale,
                          .secrets = secrets_,
                          .defaults = defaults_};
-    const ServiceOrigins& origins = windowParts.origins;
+    const ServiceOrigins& origins = tour.windowParts.origins;
     auto begun = MyApp::start(own, ownStore, {origins.reportService, origins.rateService});
     if (const auto* failure = std::get_if<StartFailure>(&begun)) {
         throw std::runtime_error(failure->text);
     }
     app_ = std::move(std::get<std::unique_ptr<MyApp>>(begun));
+    app_->store().setDisplayCurrency(tour.app.store().displayCurrency());
     app_->store().reload(app_->context());
-    windows_ = std::make_unique<AppWindows>(*app_, own, windowParts);
+    windows_ = std::make_unique<AppWindows>(*app_, own, tour.windowParts);
     windows_->mainWindow().show();
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "core/AppWindows.h"
 #include "files/JsonDefaults.h"
-#include "screens/Appearance.h"
 #include "secrets/MemorySecretStore.h"
+#include "trial/ScreenTour.h"
 
 #include <filesystem>
 #include <memory>
@@ -19,10 +18,9 @@ class SideProgram {
   public:
     enum class Key { stored, none };
 
-    /// `parts` are those of the trial but for store, secrets and settings; `http` answers in place of its
-    /// service. The store is empty, or a copy of `storeFile`. Throws std::runtime_error if it can't be
-    /// opened.
-    SideProgram(const MyAppParts& parts, HttpClient& http, const AppWindowsParts& windowParts, Key key,
+    /// All is as in the trial but for store, secrets and settings; `http` answers in place of its service.
+    /// The store is empty, or a copy of `storeFile`. Throws std::runtime_error if it can't be opened.
+    SideProgram(const TourParts& tour, HttpClient& http, Key key,
                 const std::optional<std::filesystem::path>& storeFile = std::nullopt);
 
     [[nodiscard]] MyApp& app() { return *app_; }
