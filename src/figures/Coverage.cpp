@@ -19,6 +19,15 @@ DayCounts dayCounts(const Snapshot& snapshot, const std::string& from, const std
     return counts;
 }
 
+std::vector<CoveredDay> coveredDays(const Snapshot& snapshot, const ReportCalendar& calendar) {
+    std::vector<CoveredDay> covered;
+    covered.reserve(daysOfBackfill);
+    for (const KeyedDay& day : days(calendar.dayKey(daysOfBackfill), calendar.dayKey(1))) {
+        covered.push_back({day.day, snapshot.dailyStatus(day.key)});
+    }
+    return covered;
+}
+
 bool Coverage::isWhole() const {
     return days.failed == 0 && days.missing == 0 && knownMonths == monthsOfBackfill;
 }

@@ -67,6 +67,7 @@ std::string sourceText(const PeriodStat& period) {
         case PeriodSource::yearToDate:
             return "From daily reports · YTD";
         case PeriodSource::monthlyReport:
+        case PeriodSource::disputedMonthlyReport:
             return "Monthly report";
         case PeriodSource::yearlyReport:
             return "Yearly report";

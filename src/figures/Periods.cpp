@@ -14,16 +14,29 @@ namespace {
 
 constexpr int finishedMonths = 12;
 
+/// What tells two sums of the same sales apart.
+AggregateStats withoutZeros(AggregateStats stats) {
+    std::erase_if(stats.proceedsByCurrency, [](const auto& entry) { return entry.second.isZero(); });
+    return stats;
+}
+
 PeriodStat finishedMonth(const SharedSnapshot& snapshot, const std::string& month, const AppFilter& apps) {
-    if (std::ranges::binary_search(snapshot->monthlyOKLabels, month)) {
-        return {month, PeriodSource::monthlyReport,
-                reportRows(snapshot, ReportFrequency::monthly, month, apps).aggregate()};
-    }
     const CivilDate first = dateFromDayKey(month + "-01").value();
     const std::string from = dayKey(first);
     const std::string to = dayKey(first.year() / first.month() / std::chrono::last);
-    PeriodStat stat{month, PeriodSource::dailyReports, dailyRows(snapshot, from, to, apps).aggregate()};
-    if (const DayCounts counts = dayCounts(*snapshot, from, to); counts.known < counts.days) {
+    const DayCounts counts = dayCounts(*snapshot, from, to);
+    const bool areKnown = counts.known == counts.days;
+    const AggregateStats ofDays = dailyRows(snapshot, from, to, apps).aggregate();
+    if (std::ranges::binary_search(snapshot->monthlyOKLabels, month)) {
+        PeriodStat stat{month, PeriodSource::monthlyReport,
+                        reportRows(snapshot, ReportFrequency::monthly, month, apps).aggregate()};
+        if (areKnown && withoutZeros(stat.stats) != withoutZeros(ofDays)) {
+            stat.source = PeriodSource::disputedMonthlyReport;
+        }
+        return stat;
+    }
+    PeriodStat stat{month, PeriodSource::dailyReports, ofDays};
+    if (!areKnown) {
         stat.source = PeriodSource::someDailyReports;
         stat.days = counts.days;
         stat.fetchedDays = counts.known;

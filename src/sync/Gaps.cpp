@@ -23,7 +23,12 @@ class OpenReports {
         std::vector<SalesReportRequest> open;
         for (int offset = 1; offset <= daysOfBackfill; ++offset) {
             if (const auto day = movedByDays(today_, -offset)) {
-                addIfOpen({ReportFrequency::daily, dayKey(*day)}, *day, settlingDaysOfDay, open);
+                SalesReportRequest request{ReportFrequency::daily, dayKey(*day)};
+                const bool isDoubted =
+                    basis_.monthDoubts.concern(request.reportDate) && !asked_.contains(request.logKey());
+                if (isDoubted || isOpen(request, *day, settlingDaysOfDay)) {
+                    open.push_back(std::move(request));
+                }
             }
         }
         return open;

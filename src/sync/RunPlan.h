@@ -1,5 +1,6 @@
 #pragma once
 
+#include "MonthDoubts.h"
 #include "ReportRequests.h"
 #include "calendar/ReportCalendar.h"
 #include "calendar/YearMonth.h"
@@ -29,6 +30,7 @@ struct RunBasis {
     const Clock& clock;
     ReportCalendar calendar;
     const ModelContext& store;
+    const MonthDoubts& monthDoubts;
 };
 
 /// One step after another. Each is worked out when it is its turn, from the day that it is then and from what

@@ -2,6 +2,7 @@
 
 #include "Intake.h"
 #include "LastRun.h"
+#include "MonthDoubts.h"
 #include "RunPlan.h"
 #include "RunTally.h"
 #include "calendar/ReportSchedule.h"
@@ -32,6 +33,7 @@ SyncEngine::SyncEngine(const SyncEngineParts& parts, const SyncEngineSettings& s
       intake_(std::make_unique<Intake>(
           IntakeParts{parts.context, parts.http, parts.clock, parts.worker, client_, settings.rateService,
                       life_.token(), [this] { Q_EMIT syncLogChanged(); }, settings.othersWrite})) {
+    monthDoubts_ = std::make_unique<MonthDoubts>(context_, clock_, defaults_, life_.token());
     lastRun_ = keptLastRun(defaults_, clock_.now());
 }
 
@@ -95,7 +97,7 @@ QCoro::Task<> SyncEngine::refetchFinance(std::string fiscalPeriod) {
 }
 
 QCoro::Task<> SyncEngine::refreshRates(bool force) {
-    if (force || areRatesDue({clock_, calendar_, context_})) {
+    if (force || areRatesDue(basis())) {
         RunStep step{RatesRequest{}};
         co_await perform(std::move(step));
     }
@@ -125,15 +127,14 @@ QCoro::Task<> SyncEngine::carryOut(RunKind kind, RunPlan plan) {
     if (!begin()) {
         co_return;
     }
-    const RunBasis basis{clock_, calendar_, context_};
-    if (std::exchange(ratesComeFirst_, false) && areRatesDue(basis)) {
+    if (std::exchange(ratesComeFirst_, false) && areRatesDue(basis())) {
         RunStep step{RatesRequest{}};
         co_await perform(std::move(step));
         if (isClosing()) {
             co_return;
         }
     }
-    RunSteps steps = plan.steps(basis);
+    RunSteps steps = plan.steps(basis());
     for (const RunStep& step : steps) {
         if (step.isReport() && (stopRequested_ || (step.isGap && mustSpareRequests()))) {
             continue;
@@ -149,6 +150,10 @@ QCoro::Task<> SyncEngine::carryOut(RunKind kind, RunPlan plan) {
         }
     }
     finish(kind);
+}
+
+RunBasis SyncEngine::basis() const {
+    return {clock_, calendar_, context_, *monthDoubts_};
 }
 
 bool SyncEngine::begin() {
@@ -187,8 +192,8 @@ QCoro::Task<> SyncEngine::perform(RunStep step) {
     if (isClosing()) {
         co_return;
     }
-    IntakeResult result = co_await std::visit(
-        [this](auto& request) { return intake_->take(std::move(request)); }, step.request);
+    IntakeResult result =
+        co_await std::visit([this](const auto& request) { return intake_->take(request); }, step.request);
     if (isClosing()) {
         co_return;
     }
@@ -199,7 +204,11 @@ QCoro::Task<> SyncEngine::perform(RunStep step) {
     if (result.isStored) {
         bumpRevision(!step.isReport());
     }
-    if (step.isReport() && !isLimited) {
+    const auto* const sales = std::get_if<SalesReportRequest>(&step.request);
+    if (result.isStored && sales != nullptr && sales->frequency == ReportFrequency::monthly) {
+        co_await monthDoubts_->compare(sales->reportDate);
+    }
+    if (step.isReport() && !isLimited && !isClosing()) {
         co_await clock_.sleep(pause_, life_.token());
     }
 }

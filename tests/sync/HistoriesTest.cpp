@@ -38,24 +38,36 @@ class Service {
         }
         const CivilDate first = dateFromDayKey(kind == "DAILY" ? label : label + "-01").value();
         const CivilDate last = kind == "DAILY" ? first : first.year() / first.month() / std::chrono::last;
-        return published(last, days(kind == "DAILY" ? 0 : 5), keptDays, now, label);
+        const HttpResult answer = published(last, days(kind == "DAILY" ? 0 : 5), keptDays, now, label);
+        const auto* const report = std::get_if<HttpResponse>(&answer);
+        return kind == "MONTHLY" && report != nullptr && report->status == 200 ? ofItsDays(first, last)
+                                                                               : answer;
     }
 
   private:
+    static std::size_t chanceOf(const std::string& label) { return std::hash<std::string>()(label); }
+    static bool hasNoSales(const std::string& label) { return chanceOf(label) % 7 == 0; }
+    static int linesOf(const std::string& label) { return static_cast<int>(chanceOf(label) % 3) + 1; }
+    static HttpResult ofItsDays(CivilDate first, CivilDate last) {
+        int lines = 0;
+        for (const KeyedDay& day : vantrell::days(dayKey(first), dayKey(last))) {
+            lines += hasNoSales(day.key) ? 0 : linesOf(day.key);
+        }
+        return EngineFixture::sales(lines);
+    }
     static HttpResult published(CivilDate lastDay, days delay, days kept, Instant now,
                                 const std::string& label, bool isPeriod = false) {
         const auto end = sys_days(lastDay) + days(1) + hours(9);
-        const std::size_t chance = std::hash<std::string>()(label);
         if (now < end + delay) {
             return EngineFixture::notYet();
         }
         if (kept != days::max() && now >= end + kept) {
             return EngineFixture::error(410, "Report is no longer available.");
         }
-        if (chance % 7 == 0 || (chance % 5 == 0 && now < end + delay + days(2))) {
+        if (hasNoSales(label) || (chanceOf(label) % 5 == 0 && now < end + delay + days(2))) {
             return EngineFixture::error(404, "There were no sales for the date specified.");
         }
-        return isPeriod ? EngineFixture::finance("") : EngineFixture::sales(static_cast<int>(chance % 3) + 1);
+        return isPeriod ? EngineFixture::finance("") : EngineFixture::sales(linesOf(label));
     }
 };
 

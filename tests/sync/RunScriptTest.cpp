@@ -101,10 +101,18 @@ class RunScript {
         }
     }
 
+    [[nodiscard]] MonthDoubts monthDoubts() const {
+        return {fixture_->context(), fixture_->clock, fixture_->defaults, {}};
+    }
+    [[nodiscard]] RunBasis basis(const MonthDoubts& doubts) const {
+        return {fixture_->clock, ReportCalendar(fixture_->clock, fixture_->localTime), fixture_->context(),
+                doubts};
+    }
+
     /// As if every report that the service may still have were stored.
     void settle() {
-        const RunBasis basis{fixture_->clock, ReportCalendar(fixture_->clock, fixture_->localTime),
-                             fixture_->context()};
+        const MonthDoubts doubts = monthDoubts();
+        const RunBasis basis = this->basis(doubts);
         RunSteps steps = backfillSteps(basis);
         for (const RunStep& step : steps) {
             if (const auto* sales = std::get_if<SalesReportRequest>(&step.request)) {
@@ -183,8 +191,8 @@ class RunScript {
     }
 
     void tellPlan(const std::string& verb, const std::string& what) {
-        const RunBasis basis{fixture_->clock, ReportCalendar(fixture_->clock, fixture_->localTime),
-                             fixture_->context()};
+        const MonthDoubts doubts = monthDoubts();
+        const RunBasis basis = this->basis(doubts);
         RunSteps steps = verb == "sync"       ? ordinarySteps(basis)
                          : verb == "backfill" ? backfillSteps(basis)
                                               : monthAgain(parseYearMonth(what).value(), what, basis);

@@ -114,6 +114,13 @@
     </message>
 </context>
 <context>
+    <name>CoverageStripView</name>
+    <message>
+        <source>Days of the last year</source>
+        <translation>Tage des letzten Jahres</translation>
+    </message>
+</context>
+<context>
     <name>CoverageWords</name>
     <message numerus="yes">
         <source>%1 of %2 days</source>
@@ -156,6 +163,14 @@
             <numerusform>%1 Tag nicht abgerufen</numerusform>
             <numerusform>%1 Tage nicht abgerufen</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Sales</source>
+        <translation>Verkäufe</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
     </message>
 </context>
 <context>
@@ -609,6 +624,10 @@
             <numerusform>Aus Tagesberichten · %1 von %2 Tag</numerusform>
             <numerusform>Aus Tagesberichten · %1 von %2 Tagen</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Monthly report · differs from its days</source>
+        <translation>Monatsbericht · weicht von seinen Tagen ab</translation>
     </message>
 </context>
 <context>

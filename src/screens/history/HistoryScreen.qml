@@ -20,6 +20,10 @@ BlockView {
             font.pixelSize: Theme.callout
             color: Theme.secondary
         }
+        CoverageStripView {
+            width: parent.width
+            strip: screen.history.strip
+        }
         PushButton {
             visible: !screen.history.isWhole
             text: qsTr("Fetch What Is Missing")

@@ -38,6 +38,7 @@ void HistoryView::refresh() {
     const Coverage stored = vantrell::coverage(*snapshot(), store().calendar());
     coverage_ = coverageText(locale(), stored);
     isWhole_ = stored.isWhole();
+    strip_.show(coveredDays(*snapshot(), store().calendar()));
     Q_EMIT coverageChanged();
     BlockBuilder rows;
     rows.addText(RowKind::Heading, tr("By year"));

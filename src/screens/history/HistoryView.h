@@ -4,6 +4,7 @@
 #include "figures/Products.h"
 #include "screens/BlockList.h"
 #include "screens/Screen.h"
+#include "screens/history/CoverageStrip.h"
 
 #include <vector>
 
@@ -15,6 +16,7 @@ class HistoryView : public vantrell::Screen {
     QML_ELEMENT
     QML_UNCREATABLE("made by RootView")
     Q_PROPERTY(vantrell::BlockList* rows READ rows CONSTANT)
+    Q_PROPERTY(vantrell::CoverageStrip* strip READ strip CONSTANT)
     Q_PROPERTY(QString coverage READ coverage NOTIFY coverageChanged)
     Q_PROPERTY(bool isWhole READ isWhole NOTIFY coverageChanged)
     Q_PROPERTY(bool canFetch READ canFetch NOTIFY canFetchChanged)
@@ -23,6 +25,7 @@ class HistoryView : public vantrell::Screen {
     explicit HistoryView(const ScreenParts& parts, QObject* parent = nullptr);
 
     [[nodiscard]] BlockList* rows() { return &rows_; }
+    [[nodiscard]] CoverageStrip* strip() { return &strip_; }
     /// How much of what the service keeps is stored, whichever apps are chosen.
     [[nodiscard]] QString coverage() const { return coverage_; }
     [[nodiscard]] bool isWhole() const { return isWhole_; }
@@ -42,6 +45,7 @@ class HistoryView : public vantrell::Screen {
     std::vector<PeriodStat> months_;
     std::vector<ProductStat> products_;
     BlockList rows_;
+    CoverageStrip strip_{locale()};
     QString coverage_;
     bool isWhole_ = true;
 };

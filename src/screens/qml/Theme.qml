@@ -57,6 +57,17 @@ QtObject {
     readonly property real controlHeight: 32
     readonly property int quick: reducesMotion ? 0 : 120
 
+    // What is known of a day.
+    function covered(status) {
+        switch (status) {
+        case "ok": return chartProceeds
+        case "empty": return dark ? "#2B4368" : "#B9D0F2"
+        case "pending": return dark ? "#8A6236" : "#EFC38F"
+        case "error": return bad
+        case "unavailable": return chartMissing
+        default: return "transparent"
+        }
+    }
     function tone(value) {
         switch (value) {
         case Tone.Secondary: return secondary

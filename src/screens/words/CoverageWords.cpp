@@ -1,6 +1,7 @@
 #include "screens/words/CoverageWords.h"
 
 #include "screens/components/ShownText.h"
+#include "screens/words/StatusLabel.h"
 #include "screens/words/UnitsCaption.h"
 
 #include <QCoreApplication>
@@ -47,6 +48,17 @@ QString lackingDaysText(const Locale& locale, const DayCounts& days) {
                      .arg(fromUtf8(locale.count(days.missing)));
     }
     return parts.join(captionJoiner());
+}
+
+QString coveredText(ReportStatus status) {
+    switch (status) {
+        case ReportStatus::ok:
+            return CoverageWords::tr("Sales");
+        case ReportStatus::error:
+            return CoverageWords::tr("Failed");
+        default:
+            return statusLabel(status).text;
+    }
 }
 
 }  // namespace vantrell

@@ -14,5 +14,7 @@ namespace vantrell {
 [[nodiscard]] QString knownDaysText(const Locale& locale, const DayCounts& days);
 /// What lacks of the days that figures are made of, such as "3 days failed"; empty where nothing does.
 [[nodiscard]] QString lackingDaysText(const Locale& locale, const DayCounts& days);
+/// What is known of a day: "Sales" or "Failed", else as rows say it.
+[[nodiscard]] QString coveredText(ReportStatus status);
 
 }  // namespace vantrell

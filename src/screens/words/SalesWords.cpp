@@ -47,6 +47,8 @@ QString sourceLabel(const Locale& locale, const PeriodStat& period) {
             return SalesWords::tr("From daily reports · YTD");
         case PeriodSource::monthlyReport:
             return SalesWords::tr("Monthly report");
+        case PeriodSource::disputedMonthlyReport:
+            return SalesWords::tr("Monthly report · differs from its days");
         case PeriodSource::yearlyReport:
             return SalesWords::tr("Yearly report");
     }

@@ -4,6 +4,7 @@
 #include "figures/Snapshot.h"
 
 #include <string>
+#include <vector>
 
 namespace vantrell {
 
@@ -17,6 +18,14 @@ struct DayCounts {
 
 /// Of the days from `from` to `to`, both day keys included.
 [[nodiscard]] DayCounts dayCounts(const Snapshot& snapshot, const std::string& from, const std::string& to);
+
+struct CoveredDay {
+    CivilDate day;
+    ReportStatus status = ReportStatus::missing;
+};
+
+/// The days whose reports the service keeps, up to yesterday, oldest first.
+[[nodiscard]] std::vector<CoveredDay> coveredDays(const Snapshot& snapshot, const ReportCalendar& calendar);
 
 /// How much of what the service keeps is stored.
 struct Coverage {

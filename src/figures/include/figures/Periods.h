@@ -17,6 +17,7 @@ enum class PeriodSource {
     monthToDate,
     yearToDate,
     monthlyReport,
+    disputedMonthlyReport,  ///< all of its days are known, and they say something else
     yearlyReport,
 };
 

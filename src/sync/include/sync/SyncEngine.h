@@ -26,8 +26,10 @@
 namespace vantrell {
 
 class Intake;
+class MonthDoubts;
 class RunTally;
 struct IntakeResult;
+struct RunBasis;
 struct RunPlan;
 struct RunStep;
 
@@ -131,6 +133,7 @@ class SyncEngine : public QObject {
 
   private:
     [[nodiscard]] QCoro::Task<> carryOut(RunKind kind, RunPlan plan);
+    [[nodiscard]] RunBasis basis() const;
     [[nodiscard]] bool begin();
     void finish(RunKind kind);
     [[nodiscard]] QCoro::Task<> perform(RunStep step);
@@ -150,6 +153,7 @@ class SyncEngine : public QObject {
     ASCClient client_;
     Account account_;
     std::unique_ptr<Intake> intake_;
+    std::unique_ptr<MonthDoubts> monthDoubts_;
     std::unique_ptr<RunTally> tally_;                            ///< of the run under way
     std::optional<std::chrono::microseconds> lastRevisionBump_;  ///< by the monotonic clock
     bool stopRequested_ = false;
