@@ -16,10 +16,9 @@ TEST(CredentialsKeychain, KeepsFourTextsInOneItemInTheirOrder) {
     keychain.store({"old", "old", "old", "old"});
     keychain.store(sample);
     EXPECT_EQ(keychain.load().credentials, sample);
-    const auto item = std::get<std::string>(secrets.read(service, account));
-    EXPECT_LT(item.find("issuerID"), item.find("keyID"));
-    EXPECT_LT(item.find("keyID"), item.find("privateKeyPEM"));
-    EXPECT_LT(item.find("privateKeyPEM"), item.find("vendorNumber"));
+    EXPECT_EQ(std::get<std::string>(secrets.read(service, account)),
+              R"({"issuerID":"issuer","keyID":"key","privateKeyPEM":"-----BEGIN\n\"pem\"\r\n/+=",)"
+              R"("vendorNumber":"6041"})");
     keychain.remove();
     EXPECT_EQ(keychain.load().credentials, std::nullopt);
 }

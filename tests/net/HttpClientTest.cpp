@@ -138,18 +138,6 @@ std::string redirect(int status, const std::string& location) {
            "\r\nContent-Length: 5\r\n\r\nmoved";
 }
 
-TEST(HttpClient, SendsNothingElsewhereWhenRedirectsAreRefused) {
-    for (const int status : {301, 302, 307}) {
-        RawServer other(sending("HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n"));
-        RawServer server(sending(redirect(status, other.url("/taken"))));
-        auto request = requestTo(server);
-        request.headers = {{"Authorization", "Bearer token"}};
-        EXPECT_EQ(fetch(request), HttpResult(HttpResponse{status, "moved"}));
-        EXPECT_THAT(server.requests, SizeIs(1)) << status;
-        EXPECT_THAT(other.requests, IsEmpty()) << status;
-    }
-}
-
 TEST(HttpClient, FollowsRedirectsButTakesTheTokenToNoOtherHost) {
     std::deque<std::string> answers;
     const auto nextAnswer = [&answers](QTcpSocket& socket) {

@@ -110,27 +110,6 @@ TEST_F(ASCClientTest, NeitherAThirdAttemptIsMadeNorAVersionReplacedThatTheCaller
     EXPECT_EQ(asked("version"), (std::vector<std::string>{"1_1", "1_0", "1_3"}));
 }
 
-TEST_F(ASCClientTest, EveryOtherAnswerIsReportedAfterOneRequest) {
-    const struct {
-        const char* name;
-        HttpResult answer;
-        ReportResponse expected;
-    } cases[] = {
-        {"a body as it was sent", HttpResponse{200, "a\xFF"}, response::Success{"a\xFF"}},
-        {"a redirect", HttpResponse{302, "moved"}, response::Failure{"HTTP 302: moved"}},
-        {"not HTTP", HttpResponse{std::nullopt, "220 ftp"}, response::Failure{"no HTTP response"}},
-        {"no network", HttpFailure{HttpFailure::Kind::refused},
-         response::Failure{"The server refused the connection.", HttpFailure{HttpFailure::Kind::refused}}},
-    };
-    for (const auto& [name, answer, expected] : cases) {
-        http.requests.clear();
-        http.answers = {answer};
-        const ReportResponse actual = dailySales();
-        EXPECT_TRUE(actual == expected) << name;
-        EXPECT_EQ(http.requests.size(), 1U) << name;
-    }
-}
-
 TEST_F(ASCClientTest, TellsHowManyRequestsAreLeftAndWhetherAClockIsWrong) {
     const struct {
         const char* limit;
@@ -229,6 +208,11 @@ TEST_F(ASCClientTest, NewCredentialsNeverTravelWithAnOldToken) {
     static_cast<void>(dailySales());
     EXPECT_EQ(asked("vendorNumber"), (std::vector<std::string>{"60419372", "604193720"}));
     EXPECT_NE(bearer(0), bearer(1));
+}
+
+TEST_F(ASCClientTest, WhatIsNoHttpIsAFailure) {
+    http.answers = {HttpResponse{std::nullopt, "220 ftp"}};
+    EXPECT_TRUE(dailySales() == ReportResponse(response::Failure{"no HTTP response"}));
 }
 
 TEST_F(ASCClientTest, CancellingEndsTheFetchAsAFailure) {

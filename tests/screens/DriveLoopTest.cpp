@@ -102,6 +102,8 @@ TEST_F(DriveLoopTest, TriesAKeyringThatCouldNotBeReadAgainNowAndThen) {
     fixture.secrets.setUnreadable("locked");
     loop.reset();
     fixture.restart();
+    fixture.engine().account().readAgain();
+    EXPECT_EQ(fixture.engine().account().problem(), "locked");
     loop = std::make_unique<DriveLoop>(
         DriveLoop::Parts{fixture.engine(), store, fixture.context(), fixture.clock, fixture.tasks()});
     fixture.secrets.setUnreadable(std::nullopt);
@@ -110,6 +112,7 @@ TEST_F(DriveLoopTest, TriesAKeyringThatCouldNotBeReadAgainNowAndThen) {
     fixture.clock.advance(std::chrono::seconds(30));
     loop->becameActive();
     EXPECT_TRUE(fixture.engine().hasCredentials());
+    EXPECT_EQ(fixture.engine().account().problem(), std::nullopt);
 }
 
 TEST_F(DriveLoopTest, EndsItsWaitWithTheWindow) {

@@ -33,20 +33,5 @@ TEST(Credentials, ThatCanNotBeSavedLeaveTheOldOnesInForce) {
     EXPECT_EQ(fixture.requests().size(), 1U);
 }
 
-TEST(Credentials, ThatCouldNotBeReadAreReadAgain) {
-    EngineFixture fixture;
-    for (const bool isReadable : {false, true}) {
-        fixture.secrets.setUnreadable("The keyring is locked");
-        fixture.restart();
-        EXPECT_TRUE(fixture.engine().account().problem());
-        if (isReadable) {
-            fixture.secrets.setUnreadable(std::nullopt);
-        }
-        fixture.engine().account().readAgain();
-        EXPECT_EQ(fixture.engine().hasCredentials(), isReadable);
-        EXPECT_EQ(fixture.engine().account().problem().has_value(), !isReadable);
-    }
-}
-
 }  // namespace
 }  // namespace vantrell

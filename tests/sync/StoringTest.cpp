@@ -103,20 +103,6 @@ TEST(StoringAReport, KeepsAFresherCopyThatCameWhileTheRequestWasOut) {
     }
 }
 
-TEST(StoringAReport, CutsTheLoggedMessageAt1000CharactersAndKeepsTheWholeInTheReport) {
-    EngineFixture fixture;
-    std::string detail;
-    for (int count = 0; count < 1100; ++count) {
-        detail += "ä";
-    }
-    fixture.answers[std::string("DAILY ") + day] = EngineFixture::error(500, detail);
-    fixture.run(fixture.engine().refetchDay(*dateFromDayKey(day)));
-    const std::string prefix = "HTTP 500: ";
-    EXPECT_EQ(fixture.context().syncLog().all().begin()->second.message.size(),
-              prefix.size() + 2 * (1000 - prefix.size()));
-    EXPECT_EQ(fixture.daily(day).message, prefix + detail);
-}
-
 TEST(StoringAReport, GoesOnWhenASaveFailsAndSavesEverythingWithTheNextOne) {
     testing::FaultyVfs vfs("faulty-sync");
     EngineFixture fixture(vfs.name());
