@@ -53,6 +53,7 @@ FocusScope {
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Line items")
         T.ScrollBar.vertical: ScrollLine {}
+        readonly property ReadingOrder order: ReadingOrder { content: lines.contentItem }
         header: DaySummary {
             width: lines.width - 32
             day: detail.day

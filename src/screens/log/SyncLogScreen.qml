@@ -27,6 +27,7 @@ ListView {
     highlightMoveDuration: Theme.quick
     model: list.log.rows
     T.ScrollBar.vertical: ScrollLine {}
+    readonly property ReadingOrder order: ReadingOrder { content: list.contentItem }
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Sync Log")
     delegate: SyncLogLine { width: list.rowWidth }

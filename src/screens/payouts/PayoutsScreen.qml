@@ -36,6 +36,7 @@ Item {
         highlightMoveDuration: Theme.quick
         model: screen.model.rows
         T.ScrollBar.vertical: ScrollLine {}
+        readonly property ReadingOrder order: ReadingOrder { content: list.contentItem }
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Finance reports")
         header: PlainText {

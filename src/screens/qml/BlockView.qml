@@ -60,4 +60,6 @@ ListView {
         }
     }
     T.ScrollBar.vertical: ScrollLine {}
+
+    readonly property ReadingOrder order: ReadingOrder { content: list.contentItem }
 }
