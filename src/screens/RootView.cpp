@@ -15,7 +15,7 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
       driveLoop_({parts.engine, parts.store, parts.context, parts.clock, parts.tasks}),
       icons_({parts.http, parts.defaults, parts.locale}, parts.origins.lookupService),
       filter_(parts.store, parts.locale),
-      syncButton_(parts.engine, parts.tasks),
+      syncButton_(parts),
       breakdown_(parts),
       dashboard_(parts),
       apps_(parts, icons_),

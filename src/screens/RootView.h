@@ -11,7 +11,7 @@
 #include "screens/apps/AppsView.h"
 #include "screens/components/AppFilterPicker.h"
 #include "screens/components/CurrencyBreakdown.h"
-#include "screens/components/SyncToolbarButton.h"
+#include "screens/components/SyncButton.h"
 #include "screens/dashboard/DashboardView.h"
 #include "screens/history/HistoryView.h"
 #include "screens/payouts/PayoutsView.h"
@@ -51,7 +51,7 @@ class RootView : public QObject {
     Q_PROPERTY(vantrell::Tone::Value storeTone READ storeTone NOTIFY storeNoticeChanged)
     Q_PROPERTY(bool isSyncing READ isSyncing NOTIFY footerChanged)
     Q_PROPERTY(vantrell::AppFilterPicker* filter READ filter CONSTANT)
-    Q_PROPERTY(vantrell::SyncToolbarButton* syncButton READ syncButton CONSTANT)
+    Q_PROPERTY(vantrell::SyncButton* syncButton READ syncButton CONSTANT)
     Q_PROPERTY(vantrell::CurrencyBreakdown* breakdown READ breakdown CONSTANT)
     Q_PROPERTY(vantrell::DashboardView* dashboard READ dashboard CONSTANT)
     Q_PROPERTY(vantrell::AppsView* apps READ apps CONSTANT)
@@ -100,7 +100,7 @@ class RootView : public QObject {
     [[nodiscard]] Tone::Value storeTone() const;
 
     [[nodiscard]] AppFilterPicker* filter() { return &filter_; }
-    [[nodiscard]] SyncToolbarButton* syncButton() { return &syncButton_; }
+    [[nodiscard]] SyncButton* syncButton() { return &syncButton_; }
     [[nodiscard]] CurrencyBreakdown* breakdown() { return &breakdown_; }
     [[nodiscard]] DashboardView* dashboard() { return &dashboard_; }
     [[nodiscard]] AppsView* apps() { return &apps_; }
@@ -141,7 +141,7 @@ class RootView : public QObject {
     RowList destinations_;
     std::optional<Destination::Value> selection_;
     AppFilterPicker filter_;
-    SyncToolbarButton syncButton_;
+    SyncButton syncButton_;
     CurrencyBreakdown breakdown_;
     DashboardView dashboard_;
     AppsView apps_;

@@ -5,6 +5,7 @@ ScreenScroll {
     id: screen
 
     required property DashboardView model
+    required property SyncButton syncButton
 
     SyncBannerRow {
         width: parent.width
@@ -27,8 +28,8 @@ ScreenScroll {
             anchors.horizontalCenter: parent.horizontalCenter
             prominent: true
             text: qsTr("Fetch Reports")
-            enabled: screen.model.canFetch
-            onClicked: screen.model.fetch()
+            enabled: screen.syncButton.isEnabled
+            onClicked: screen.syncButton.press()
         }
     }
     TileGrid {

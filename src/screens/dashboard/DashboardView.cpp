@@ -19,10 +19,8 @@ DashboardView::DashboardView(const ScreenParts& parts, QObject* parent)
       chart_({parts.store, parts.locale}, tr("Last 30 days")) {
     chart_.setOnSelectDay([this](const std::string& key) { selectedDay_.open(key, store().appFilter()); });
     connect(&engine(), &SyncEngine::lastErrorChanged, this, &DashboardView::errorChanged);
-    connect(&engine().account(), &Account::hasCredentialsChanged, this, &DashboardView::canFetchChanged);
     connect(&engine(), &SyncEngine::isSyncingChanged, this, &DashboardView::refreshEmptiness);
     connect(&parts.context.health(), &StoreHealth::changed, this, &DashboardView::isEmptyChanged);
-    connect(&parts.context.health(), &StoreHealth::changed, this, &DashboardView::canFetchChanged);
 }
 
 QString DashboardView::error() const {
@@ -39,12 +37,6 @@ EmptyState DashboardView::emptyState() const {
             .symbol = QStringLiteral("chart.bar.xaxis"),
             .description = tr("Fetch a year of daily reports, plus yearly, monthly and finance reports, from "
                               "App Store Connect. The dashboard fills in as days land.")};
-}
-
-void DashboardView::fetch() {
-    if (canFetch()) {
-        parts().tasks.spawn(engine().runDue());
-    }
 }
 
 void DashboardView::refresh() {

@@ -18,7 +18,6 @@ class DashboardView : public vantrell::Screen {
     Q_PROPERTY(QString error READ error NOTIFY errorChanged)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY isEmptyChanged)
     Q_PROPERTY(vantrell::EmptyState emptyState READ emptyState NOTIFY isEmptyChanged)
-    Q_PROPERTY(bool canFetch READ canFetch NOTIFY canFetchChanged)
     Q_PROPERTY(vantrell::RowList* tiles READ tiles CONSTANT)
     Q_PROPERTY(QString lacking READ lacking NOTIFY lackingChanged)
     Q_PROPERTY(vantrell::DailyProceedsChart* chart READ chart CONSTANT)
@@ -33,9 +32,6 @@ class DashboardView : public vantrell::Screen {
     /// No line is stored and none is on its way.
     [[nodiscard]] bool isEmpty() const { return isEmpty_; }
     [[nodiscard]] EmptyState emptyState() const;
-    [[nodiscard]] bool canFetch() const {
-        return engine().hasCredentials() && !parts().context.health().isDamaged();
-    }
     [[nodiscard]] RowList* tiles() { return &tiles_; }
     /// The last 30 days.
     [[nodiscard]] DailyProceedsChart* chart() { return &chart_; }
@@ -44,13 +40,11 @@ class DashboardView : public vantrell::Screen {
     /// Which days that count in the figures aren't known, though they could be; empty if none.
     [[nodiscard]] QString lacking() const { return lacking_; }
 
-    Q_INVOKABLE void fetch();
     Q_INVOKABLE void openLog() { Q_EMIT logWanted(); }
 
   Q_SIGNALS:
     void errorChanged();
     void isEmptyChanged();
-    void canFetchChanged();
     void lackingChanged();
     void logWanted();
 

@@ -5,6 +5,7 @@ BlockView {
     id: screen
 
     required property HistoryView history
+    required property SyncButton syncButton
     focus: true
     rows: screen.history.rows
     Accessible.name: qsTr("History")
@@ -27,8 +28,8 @@ BlockView {
         PushButton {
             visible: !screen.history.isWhole
             text: qsTr("Fetch What Is Missing")
-            enabled: screen.history.canFetch
-            onClicked: screen.history.fetchMissing()
+            enabled: screen.syncButton.isEnabled
+            onClicked: screen.syncButton.press()
         }
     }
 }

@@ -10,22 +10,6 @@
 
 namespace vantrell {
 
-HistoryView::HistoryView(const ScreenParts& parts, QObject* parent) : Screen(parts, parent) {
-    connect(&engine(), &SyncEngine::isSyncingChanged, this, &HistoryView::canFetchChanged);
-    connect(&engine().account(), &Account::hasCredentialsChanged, this, &HistoryView::canFetchChanged);
-    connect(&parts.context.health(), &StoreHealth::changed, this, &HistoryView::canFetchChanged);
-}
-
-bool HistoryView::canFetch() const {
-    return engine().hasCredentials() && !engine().isSyncing() && !parts().context.health().isDamaged();
-}
-
-void HistoryView::fetchMissing() {
-    if (canFetch()) {
-        parts().tasks.spawn(engine().runDue());
-    }
-}
-
 void HistoryView::refresh() {
     if (!store().isLoaded()) {
         return;

@@ -19,23 +19,18 @@ class HistoryView : public vantrell::Screen {
     Q_PROPERTY(vantrell::CoverageStrip* strip READ strip CONSTANT)
     Q_PROPERTY(QString coverage READ coverage NOTIFY coverageChanged)
     Q_PROPERTY(bool isWhole READ isWhole NOTIFY coverageChanged)
-    Q_PROPERTY(bool canFetch READ canFetch NOTIFY canFetchChanged)
 
   public:
-    explicit HistoryView(const ScreenParts& parts, QObject* parent = nullptr);
+    using Screen::Screen;
 
     [[nodiscard]] BlockList* rows() { return &rows_; }
     [[nodiscard]] CoverageStrip* strip() { return &strip_; }
     /// How much of what the service keeps is stored, whichever apps are chosen.
     [[nodiscard]] QString coverage() const { return coverage_; }
     [[nodiscard]] bool isWhole() const { return isWhole_; }
-    [[nodiscard]] bool canFetch() const;
-
-    Q_INVOKABLE void fetchMissing();
 
   Q_SIGNALS:
     void coverageChanged();
-    void canFetchChanged();
 
   private:
     void refresh() override;

@@ -91,7 +91,10 @@ T.ApplicationWindow {
                 ScreenHost {
                     root: window.root
                     model: window.root.dashboard
-                    sourceComponent: DashboardScreen { model: window.root.dashboard }
+                    sourceComponent: DashboardScreen {
+                        model: window.root.dashboard
+                        syncButton: window.root.syncButton
+                    }
                 }
                 ScreenHost {
                     id: appsHost
@@ -112,7 +115,10 @@ T.ApplicationWindow {
                 ScreenHost {
                     root: window.root
                     model: window.root.history
-                    sourceComponent: HistoryScreen { history: window.root.history }
+                    sourceComponent: HistoryScreen {
+                        history: window.root.history
+                        syncButton: window.root.syncButton
+                    }
                 }
                 ScreenHost {
                     root: window.root
