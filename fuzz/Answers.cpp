@@ -1,4 +1,3 @@
-#include "Require.h"
 #include "Targets.h"
 #include "base/Characters.h"
 #include "base/Overloaded.h"

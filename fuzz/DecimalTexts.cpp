@@ -1,4 +1,3 @@
-#include "Require.h"
 #include "Targets.h"
 #include "testing/BigDecimal.h"
 

@@ -1,4 +1,3 @@
-#include "Require.h"
 #include "Targets.h"
 #include "base/Utf8.h"
 #include "reports/FinanceParser.h"

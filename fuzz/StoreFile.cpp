@@ -1,4 +1,3 @@
-#include "Require.h"
 #include "Targets.h"
 #include "data/ModelContainer.h"
 #include "figures/SnapshotLoader.h"

@@ -1,10 +1,18 @@
 #pragma once
 
+#include <cstdlib>
 #include <map>
 #include <string>
 #include <string_view>
 
 namespace vantrell::fuzz {
+
+/// Ends the program where a promise is broken, so that the input is kept.
+inline void require(bool promise) {
+    if (!promise) {
+        std::abort();
+    }
+}
 
 /// Reads one input and ends the program where a promise is broken.
 using Target = void (*)(const std::string& input);

@@ -101,7 +101,6 @@ TEST(DisplayCurrency, IsTheChosenOneElseThatOfTheLocale) {
     fixture.store().setDisplayCurrency("CHF");
     EXPECT_EQ(fixture.store().loadRevision(), 1);
     EXPECT_EQ(fixture.another()->displayCurrency(), "CHF");
-    EXPECT_EQ(fixture.store().availableCurrencies(), std::vector<std::string>{"CHF"});
     fixture.rates({{"EUR", 1}, {"AUD", 2}});
     EXPECT_EQ(fixture.reload().availableCurrencies(), (std::vector<std::string>{"AUD", "CHF", "EUR"}));
 }

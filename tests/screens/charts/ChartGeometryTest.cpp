@@ -6,6 +6,7 @@
 namespace vantrell {
 namespace {
 
+using namespace std::chrono_literals;
 using std::chrono::days;
 using std::chrono::sys_days;
 
@@ -16,10 +17,6 @@ std::vector<CivilDate> consecutiveDays(CivilDate first, std::size_t count) {
         starts.emplace_back(sys_days(first) + days(number));
     }
     return starts;
-}
-
-CivilDate date(int year, unsigned month, unsigned day) {
-    return std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day);
 }
 
 TEST(ChartScale, HasFewRoundStepsWithZeroAmongThem) {
@@ -42,14 +39,14 @@ TEST(TimeTicks, NameShortRangesByDateAndLongOnesByMonth) {
         }
         return parts.join(QStringLiteral(", ")).toStdString();
     };
-    const auto month = timeTicks(consecutiveDays(date(2026, 10, 23), 30), TrendGranularity::day, locale);
+    const auto month = timeTicks(consecutiveDays(2026y / 10 / 23, 30), TrendGranularity::day, locale);
     ASSERT_EQ(month.size(), 5U);
     EXPECT_EQ(texts(month[2]), "1 Oct 24, 8 Oct 31, 15 Nov 7, 22 Nov 14, 29 Nov 21");
-    const auto year = timeTicks(consecutiveDays(date(2025, 11, 22), 365), TrendGranularity::day, locale);
+    const auto year = timeTicks(consecutiveDays(2025y / 11 / 22, 365), TrendGranularity::day, locale);
     EXPECT_EQ(texts(year[2]), "40 Jan 2026, 130 Apr, 221 Jul, 313 Oct");
     EXPECT_EQ(year.front().size(), 12U);
     EXPECT_TRUE(timeTicks({}, TrendGranularity::month, locale).empty());
-    const auto century = timeTicks(consecutiveDays(date(1926, 1, 1), 36'500), TrendGranularity::day, locale);
+    const auto century = timeTicks(consecutiveDays(1926y / 1 / 1, 36'500), TrendGranularity::day, locale);
     EXPECT_LE(century.front().size(), 40U);
 }
 
@@ -62,15 +59,15 @@ ChartMarks marksOf(std::vector<ChartColumn> columns, double pixel = 1) {
 
 TEST(ChartMarks, StackBarsAwayFromZero) {
     const auto marks =
-        marksOf({{date(2026, 3, 1),
+        marksOf({{2026y / 3 / 1,
                   true,
                   {{20, ChartInk::series, seriesColor(0)},
                    {-10, ChartInk::refunds, {}},
                    {10, ChartInk::series, seriesColor(1)},
                    {-5, ChartInk::refunds, {}}}},
-                 {date(2026, 3, 2), true, {{0, ChartInk::proceeds, {}}, {-50, ChartInk::refunds, {}}}},
-                 {date(2026, 3, 3), true, {{0.001, ChartInk::proceeds, {}}}},
-                 {date(2026, 3, 4), false, {}}});
+                 {2026y / 3 / 2, true, {{0, ChartInk::proceeds, {}}, {-50, ChartInk::refunds, {}}}},
+                 {2026y / 3 / 3, true, {{0.001, ChartInk::proceeds, {}}}},
+                 {2026y / 3 / 4, false, {}}});
     EXPECT_EQ(marks.zero, 50);
     ASSERT_EQ(marks.bars.size(), 6U) << "zero has no bar";
     const double heights[][2] = {{30, 50}, {50, 60}, {20, 30}, {60, 65}, {50, 100}, {49, 50}};
@@ -85,7 +82,7 @@ TEST(ChartMarks, StackBarsAwayFromZero) {
 TEST(ChartMarks, BeginAndEndAtPixelsWithoutOverlap) {
     for (const std::size_t count : {1U, 30U, 73U}) {
         const std::vector<ChartColumn> columns(count,
-                                               {date(2026, 3, 1), true, {{33.3, ChartInk::proceeds, {}}}});
+                                               {2026y / 3 / 1, true, {{33.3, ChartInk::proceeds, {}}}});
         for (const double pixel : {1.0, 0.8, 0.5}) {
             double free = 0;
             for (const BarMark& bar : marksOf(columns, pixel).bars) {
