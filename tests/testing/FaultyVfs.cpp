@@ -28,7 +28,7 @@ int readFile(sqlite3_file* file, void* bytes, int size, sqlite3_int64 offset) {
 
 int writeFile(sqlite3_file* file, const void* bytes, int size, sqlite3_int64 offset) {
     const auto& [owner, real, faulty] = methodsOf(file);
-    const int failure = owner->countWrite();
+    const int failure = owner->nextWrite();
     return failure != SQLITE_OK ? failure : real->xWrite(file, bytes, size, offset);
 }
 
@@ -36,7 +36,7 @@ int syncFile(sqlite3_file* file, int flags) {
     const auto& [owner, real, faulty] = methodsOf(file);
     // What was to be synced has got as far as the disk by then, as often as not.
     const int result = real->xSync(file, flags);
-    const int failure = owner->countSync();
+    const int failure = owner->nextSync();
     return failure != SQLITE_OK ? failure : result;
 }
 
@@ -76,25 +76,8 @@ FaultyVfs::~FaultyVfs() {
     sqlite3_vfs_unregister(&layer_->vfs);
 }
 
-void FaultyVfs::failWritesFrom(int count, int result) {
-    failFrom_ = count;
-    result_ = result;
-    writes_ = 0;
-}
-
-int FaultyVfs::countWrite() {
-    ++writes_;
-    return failFrom_ != 0 && writes_ >= failFrom_ ? result_ : SQLITE_OK;
-}
-
 void FaultyVfs::failSyncsFrom(int count) {
-    failSyncsFrom_ = count;
-    syncs_ = 0;
-}
-
-int FaultyVfs::countSync() {
-    ++syncs_;
-    return failSyncsFrom_ != 0 && syncs_ >= failSyncsFrom_ ? SQLITE_IOERR_FSYNC : SQLITE_OK;
+    syncs_ = {count, SQLITE_IOERR_FSYNC};
 }
 
 }  // namespace vantrell::testing

@@ -40,19 +40,12 @@ TourParts WindowHouse::tour() {
 
 void WindowHouse::sold(const std::string& date, const std::string& title, const std::string& currency,
                        int lines) {
-    SalesRowView row;
-    row.beginDate = row.endDate = clock_.now();
-    row.appleID = 1;
-    row.title = row.sku = title;
-    row.productType = "1F";
-    row.units = 1;
-    row.proceedsPerUnit = 1;
-    row.proceedsCurrency = row.customerCurrency = row.country = currency;
-    app_->contextToChange().replaceSalesRows("DAILY", date,
-                                             std::vector<SalesRowView>(static_cast<std::size_t>(lines), row));
-    SalesReport report{.reportDate = date, .message = title};
-    report.setStatus(ReportStatus::ok);
-    app_->contextToChange().salesReports().insert(report);
+    const Line line{.currency = currency, .title = title, .sku = title, .country = currency};
+    report(ReportFrequency::daily, date, std::vector<Line>(static_cast<std::size_t>(lines), line));
+    const auto stored = *context().salesReports().find(salesReportKey("DAILY", date));
+    SalesReport told = stored.record;
+    told.message = title;
+    context().salesReports().update(stored.id, told);
 }
 
 void WindowHouse::show() {
