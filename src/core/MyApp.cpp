@@ -12,9 +12,10 @@ namespace vantrell {
 
 std::variant<std::unique_ptr<MyApp>, StartFailure> MyApp::start(const MyAppParts& parts,
                                                                 const std::filesystem::path& storeFile,
-                                                                const SyncEngineSettings& settings) {
+                                                                SyncEngineSettings settings) {
     qCInfo(coreLog) << "version" << QByteArray::fromStdString(std::string(programVersion())) << "on Qt"
                     << qVersion();
+    settings.keptLines = storeFile.parent_path() / "backup";
     bool cloudSyncActive = true;
     auto opened = ModelContainer::open({.file = storeFile, .cloudDatabase = CloudDatabase::automatic});
     if (std::holds_alternative<StoreError>(opened)) {

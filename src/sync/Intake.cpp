@@ -191,12 +191,16 @@ class Intake::OneReport {
                                       return;
                                   }
                                   noted(ok, isReport_ ? message_ : notAReport);
-                                  store(report);
+                                  if (!lines_.empty() || areOldLinesKept(report)) {
+                                      store(report);
+                                  }
                               },
                               [&](const response::NoSales& none) {
                                   noted(empty, none.message);
-                                  report.rowCount = 0;
-                                  request_.replaceLines(context_, {});
+                                  if (areOldLinesKept(report)) {
+                                      report.rowCount = 0;
+                                      request_.replaceLines(context_, {});
+                                  }
                               },
                               [&](const response::NotYetAvailable& early) { noted(pending, early.message); },
                               [&](const response::Gone& gone) { noted(unavailable, gone.message); },
@@ -205,6 +209,22 @@ class Intake::OneReport {
                               [](const response::RateLimited&) {},
                               [&](const response::Failure& failure) { noted(error, failure.message); }},
                    answer);
+    }
+
+    /// Nothing comes in the place of lines, which may be the only copy: they go into a file, or they stay.
+    [[nodiscard]] bool areOldLinesKept(Record& report) {
+        if (request_.lineCount(context_) == 0) {
+            return true;
+        }
+        const LinesFile file = request_.keepLines(context_, parts_.keptLines);
+        if (file.problem) {
+            report.setStatus(ReportStatus::error);
+            report.message = "The stored lines could not be kept in backup/: " + *file.problem;
+            return false;
+        }
+        report.message += (report.message.empty() ? "" : " ") +
+                          std::string("What was stored before is kept in backup/") + file.name + ".";
+        return true;
     }
 
     void store(Record& report) {

@@ -6,6 +6,7 @@
 #include "net/HttpClient.h"
 #include "sync/RunFacts.h"
 
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <stop_token>
@@ -23,10 +24,11 @@ struct IntakeParts {
     Clock& clock;
     Worker& worker;
     ASCClient& client;
-    std::string rateService;         ///< "https://host", no path
-    std::stop_token end;             ///< ends what is waited for; nothing is changed any more then
-    std::function<void()> onLogged;  ///< the sync log has changed
-    bool othersWrite = false;        ///< another device can have stored the same report meanwhile
+    std::string rateService;          ///< "https://host", no path
+    std::stop_token end;              ///< ends what is waited for; nothing is changed any more then
+    std::function<void()> onLogged;   ///< the sync log has changed
+    std::filesystem::path keptLines;  ///< the folder for lines in whose place nothing comes
+    bool othersWrite = false;         ///< another device can have stored the same report meanwhile
 };
 
 /// What became of a request.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/LinesFile.h"
 #include "data/ModelContext.h"
 #include "data/ReportFrequency.h"
 #include "reports/ASCClient.h"
@@ -7,6 +8,7 @@
 #include "reports/SalesParser.h"
 
 #include <cstddef>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <utility>
@@ -46,6 +48,10 @@ struct SalesReportRequest {
     [[nodiscard]] std::int64_t lineCount(const ModelContext& context) const {
         return context.salesLines().lineCount(std::string(rawText(frequency)), reportDate);
     }
+    [[nodiscard]] LinesFile keepLines(const ModelContext& context,
+                                      const std::filesystem::path& folder) const {
+        return keepSalesLines(context, std::string(rawText(frequency)), reportDate, folder);
+    }
     void replaceLines(ModelContext& context, std::vector<Line> lines) const {
         context.replaceSalesLines(std::string(rawText(frequency)), reportDate, std::move(lines));
     }
@@ -76,6 +82,10 @@ struct FinanceReportRequest {
 
     [[nodiscard]] std::int64_t lineCount(const ModelContext& context) const {
         return context.financeLines().lineCount(region, fiscalPeriod);
+    }
+    [[nodiscard]] LinesFile keepLines(const ModelContext& context,
+                                      const std::filesystem::path& folder) const {
+        return keepFinanceLines(context, region, fiscalPeriod, folder);
     }
     void replaceLines(ModelContext& context, std::vector<Line> lines) const {
         context.replaceFinanceLines(region, fiscalPeriod, std::move(lines));

@@ -30,9 +30,9 @@ SyncEngine::SyncEngine(const SyncEngineParts& parts, const SyncEngineSettings& s
       calendar_(parts.clock, parts.localTime),
       client_(parts.http, parts.clock, settings.reportService),
       account_(parts.secrets, client_, calendar_, parts.worker, life_.token()),
-      intake_(std::make_unique<Intake>(
-          IntakeParts{parts.context, parts.http, parts.clock, parts.worker, client_, settings.rateService,
-                      life_.token(), [this] { Q_EMIT syncLogChanged(); }, settings.othersWrite})) {
+      intake_(std::make_unique<Intake>(IntakeParts{
+          parts.context, parts.http, parts.clock, parts.worker, client_, settings.rateService, life_.token(),
+          [this] { Q_EMIT syncLogChanged(); }, settings.keptLines, settings.othersWrite})) {
     monthDoubts_ = std::make_unique<MonthDoubts>(context_, clock_, defaults_, life_.token());
     lastRun_ = keptLastRun(defaults_, clock_.now());
 }

@@ -1,8 +1,12 @@
+#include "files/TextFile.h"
 #include "testing/EngineFixture.h"
 #include "testing/FaultyVfs.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
@@ -101,6 +105,30 @@ TEST(StoringAReport, KeepsAFresherCopyThatCameWhileTheRequestWasOut) {
         EXPECT_EQ(fixture.context().fetchSalesRows().size(), kept ? 1U : 2U) << row.name;
         EXPECT_EQ(fixture.daily(day).status(), ReportStatus::ok) << row.name;
     }
+}
+
+TEST(StoringAReport, KeepsInAFileTheLinesInWhosePlaceNothingComes) {
+    EngineFixture fixture;
+    const auto refetch = [&fixture](const HttpResult& answer) {
+        fixture.answers[std::string("DAILY ") + day] = answer;
+        fixture.run(fixture.engine().refetchDay(*dateFromDayKey(day)));
+        const SalesReport report = fixture.daily(day);
+        return report.statusRaw + " " +
+               std::to_string(fixture.context().salesLines().lineCount("DAILY", day)) + " " + report.message;
+    };
+    const HttpResult none = EngineFixture::error(404, "There were no sales for the date specified.");
+    const std::filesystem::path folder = fixture.keptLines();
+    const std::string kept = "What was stored before is kept in backup/DAILY-2026-11-20";
+    EXPECT_THAT(refetch(EngineFixture::sales(2)), ::testing::StartsWith("ok 2 "));
+    std::ofstream(folder.string()) << "no folder";
+    EXPECT_THAT(refetch(none), ::testing::StartsWith("error 2 The stored lines could not be kept"));
+    std::filesystem::remove(folder);
+    EXPECT_THAT(refetch(none), ::testing::EndsWith(kept + ".tsv."));
+    EXPECT_THAT(refetch(EngineFixture::sales(1)), ::testing::StartsWith("ok 1 "));
+    EXPECT_THAT(refetch(EngineFixture::sales(0)), ::testing::EndsWith(kept + "-2.tsv."));
+    const auto text = std::get<std::string>(readTextFile(folder / "DAILY-2026-11-20.tsv", 10'000));
+    EXPECT_EQ(std::ranges::count(text, '\n'), 3) << text;
+    EXPECT_THAT(text, ::testing::StartsWith("beginDate\tendDate\tsku\t"));
 }
 
 TEST(StoringAReport, GoesOnWhenASaveFailsAndSavesEverythingWithTheNextOne) {

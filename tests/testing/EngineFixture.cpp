@@ -57,6 +57,7 @@ void EngineFixture::makeEngine(bool othersWrite) {
         SyncEngineParts{*context_, http, clock, worker, localTime, secrets, defaults},
         SyncEngineSettings{.reportService = "https://reports.test",
                            .rateService = "https://rates.test",
+                           .keptLines = keptLines(),
                            .othersWrite = othersWrite});
 }
 

@@ -31,6 +31,9 @@ class EngineFixture {
     TaskScope& tasks() { return tasks_; }
     void run(QCoro::Task<> task);
 
+    /// The folder for lines in whose place nothing comes.
+    [[nodiscard]] std::filesystem::path keptLines() const { return store_.file().parent_path() / "backup"; }
+
     /// The engine goes away as at the end of the program; the store stays.
     void destroyEngine() { engine_.reset(); }
     /// What is neither saved nor in the secret service is lost, as when the program is killed.

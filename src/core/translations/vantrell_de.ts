@@ -491,6 +491,13 @@
     </message>
 </context>
 <context>
+    <name>QuestionBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>ReportStatus</name>
     <message>
         <source>Fetched</source>
@@ -1014,6 +1021,18 @@
         <source>Saved to your desktop&apos;s keyring.</source>
         <translation>Im Schlüsselbund des Desktops gesichert.</translation>
     </message>
+    <message>
+        <source>What you have entered isn&apos;t saved yet.</source>
+        <translation>Ihre Eingaben sind noch nicht gesichert.</translation>
+    </message>
+    <message>
+        <source>Remove the key from your desktop&apos;s keyring? The stored reports stay. Apple offers a key for download only once.</source>
+        <translation>Den Schlüssel aus dem Schlüsselbund Ihres Desktops entfernen? Die gespeicherten Berichte bleiben. Apple bietet einen Schlüssel nur einmal zum Laden an.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::CurrencyBreakdown</name>
@@ -1448,6 +1467,17 @@
     <message>
         <source>Re-fetch one day</source>
         <translation>Einen Tag neu abrufen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Apple keeps daily and monthly reports for a year. The %1 lines that are stored of %2 may be the only copy; what nothing comes in place of is kept in the folder “backup”.</source>
+        <translation>
+            <numerusform>Apple behält Tages- und Monatsberichte ein Jahr lang. Die %1 gespeicherte Zeile von %2 ist vielleicht die einzige Kopie; tritt nichts an ihre Stelle, bleibt sie im Ordner „backup“ erhalten.</numerusform>
+            <numerusform>Apple behält Tages- und Monatsberichte ein Jahr lang. Die %1 gespeicherten Zeilen von %2 sind vielleicht die einzige Kopie; tritt nichts an ihre Stelle, bleiben sie im Ordner „backup“ erhalten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Fetch Anyway</source>
+        <translation>Trotzdem abrufen</translation>
     </message>
 </context>
 <context>

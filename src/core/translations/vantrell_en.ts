@@ -154,6 +154,16 @@
     </message>
 </context>
 <context>
+    <name>vantrell::SyncSettings</name>
+    <message numerus="yes">
+        <source>Apple keeps daily and monthly reports for a year. The %1 lines that are stored of %2 may be the only copy; what nothing comes in place of is kept in the folder “backup”.</source>
+        <translation>
+            <numerusform>Apple keeps daily and monthly reports for a year. The %1 line that is stored of %2 may be the only copy; if nothing comes in its place it is kept in the folder “backup”.</numerusform>
+            <numerusform>Apple keeps daily and monthly reports for a year. The %1 lines that are stored of %2 may be the only copy; what nothing comes in place of is kept in the folder “backup”.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>vantrell::TrendChart</name>
     <message numerus="yes">
         <source>%1 more app(s)</source>

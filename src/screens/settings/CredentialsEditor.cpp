@@ -36,10 +36,15 @@ CredentialsEditor::CredentialsEditor(const ScreenParts& parts, QObject* parent)
 
 void CredentialsEditor::appear() {
     ++appearance_;
-    replace(values_, parts_.engine.account().credentials());
     isTesting_ = false;
     testResult_.clear();
-    say({}, false);
+    question_.dismiss();
+    if (isEdited_) {
+        say(tr("What you have entered isn't saved yet."), false);
+    } else {
+        replace(values_, parts_.engine.account().credentials());
+        say({}, false);
+    }
     Q_EMIT valuesChanged();
 }
 
@@ -56,6 +61,7 @@ void CredentialsEditor::importKey(const QUrl& file) {
         return;
     }
     values_.privateKeyPEM = std::get<std::string>(std::move(read));
+    isEdited_ = true;
     const QString name = QFileInfo(file.toLocalFile()).completeBaseName();
     const QString prefix = QStringLiteral("AuthKey_");
     if (name.startsWith(prefix)) {
@@ -84,6 +90,13 @@ void CredentialsEditor::test() {
 }
 
 void CredentialsEditor::removeKey() {
+    question_.ask(
+        tr("Remove the key from your desktop's keyring? The stored reports stay. Apple offers a key "
+           "for download only once."),
+        {tr("Remove"), [this] { removeNow(); }});
+}
+
+void CredentialsEditor::removeNow() {
     try {
         parts_.engine.account().remove();
     } catch (const CredentialsError& error) {
@@ -93,6 +106,7 @@ void CredentialsEditor::removeKey() {
         return;
     }
     replace(values_, {values_.issuerID, values_.keyID, {}, values_.vendorNumber});
+    isEdited_ = false;
     Q_EMIT valuesChanged();
     say(tr("Credentials removed from your desktop's keyring."), false);
 }
@@ -116,6 +130,7 @@ void CredentialsEditor::tested(const std::string& result, int appearance) {
 void CredentialsEditor::set(std::string& value, const QString& text) {
     if (text.toStdString() != value) {
         value = text.toStdString();
+        isEdited_ = true;
         Q_EMIT valuesChanged();
     }
 }
@@ -130,6 +145,7 @@ bool CredentialsEditor::isSaved() {
             true);
         return false;
     }
+    isEdited_ = false;
     say(tr("Saved to your desktop's keyring."), false);
     return true;
 }

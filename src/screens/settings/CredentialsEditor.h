@@ -2,6 +2,7 @@
 
 #include "data/APICredentials.h"
 #include "screens/ScreenParts.h"
+#include "screens/components/Question.h"
 
 #include <QObject>
 #include <QPointer>
@@ -27,12 +28,14 @@ class CredentialsEditor : public QObject {
     Q_PROPERTY(bool isTesting READ isTesting NOTIFY outcomeChanged)
     Q_PROPERTY(QString status READ status NOTIFY outcomeChanged)
     Q_PROPERTY(bool statusIsError READ statusIsError NOTIFY outcomeChanged)
+    Q_PROPERTY(vantrell::Question* question READ question CONSTANT)
     Q_PROPERTY(QString testResult READ testResult NOTIFY outcomeChanged)
 
   public:
     explicit CredentialsEditor(const ScreenParts& parts, QObject* parent = nullptr);
 
-    /// To be called whenever the form comes into sight: it begins with what the engine holds, if anything.
+    /// To be called whenever the form comes into sight: it begins with what was entered and not saved, else
+    /// with what the engine holds, if anything.
     void appear();
 
     [[nodiscard]] QString issuerID() const { return QString::fromStdString(values_.issuerID); }
@@ -56,8 +59,10 @@ class CredentialsEditor : public QObject {
     Q_INVOKABLE void save();
     /// Saves, and tries the key with one request.
     Q_INVOKABLE void test();
-    /// Leaves the key in the form if it could not be removed.
+    /// Asks first. Leaves the key in the form if it could not be removed.
     Q_INVOKABLE void removeKey();
+
+    [[nodiscard]] Question* question() { return &question_; }
 
     [[nodiscard]] bool isTesting() const { return isTesting_; }
     [[nodiscard]] QString status() const { return status_; }
@@ -75,12 +80,15 @@ class CredentialsEditor : public QObject {
 
     void set(std::string& value, const QString& text);
     [[nodiscard]] bool isSaved();
+    void removeNow();
     void trim();
     void say(const QString& status, bool isError);
     void tested(const std::string& result, int appearance);
 
     ScreenParts parts_;
     APICredentials values_;
+    bool isEdited_ = false;  ///< since it was read or saved
+    Question question_;
     bool isTesting_ = false;
     QString status_;
     bool statusIsError_ = false;

@@ -91,6 +91,7 @@ ColumnLayout {
             onClicked: form.model.removeKey()
         }
     }
+    QuestionBox { question: form.model.question }
     FormNote {
         visible: text !== ""
         text: form.model.status

@@ -44,6 +44,7 @@ FormSection {
             onClicked: section.model.fetchDay()
         }
     }
+    QuestionBox { question: section.model.dayQuestion }
     FormRow {
         id: oneMonth
         label: qsTr("Re-fetch a month (2026-08)")
@@ -61,6 +62,7 @@ FormSection {
             onClicked: section.model.fetchMonth()
         }
     }
+    QuestionBox { question: section.model.monthQuestion }
     NavigationRow {
         Layout.fillWidth: true
         text: qsTr("Sync Log")

@@ -2,6 +2,7 @@
 
 #include "screens/ScreenParts.h"
 #include "screens/components/DateField.h"
+#include "screens/components/Question.h"
 #include "screens/components/SyncBanner.h"
 
 #include <QObject>
@@ -18,6 +19,8 @@ class SyncSettings : public QObject {
     Q_PROPERTY(vantrell::SyncBanner* banner READ banner CONSTANT)
     Q_PROPERTY(QString summary READ summary NOTIFY summaryChanged)
     Q_PROPERTY(vantrell::DateField* day READ day CONSTANT)
+    Q_PROPERTY(vantrell::Question* dayQuestion READ dayQuestion CONSTANT)
+    Q_PROPERTY(vantrell::Question* monthQuestion READ monthQuestion CONSTANT)
     Q_PROPERTY(bool canFetchDay READ canFetchDay NOTIFY requestsChanged)
     Q_PROPERTY(QString month READ month WRITE setMonth NOTIFY requestsChanged)
     Q_PROPERTY(bool canFetchMonth READ canFetchMonth NOTIFY requestsChanged)
@@ -34,13 +37,17 @@ class SyncSettings : public QObject {
     /// Today at first, and at the latest.
     [[nodiscard]] DateField* day() { return &day_; }
     [[nodiscard]] bool canFetchDay() const { return !parts_.engine.isSyncing(); }
+    /// Asks first where Apple has no more of the day, and lines of it are stored.
     Q_INVOKABLE void fetchDay();
+    [[nodiscard]] Question* dayQuestion() { return &dayQuestion_; }
 
     [[nodiscard]] QString month() const { return month_; }
     void setMonth(const QString& month);
     /// No run is under way, and there is a text; whether it is a month the engine says.
     [[nodiscard]] bool canFetchMonth() const;
+    /// Likewise.
     Q_INVOKABLE void fetchMonth();
+    [[nodiscard]] Question* monthQuestion() { return &monthQuestion_; }
 
     /// To be called whenever the screen comes into sight.
     void appear();
@@ -51,12 +58,16 @@ class SyncSettings : public QObject {
 
   private:
     void chooseDay(CivilDate day);
+    void fetchDayNow();
+    void fetchMonthNow();
 
     ScreenParts parts_;
     SyncBanner banner_;
     CivilDate chosenDay_;
     DateField day_;
     QString month_;
+    Question dayQuestion_;
+    Question monthQuestion_;
 };
 
 }  // namespace vantrell

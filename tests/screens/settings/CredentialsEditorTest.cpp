@@ -50,11 +50,12 @@ TEST_F(CredentialsEditorTest, TakesTheKeyFromAFileOrSaysWhyItCanNot) {
     };
     for (const auto& [file, keyID, status] : cases) {
         SCOPED_TRACE(file.toString().toStdString());
-        editor.appear();
-        editor.importKey(file);
-        EXPECT_EQ(editor.keyID(), QString::fromUtf8(keyID));
-        EXPECT_EQ(editor.status().toStdString(), status);
-        EXPECT_EQ(editor.statusIsError(), status != read);
+        CredentialsEditor fresh(fixture.parts());
+        fresh.appear();
+        fresh.importKey(file);
+        EXPECT_EQ(fresh.keyID(), QString::fromUtf8(keyID));
+        EXPECT_EQ(fresh.status().toStdString(), status);
+        EXPECT_EQ(fresh.statusIsError(), status != read);
     }
     EXPECT_EQ(fixture.engine().account().credentials().keyID, "key") << "nothing is saved by an import";
 }
@@ -62,6 +63,8 @@ TEST_F(CredentialsEditorTest, TakesTheKeyFromAFileOrSaysWhyItCanNot) {
 TEST_F(CredentialsEditorTest, SavesWithoutBlanksAroundAndFetchesIfNothingWasFetched) {
     editor.setIssuerID(QStringLiteral(" \t3f7a\n"));
     editor.importKey(file("AuthKey_AB.p8", "\npem\n"));
+    editor.appear();
+    EXPECT_EQ(editor.status(), QStringLiteral("What you have entered isn't saved yet."));
     editor.save();
     EXPECT_EQ(fixture.engine().account().credentials(), (APICredentials{"3f7a", "AB", "pem", "6041"}));
     EXPECT_EQ(editor.issuerID(), QStringLiteral("3f7a"));

@@ -35,7 +35,7 @@ class MyApp {
     /// Opens the store with mirroring, else without; a store that opens in neither way is the only stop of
     /// the program.
     [[nodiscard]] static std::variant<std::unique_ptr<MyApp>, StartFailure> start(
-        const MyAppParts& parts, const std::filesystem::path& storeFile, const SyncEngineSettings& settings);
+        const MyAppParts& parts, const std::filesystem::path& storeFile, SyncEngineSettings settings);
 
     /// As `close`.
     ~MyApp();

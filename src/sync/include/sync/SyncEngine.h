@@ -15,6 +15,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -49,7 +50,8 @@ struct SyncEngineSettings {
     std::string reportService;
     std::string rateService;
     std::chrono::microseconds pause = std::chrono::milliseconds(150);
-    bool othersWrite = false;  ///< another device can write into the store
+    std::filesystem::path keptLines = {};  ///< the folder for lines in whose place nothing comes
+    bool othersWrite = false;              ///< another device can write into the store
 };
 
 /// The one object that changes the stored reports. It carries runs out, one request after another, and says
