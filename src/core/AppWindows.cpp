@@ -26,6 +26,7 @@ ScreenParts screenParts(MyApp& app, const MyAppParts& parts, const AppWindowsPar
             .defaults = parts.defaults,
             .appearance = windowParts.appearance,
             .origins = windowParts.origins,
+            .otherStores = windowParts.otherStores,
             .cloudSyncActive = app.cloudSyncActive()};
 }
 

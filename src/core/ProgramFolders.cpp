@@ -54,6 +54,14 @@ std::optional<ProgramFolders> ProgramFolders::of(
     return ProgramFolders{*std::move(data), *std::move(config), *std::move(cache)};
 }
 
+ProgramFolders ProgramFolders::ofStore(int number) const {
+    if (number == firstStore) {
+        return *this;
+    }
+    const fs::path folder = fs::path(storesFolder) / std::to_string(number);
+    return {data / folder, config / folder, cache / folder};
+}
+
 std::optional<ProgramFolders> ProgramFolders::ofUser() {
     return of(environmentVariable, homeOfAccount());
 }

@@ -1,4 +1,5 @@
 #include "ProgramFolders.h"
+#include "UserStores.h"
 #include "base/SystemClock.h"
 #include "base/ThreadWorker.h"
 #include "core/AppWindows.h"
@@ -13,6 +14,7 @@
 #include "screens/words/StoreNotice.h"
 #include "secrets/KeychainSecretStore.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <memory>
@@ -20,6 +22,7 @@
 #include <utility>
 #include <variant>
 
+#include <QCommandLineParser>
 #include <QGuiApplication>
 
 namespace {
@@ -34,7 +37,26 @@ std::optional<std::string> environmentVariable(const char* name) {
     return value == nullptr ? std::nullopt : std::optional<std::string>(value);
 }
 
-int run(const ProgramFolders& folders, InstanceGuard& guard, const EndSignals& endSignals) {
+/// Which of the user's stores this program is for.
+struct OwnStore {
+    ProgramFolders first;
+    int number = ProgramFolders::firstStore;
+};
+
+/// What the command line says; ends the program where it asks for help or can't be read.
+int storeNumber(const QCoreApplication& application) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("What each app earned, and what was actually paid."));
+    parser.addHelpOption();
+    const QCommandLineOption store(QStringLiteral("store"),
+                                   QStringLiteral("Opens one of the user's other stores."),
+                                   QStringLiteral("number"), QString::number(ProgramFolders::firstStore));
+    parser.addOption(store);
+    parser.process(application);
+    return std::max(parser.value(store).toInt(), ProgramFolders::firstStore);
+}
+
+int run(const ProgramFolders& folders, OwnStore own, InstanceGuard& guard, const EndSignals& endSignals) {
     const ServiceOrigins origins = publicServices();
     SystemClock clock;
     ThreadWorker worker;
@@ -42,11 +64,13 @@ int run(const ProgramFolders& folders, InstanceGuard& guard, const EndSignals& e
     const Locale locale(LocaleNames::fromEnvironment(environmentVariable));
     QtHttpClient http;
     KeychainSecretStore secrets;
+    UserStores stores(std::move(own.first), own.number, secrets);
     JsonDefaults defaults(folders.config / "defaults.json");
     DesktopAppearance appearance;
     const MyAppParts parts{http, clock, worker, localTime, locale, secrets, defaults};
-    auto begun =
-        MyApp::start(parts, folders.data / "vantrell.sqlite", {origins.reportService, origins.rateService});
+    auto begun = MyApp::start(
+        parts, folders.data / "vantrell.sqlite",
+        {.reportService = origins.reportService, .rateService = origins.rateService, .store = own.number});
     if (const auto* failure = std::get_if<StartFailure>(&begun)) {
         std::cerr << failure->text << std::endl;
         return EXIT_FAILURE;
@@ -58,6 +82,7 @@ int run(const ProgramFolders& folders, InstanceGuard& guard, const EndSignals& e
                                       AppWindowsParts{.origins = origins,
                                                       .appearance = appearance,
                                                       .icons = std::move(icons),
+                                                      .otherStores = &stores,
                                                       .placementFile = folders.config / "window.json"});
     QObject::connect(&guard, &InstanceGuard::wakened, &*windows, &AppWindows::raise);
     windows->show();
@@ -84,14 +109,16 @@ int main(int argc, char** argv) {
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Vantrell"));
     QGuiApplication::setDesktopFileName(QStringLiteral("vantrell"));
     const EndSignals endSignals;
-    const auto folders = ProgramFolders::ofUser();
-    if (!folders) {
+    const int number = storeNumber(application);
+    const auto first = ProgramFolders::ofUser();
+    if (!first) {
         std::cerr << "There is no home folder to keep anything in: HOME is not set." << std::endl;
         return EXIT_FAILURE;
     }
-    InstanceGuard guard(folders->data);
+    const ProgramFolders folders = first->ofStore(number);
+    InstanceGuard guard(folders.data);
     if (!guard.isFirst() && guard.wakeFirst()) {
         return EXIT_SUCCESS;
     }
-    return run(*folders, guard, endSignals);
+    return run(folders, {*first, number}, guard, endSignals);
 }

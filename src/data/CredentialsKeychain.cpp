@@ -13,7 +13,7 @@ namespace vantrell {
 namespace {
 
 constexpr std::string_view service = "Vantrell.appstoreconnect";
-constexpr std::string_view account = "credentials";
+constexpr const char* firstAccount = "credentials";
 
 constexpr std::array<std::pair<const char*, std::string APICredentials::*>, 4> members{
     {{"issuerID", &APICredentials::issuerID},
@@ -60,8 +60,11 @@ std::string keychainErrorText(const SecretError& error) {
     return error.description.empty() ? "Keyring error " + std::to_string(error.code) : error.description;
 }
 
+CredentialsKeychain::CredentialsKeychain(SecretStore& secrets, int store)
+    : secrets_(secrets), account_(store == 1 ? firstAccount : firstAccount + ("-" + std::to_string(store))) {}
+
 LoadedCredentials CredentialsKeychain::load() {
-    return loadedFrom(secrets_.read(service, account));
+    return loadedFrom(secrets_.read(service, account_));
 }
 
 void CredentialsKeychain::whenLoadedLate(std::function<void(LoadedCredentials)> tell) {
@@ -70,13 +73,13 @@ void CredentialsKeychain::whenLoadedLate(std::function<void(LoadedCredentials)> 
 
 void CredentialsKeychain::store(const APICredentials& credentials) {
     const std::string item = json(credentials);
-    if (const auto error = secrets_.add(service, account, item)) {
+    if (const auto error = secrets_.add(service, account_, item)) {
         throw CredentialsError(error->code, keychainErrorText(*error));
     }
 }
 
 void CredentialsKeychain::remove() {
-    if (const auto error = secrets_.remove(service, account)) {
+    if (const auto error = secrets_.remove(service, account_)) {
         throw CredentialsError(error->code, keychainErrorText(*error));
     }
 }

@@ -3,6 +3,7 @@
 #include "screens/components/ShownText.h"
 #include "screens/words/RunWords.h"
 #include "screens/words/StoreNotice.h"
+#include "screens/words/UnitsCaption.h"
 
 #include <algorithm>
 #include <utility>
@@ -48,6 +49,13 @@ RootView::RootView(const ScreenParts& parts, QObject* parent)
     connect(&parts.engine, &SyncEngine::progressChanged, this, &RootView::footerChanged);
     connect(&parts.engine, &SyncEngine::lastRunChanged, this, &RootView::footerChanged);
     connect(&parts.context.health(), &StoreHealth::changed, this, &RootView::storeNoticeChanged);
+}
+
+QString RootView::title() const {
+    const QString name = QStringLiteral("Vantrell");
+    const int store = parts_.otherStores == nullptr ? 1 : parts_.otherStores->own();
+    return store == 1 ? name
+                      : name + captionJoiner() + tr("Store %1").arg(fromUtf8(parts_.locale.count(store)));
 }
 
 Screen* RootView::shownScreen() {

@@ -37,6 +37,7 @@ class RootView : public QObject {
     Q_PROPERTY(bool isRightToLeft READ isRightToLeft CONSTANT)
     Q_PROPERTY(bool isDark READ isDark NOTIFY isDarkChanged)
     Q_PROPERTY(bool reducesMotion READ reducesMotion NOTIFY reducesMotionChanged)
+    Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(bool hasFigures READ hasFigures NOTIFY hasFiguresChanged)
     Q_PROPERTY(bool hasCredentials READ hasCredentials NOTIFY hasCredentialsChanged)
     Q_PROPERTY(vantrell::RowList* destinations READ destinations CONSTANT)
@@ -66,6 +67,8 @@ class RootView : public QObject {
   public:
     explicit RootView(const ScreenParts& parts, QObject* parent = nullptr);
 
+    /// Of the window; tells which store it is, if not the first.
+    [[nodiscard]] QString title() const;
     /// By the language of the texts, and not by how dates and money are written.
     [[nodiscard]] bool isRightToLeft() const { return QGuiApplication::isRightToLeft(); }
     [[nodiscard]] bool isDark() const { return parts_.appearance.isDark(); }

@@ -8,6 +8,7 @@
 #include "locale/Locale.h"
 #include "net/HttpClient.h"
 #include "screens/Appearance.h"
+#include "screens/OtherStores.h"
 #include "sync/SyncEngine.h"
 
 #include <string>
@@ -36,6 +37,8 @@ struct ScreenParts {
     Defaults& defaults;
     Appearance& appearance;
     const ServiceOrigins& origins;
+    /// Absent where there can be none.
+    OtherStores* otherStores = nullptr;
     /// The store mirrors through the platform's cloud.
     bool cloudSyncActive = false;
 };

@@ -9,8 +9,8 @@
 namespace vantrell {
 
 Account::Account(SecretStore& secrets, ASCClient& client, const ReportCalendar& calendar, Worker& worker,
-                 std::stop_token end)
-    : keychain_(secrets), client_(client), calendar_(calendar), worker_(worker), end_(std::move(end)) {
+                 std::stop_token end, int store)
+    : keychain_(secrets, store), client_(client), calendar_(calendar), worker_(worker), end_(std::move(end)) {
     take(keychain_.load());
     keychain_.whenLoadedLate([this](LoadedCredentials loaded) {
         // What was entered meanwhile is newer.

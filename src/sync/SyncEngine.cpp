@@ -11,13 +11,23 @@
 #include <algorithm>
 #include <utility>
 
+#include <QCryptographicHash>
+
 namespace vantrell {
 namespace {
 
 constexpr const char* lastAutoSyncKey = "lastAutoSyncAt";
+constexpr const char* storedVendorKey = "storedVendorMark";
 constexpr auto autoSyncInterval = std::chrono::hours(4);
 constexpr int sparedRequests = 300;
 constexpr auto longestRevisionWait = std::chrono::seconds(8);
+
+/// Tells vendor numbers apart; the number itself belongs to the key and is in no file.
+std::string markOf(const std::string& vendor) {
+    return QCryptographicHash::hash(QByteArray::fromStdString(vendor), QCryptographicHash::Sha256)
+        .toHex()
+        .toStdString();
+}
 
 }  // namespace
 
@@ -29,7 +39,7 @@ SyncEngine::SyncEngine(const SyncEngineParts& parts, const SyncEngineSettings& s
       pause_(settings.pause),
       calendar_(parts.clock, parts.localTime),
       client_(parts.http, parts.clock, settings.reportService),
-      account_(parts.secrets, client_, calendar_, parts.worker, life_.token()),
+      account_(parts.secrets, client_, calendar_, parts.worker, life_.token(), settings.store),
       intake_(std::make_unique<Intake>(IntakeParts{
           parts.context, parts.http, parts.clock, parts.worker, client_, settings.rateService, life_.token(),
           [this] { Q_EMIT syncLogChanged(); }, settings.keptLines, settings.othersWrite})) {
@@ -111,6 +121,17 @@ bool SyncEngine::hasAnsweredDailyReport() const {
     });
 }
 
+bool SyncEngine::isOfOtherVendor(const std::string& vendor) const {
+    if (const auto mark = defaults_.text(storedVendorKey)) {
+        return *mark != markOf(vendor);
+    }
+    return hasCredentials() && hasAnsweredDailyReport() && account_.credentials().vendorNumber != vendor;
+}
+
+void SyncEngine::takeVendor(const std::string& vendor) {
+    defaults_.setText(storedVendorKey, markOf(vendor));
+}
+
 QCoro::Task<> SyncEngine::checkStore() {
     return vantrell::checkStore(context_, worker_, life_.token());
 }
@@ -180,6 +201,9 @@ void SyncEngine::finish(RunKind kind) {
     progress_ = std::nullopt;
     if (!lastError_.value()) {
         lastError_ = tally_->nothingStored();
+    }
+    if (!defaults_.text(storedVendorKey) && hasAnsweredDailyReport()) {
+        takeVendor(account_.credentials().vendorNumber);
     }
     const FinishedRun run{kind, clock_.now(), tally_->failed(), tally_->firstProblem()};
     keepLastRun(run, defaults_);

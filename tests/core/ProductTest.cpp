@@ -38,6 +38,9 @@ TEST(ProgramFolders, AreThoseOfTheDesktopAndOtherwiseOfTheAccount) {
         const auto folders = ProgramFolders::of(lookUp, account);
         EXPECT_EQ(folders ? folders->data.string() : "none", data == nullptr ? "none" : data);
     }
+    const ProgramFolders first{"/data", "/config", "/cache"};
+    EXPECT_EQ(first.ofStore(2).config, "/config/stores/2");
+    EXPECT_EQ(first.ofStore(1).config, "/config");
 }
 
 /// The product's own program off-screen, in the home of somebody who never used it.

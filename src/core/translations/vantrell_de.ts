@@ -668,6 +668,17 @@
     </message>
 </context>
 <context>
+    <name>StoreWords</name>
+    <message>
+        <source>The program could not be started once more.</source>
+        <translation>Das Programm konnte nicht noch einmal gestartet werden.</translation>
+    </message>
+    <message>
+        <source>Could not save to your desktop&apos;s keyring: %1</source>
+        <translation>Konnte nicht im Schlüsselbund des Desktops gesichert werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>SyncBannerRow</name>
     <message>
         <source>Sync progress</source>
@@ -1033,6 +1044,26 @@
         <source>Remove</source>
         <translation>Entfernen</translation>
     </message>
+    <message>
+        <source>Count Together</source>
+        <translation>Zusammen zählen</translation>
+    </message>
+    <message>
+        <source>Open a Store of Its Own</source>
+        <translation>Eigenen Datenbestand öffnen</translation>
+    </message>
+    <message>
+        <source>The other store opens in a window of its own, with the key that you entered.</source>
+        <translation>Der andere Datenbestand öffnet sich in einem eigenen Fenster, mit dem eingegebenen Schlüssel.</translation>
+    </message>
+    <message>
+        <source>Open Store %1</source>
+        <translation>Datenbestand %1 öffnen</translation>
+    </message>
+    <message>
+        <source>The stored reports came with another vendor number. With %1 the reports of both would count together, and days that are stored would not be fetched again.</source>
+        <translation>Die gespeicherten Berichte kamen mit einer anderen Anbieternummer. Mit %1 würden die Berichte beider zusammen gezählt, und gespeicherte Tage würden nicht noch einmal abgerufen.</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::CurrencyBreakdown</name>
@@ -1223,6 +1254,10 @@
     <message>
         <source>Sync Log</source>
         <translation>Abgleichprotokoll</translation>
+    </message>
+    <message>
+        <source>Store %1</source>
+        <translation>Datenbestand %1</translation>
     </message>
 </context>
 <context>

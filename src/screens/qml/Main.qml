@@ -9,7 +9,7 @@ T.ApplicationWindow {
 
     required property RootView root
 
-    title: "Vantrell"
+    title: window.root.title
     width: 1150
     height: 760
     minimumWidth: 640

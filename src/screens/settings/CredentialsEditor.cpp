@@ -45,6 +45,10 @@ void CredentialsEditor::appear() {
         replace(values_, parts_.engine.account().credentials());
         say({}, false);
     }
+    if (parts_.otherStores != nullptr) {
+        otherStores_ = parts_.otherStores->others();
+        Q_EMIT otherStoresChanged();
+    }
     Q_EMIT valuesChanged();
 }
 
@@ -73,14 +77,71 @@ void CredentialsEditor::importKey(const QUrl& file) {
         false);
 }
 
+QStringList CredentialsEditor::otherStores() const {
+    QStringList names;
+    for (const int store : otherStores_) {
+        names += tr("Open Store %1").arg(fromUtf8(parts_.locale.count(store)));
+    }
+    return names;
+}
+
+void CredentialsEditor::openOther(int place) {
+    if (place >= 0 && static_cast<std::size_t>(place) < otherStores_.size()) {
+        const auto problem = parts_.otherStores->open(otherStores_[static_cast<std::size_t>(place)]);
+        say(problem ? shownText(*problem, messageCharacters) : QString(), problem.has_value());
+    }
+}
+
 void CredentialsEditor::save() {
-    if (isComplete() && isSaved()) {
-        parts_.tasks.spawn(parts_.engine.backfillIfEmpty());
+    if (isComplete()) {
+        unlessMixed([this] { saveNow(); });
     }
 }
 
 void CredentialsEditor::test() {
-    if (!isComplete() || isTesting_ || !isSaved()) {
+    if (isComplete() && !isTesting_) {
+        unlessMixed([this] { testNow(); });
+    }
+}
+
+void CredentialsEditor::unlessMixed(const std::function<void()>& go) {
+    trim();
+    if (!parts_.engine.isOfOtherVendor(values_.vendorNumber)) {
+        go();
+        return;
+    }
+    const auto mix = [this, go] {
+        parts_.engine.takeVendor(values_.vendorNumber);
+        go();
+    };
+    question_.ask(
+        tr("The stored reports came with another vendor number. With %1 the reports of both would count "
+           "together, and days that are stored would not be fetched again.")
+            .arg(shownText(values_.vendorNumber)),
+        {tr("Count Together"), mix},
+        parts_.otherStores == nullptr
+            ? Question::Way()
+            : Question::Way{tr("Open a Store of Its Own"), [this] { openApart(); }});
+}
+
+void CredentialsEditor::openApart() {
+    if (const auto problem = parts_.otherStores->openWith(values_)) {
+        say(shownText(*problem, messageCharacters), true);
+        return;
+    }
+    isEdited_ = false;
+    appear();
+    say(tr("The other store opens in a window of its own, with the key that you entered."), false);
+}
+
+void CredentialsEditor::saveNow() {
+    if (isSaved()) {
+        parts_.tasks.spawn(parts_.engine.backfillIfEmpty());
+    }
+}
+
+void CredentialsEditor::testNow() {
+    if (!isSaved()) {
         return;
     }
     testResult_.clear();
@@ -136,7 +197,6 @@ void CredentialsEditor::set(std::string& value, const QString& text) {
 }
 
 bool CredentialsEditor::isSaved() {
-    trim();
     try {
         parts_.engine.account().save(values_);
     } catch (const CredentialsError& error) {

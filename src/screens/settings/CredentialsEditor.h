@@ -4,6 +4,10 @@
 #include "screens/ScreenParts.h"
 #include "screens/components/Question.h"
 
+#include <functional>
+#include <string>
+#include <vector>
+
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
@@ -28,6 +32,7 @@ class CredentialsEditor : public QObject {
     Q_PROPERTY(bool isTesting READ isTesting NOTIFY outcomeChanged)
     Q_PROPERTY(QString status READ status NOTIFY outcomeChanged)
     Q_PROPERTY(bool statusIsError READ statusIsError NOTIFY outcomeChanged)
+    Q_PROPERTY(QStringList otherStores READ otherStores NOTIFY otherStoresChanged)
     Q_PROPERTY(vantrell::Question* question READ question CONSTANT)
     Q_PROPERTY(QString testResult READ testResult NOTIFY outcomeChanged)
 
@@ -55,13 +60,17 @@ class CredentialsEditor : public QObject {
     /// None of the four is empty, so that they can be saved and tried.
     [[nodiscard]] bool isComplete() const { return values_.isComplete(); }
     [[nodiscard]] bool canRemove() const { return parts_.engine.hasCredentials(); }
-    /// Saves, and fetches everything if nothing was fetched yet.
+    /// Saves, and fetches everything if nothing was fetched yet. Asks first before the reports of two vendor
+    /// numbers come into one store.
     Q_INVOKABLE void save();
-    /// Saves, and tries the key with one request.
+    /// Saves, asking as above, and tries the key with one request.
     Q_INVOKABLE void test();
     /// Asks first. Leaves the key in the form if it could not be removed.
     Q_INVOKABLE void removeKey();
 
+    [[nodiscard]] QStringList otherStores() const;
+    /// `place` is that of one of `otherStores`.
+    Q_INVOKABLE void openOther(int place);
     [[nodiscard]] Question* question() { return &question_; }
 
     [[nodiscard]] bool isTesting() const { return isTesting_; }
@@ -73,6 +82,7 @@ class CredentialsEditor : public QObject {
     void valuesChanged();
     void canRemoveChanged();
     void outcomeChanged();
+    void otherStoresChanged();
 
   private:
     [[nodiscard]] static QCoro::Task<> runTest(Account& account, QPointer<CredentialsEditor> editor,
@@ -81,6 +91,10 @@ class CredentialsEditor : public QObject {
     void set(std::string& value, const QString& text);
     [[nodiscard]] bool isSaved();
     void removeNow();
+    void saveNow();
+    void testNow();
+    void unlessMixed(const std::function<void()>& go);
+    void openApart();
     void trim();
     void say(const QString& status, bool isError);
     void tested(const std::string& result, int appearance);
@@ -89,6 +103,7 @@ class CredentialsEditor : public QObject {
     APICredentials values_;
     bool isEdited_ = false;  ///< since it was read or saved
     Question question_;
+    std::vector<int> otherStores_;
     bool isTesting_ = false;
     QString status_;
     bool statusIsError_ = false;

@@ -101,6 +101,16 @@ ColumnLayout {
         visible: text !== ""
         text: form.model.testResult
     }
+    Repeater {
+        model: form.model.otherStores
+        NavigationRow {
+            required property int index
+            required property string modelData
+            Layout.fillWidth: true
+            text: modelData
+            onClicked: form.model.openOther(index)
+        }
+    }
     FileDialog {
         id: dialog
         title: importer.text

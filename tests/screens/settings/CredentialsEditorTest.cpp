@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace vantrell {
@@ -70,6 +71,47 @@ TEST_F(CredentialsEditorTest, SavesWithoutBlanksAroundAndFetchesIfNothingWasFetc
     EXPECT_EQ(editor.issuerID(), QStringLiteral("3f7a"));
     EXPECT_EQ(editor.status(), QStringLiteral("Saved to your desktop's keyring."));
     EXPECT_TRUE(fixture.engine().lastRun()) << "a backfill ran";
+}
+
+class StoresBeside final : public OtherStores {
+  public:
+    int own() const override { return 1; }
+    std::vector<int> others() const override { return {2}; }
+    std::optional<std::string> open(int store) override {
+        opened += std::to_string(store) + " ";
+        return std::nullopt;
+    }
+    std::optional<std::string> openWith(const APICredentials& key) override {
+        opened += key.issuerID + " " + key.vendorNumber + " ";
+        return std::nullopt;
+    }
+    std::string opened;
+};
+
+TEST_F(CredentialsEditorTest, AsksBeforeTheReportsOfTwoVendorNumbersComeIntoOneStore) {
+    StoresBeside stores;
+    ScreenParts parts = fixture.parts();
+    parts.otherStores = &stores;
+    CredentialsEditor form(parts);
+    form.appear();
+    const auto vendor = [this] { return fixture.engine().account().credentials().vendorNumber; };
+    form.save();
+    EXPECT_EQ(form.question()->text(), QString());
+    fixture.engine().takeVendor("6041");
+    form.setVendorNumber(QStringLiteral("7777 "));
+    form.test();
+    EXPECT_THAT(form.question()->text().toStdString(), ::testing::HasSubstr("With 7777"));
+    form.question()->goOtherWay();
+    EXPECT_EQ(stores.opened, "issuer 7777 ");
+    EXPECT_EQ(form.vendorNumber(), QStringLiteral("6041")) << "this store keeps its key";
+    form.openOther(0);
+    EXPECT_EQ(stores.opened, "issuer 7777 2 ");
+    form.setVendorNumber(QStringLiteral("7777"));
+    form.save();
+    EXPECT_EQ(vendor(), "6041");
+    form.question()->agree();
+    EXPECT_EQ(vendor(), "7777");
+    EXPECT_TRUE(fixture.engine().isOfOtherVendor("6041"));
 }
 
 }  // namespace

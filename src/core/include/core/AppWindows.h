@@ -21,6 +21,8 @@ struct AppWindowsParts {
     const ServiceOrigins& origins;
     Appearance& appearance;
     ImageLoaderSettings icons;
+    /// Absent where there can be none.
+    OtherStores* otherStores = nullptr;
     /// Where the main window's place is remembered; absent to forget it.
     std::optional<std::filesystem::path> placementFile;
 };

@@ -32,7 +32,8 @@ struct LoadedCredentials {
 /// Keeps the credentials as one item of the secret service, and nowhere else: a JSON object of four texts.
 class CredentialsKeychain {
   public:
-    explicit CredentialsKeychain(SecretStore& secrets) : secrets_(secrets) {}
+    /// Each of the user's stores has an item of its own; the first store is number 1.
+    explicit CredentialsKeychain(SecretStore& secrets, int store = 1);
 
     [[nodiscard]] LoadedCredentials load();
     /// Replaces what is there; throws CredentialsError, and then the old item is still there.
@@ -44,6 +45,7 @@ class CredentialsKeychain {
 
   private:
     SecretStore& secrets_;
+    std::string account_;
 };
 
 }  // namespace vantrell

@@ -29,9 +29,10 @@ class Account : public QObject {
     Q_OBJECT
 
   public:
-    /// Reads the stored credentials. What is waited for ends with `end`; all else must outlive this.
+    /// Reads the stored credentials of one of the user's stores. What is waited for
+    /// ends with `end`; all else must outlive this.
     Account(SecretStore& secrets, ASCClient& client, const ReportCalendar& calendar, Worker& worker,
-            std::stop_token end);
+            std::stop_token end, int store);
     ~Account() override;
 
     /// The stored credentials are complete.

@@ -52,6 +52,7 @@ struct SyncEngineSettings {
     std::chrono::microseconds pause = std::chrono::milliseconds(150);
     std::filesystem::path keptLines = {};  ///< the folder for lines in whose place nothing comes
     bool othersWrite = false;              ///< another device can write into the store
+    int store = 1;                         ///< which of the user's stores it is, each with a key of its own
 };
 
 /// The one object that changes the stored reports. It carries runs out, one request after another, and says
@@ -114,6 +115,10 @@ class SyncEngine : public QObject {
 
     /// Whether the service ever gave, or had none to give, the report of a day.
     [[nodiscard]] bool hasAnsweredDailyReport() const;
+    /// Whether the stored reports came with another vendor number than this one. What isn't known isn't so.
+    [[nodiscard]] bool isOfOtherVendor(const std::string& vendor) const;
+    /// From now on the reports of this vendor number are stored beside those that are there.
+    void takeVendor(const std::string& vendor);
     /// The first run from now on begins with the exchange rates, if they are old, so that the first figures
     /// are in all currencies.
     void askForRatesFirst() { ratesComeFirst_ = true; }
