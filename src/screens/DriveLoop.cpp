@@ -57,6 +57,9 @@ QCoro::Task<> DriveLoop::begin(Parts parts, std::stop_token cancel) {
         co_await parts.engine.checkStore();
     }
     if (!cancel.stop_requested()) {
+        co_await parts.engine.takeRatesFirst();
+    }
+    if (!cancel.stop_requested()) {
         co_await parts.engine.autoSyncIfDue();
     }
 }

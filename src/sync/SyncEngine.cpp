@@ -113,6 +113,13 @@ QCoro::Task<> SyncEngine::refreshRates(bool force) {
     }
 }
 
+QCoro::Task<> SyncEngine::takeRatesFirst() {
+    if (hasCredentials() && std::exchange(ratesComeFirst_, false) && areRatesDue(basis())) {
+        RunStep step{RatesRequest{}};
+        co_await perform(std::move(step));
+    }
+}
+
 bool SyncEngine::hasAnsweredDailyReport() const {
     return std::ranges::any_of(context_.salesReports().all(), [](const auto& entry) {
         const SalesReport& report = entry.second;
@@ -148,12 +155,9 @@ QCoro::Task<> SyncEngine::carryOut(RunKind kind, RunPlan plan) {
     if (!begin()) {
         co_return;
     }
-    if (std::exchange(ratesComeFirst_, false) && areRatesDue(basis())) {
-        RunStep step{RatesRequest{}};
-        co_await perform(std::move(step));
-        if (isClosing()) {
-            co_return;
-        }
+    co_await takeRatesFirst();
+    if (isClosing()) {
+        co_return;
     }
     RunSteps steps = plan.steps(basis());
     for (const RunStep& step : steps) {

@@ -98,6 +98,13 @@ TEST_F(DriveLoopTest, AsksForOldRatesBeforeItsFirstRunAlone) {
     EXPECT_NE(requests.front(), "rates");
 }
 
+TEST_F(DriveLoopTest, AsksForOldRatesAlsoWhereNoRunIsDue) {
+    fixture.defaults.setDate("lastAutoSyncAt", fixture.clock.now());
+    loop->start();
+    fixture.clock.advance(std::chrono::microseconds::zero());
+    EXPECT_EQ(fixture.takeRequests(), std::vector<std::string>{"rates"});
+}
+
 TEST_F(DriveLoopTest, TriesAKeyringThatCouldNotBeReadAgainNowAndThen) {
     fixture.secrets.setUnreadable("locked");
     loop.reset();

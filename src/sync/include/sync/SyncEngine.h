@@ -122,6 +122,8 @@ class SyncEngine : public QObject {
     /// The first run from now on begins with the exchange rates, if they are old, so that the first figures
     /// are in all currencies.
     void askForRatesFirst() { ratesComeFirst_ = true; }
+    /// The same where that run may not be due for hours.
+    [[nodiscard]] QCoro::Task<> takeRatesFirst();
 
     /// Looks through the store's file for damage, beside the window; to be awaited before the first run. The
     /// store's health tells what was found.
