@@ -1,5 +1,6 @@
 #include "TrialHouse.h"
 #include "WindowDriver.h"
+#include "calendar/ReportSchedule.h"
 #include "screens/words/DayText.h"
 #include "secrets/KeychainSecretStore.h"
 #include "testing/Golden.h"
@@ -102,9 +103,13 @@ TEST(Drive, LeadsANewcomerFromTheKeyToTheFiguresAndBack) {
     driver->click(QAccessible::ListItem, QStringLiteral("History"));
     driver->expectToSee(QAccessible::Button, QStringLiteral("Fetch What Is Missing"));
     driver->click(QAccessible::Button, QStringLiteral("Fetch What Is Missing"));
-    driver->waitUntil([&, before = days()] { return days() > before; }, "for another day");
-    engine.requestStop();
-    driver->waitUntil(isIdle, "for the run to stop");
+    driver->waitUntil([&] { return newcomer.root().history()->isWhole() && isIdle(); },
+                      "for what two stops have left");
+    EXPECT_FALSE(driver->sees(QAccessible::Button, QStringLiteral("Fetch What Is Missing")));
+    EXPECT_EQ(days(), static_cast<std::size_t>(daysOfBackfill));
+    EXPECT_EQ(newcomer.app().store().snapshot()->monthlyOKLabels.size(),
+              static_cast<std::size_t>(monthsOfBackfill));
+    EXPECT_EQ(engine.lastError(), std::nullopt);
     driver->click(QAccessible::ListItem, QStringLiteral("Dashboard"));
 
     // A day is opened from the chart and closed, by keyboard and by pointer.

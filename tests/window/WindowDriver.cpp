@@ -4,7 +4,10 @@
 #include <stdexcept>
 #include <vector>
 
+#include <QDeadlineTimer>
+#include <QEventLoop>
 #include <QTest>
+#include <QTimer>
 
 namespace vantrell::testing {
 namespace {
@@ -129,8 +132,21 @@ void WindowDriver::tabTo(QAccessible::Role role, const QString& name) {
 }
 
 void WindowDriver::waitUntil(const std::function<bool()>& isSo, const std::string& what) {
-    if (!QTest::qWaitFor(isSo, static_cast<int>(patience.count()))) {
-        throw std::runtime_error("waited in vain " + what);
+    // Without a pause between the events, on which a run of many requests would spend most of its time.
+    const QDeadlineTimer end(patience);
+    QTimer look;
+    look.start(std::chrono::milliseconds(10));
+    QEventLoop loop;
+    QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+        if (end.hasExpired() || isSo()) {
+            loop.quit();
+        }
+    });
+    if (!isSo()) {
+        loop.exec();
+        if (!isSo()) {
+            throw std::runtime_error("waited in vain " + what);
+        }
     }
 }
 
