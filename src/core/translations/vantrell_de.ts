@@ -1248,6 +1248,14 @@
         <source>Finance reports appear here once a sync has fetched them.</source>
         <translation>Finanzberichte erscheinen hier, sobald ein Abgleich sie abgerufen hat.</translation>
     </message>
+    <message>
+        <source>Payouts go back to %1; those of earlier fiscal months are not fetched.</source>
+        <translation>Die Auszahlungen reichen bis zum %1 zurück; frühere Geschäftsmonate werden nicht abgerufen.</translation>
+    </message>
+    <message>
+        <source>Payouts go back to %1.</source>
+        <translation>Die Auszahlungen reichen bis zum %1 zurück.</translation>
+    </message>
 </context>
 <context>
     <name>vantrell::RootView</name>

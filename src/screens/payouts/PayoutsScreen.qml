@@ -39,14 +39,22 @@ Item {
         readonly property ReadingOrder order: ReadingOrder { content: list.contentItem }
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Finance reports")
-        header: PlainText {
+        header: Column {
             width: list.rowWidth
             bottomPadding: 8
             leftPadding: 4
-            text: qsTr("Finance reports")
-            font.pixelSize: Theme.headline
-            font.weight: Font.DemiBold
-            Accessible.role: Accessible.Heading
+            PlainText {
+                text: qsTr("Finance reports")
+                font.pixelSize: Theme.headline
+                font.weight: Font.DemiBold
+                Accessible.role: Accessible.Heading
+            }
+            FormNote {
+                visible: text !== ""
+                width: parent.width - 8
+                topPadding: 4
+                text: screen.model.since
+            }
         }
         footer: FormNote {
             width: Math.min(list.rowWidth, 720)

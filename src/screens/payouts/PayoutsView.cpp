@@ -1,6 +1,23 @@
 #include "screens/payouts/PayoutsView.h"
 
+#include "calendar/ReportSchedule.h"
+#include "screens/components/ShownText.h"
+
 namespace vantrell {
+namespace {
+
+QString sinceText(const FigureContext& context, const FinancePeriodStat& oldest) {
+    if (!oldest.start) {
+        return {};
+    }
+    const QString day = fromUtf8(context.locale.date(context.store.calendar().dateAt(*oldest.start)));
+    return oldest.label == firstBackfillPeriod
+               ? PayoutsView::tr("Payouts go back to %1; those of earlier fiscal months are not fetched.")
+                     .arg(day)
+               : PayoutsView::tr("Payouts go back to %1.").arg(day);
+}
+
+}  // namespace
 
 PayoutsView::PayoutsView(const ScreenParts& parts, QObject* parent) : Screen(parts, parent) {
     connect(&engine(), &SyncEngine::isSyncingChanged, this, &PayoutsView::canRefetchChanged);
@@ -37,7 +54,9 @@ void PayoutsView::refetch(int place) {
 void PayoutsView::refresh() {
     labels_.clear();
     std::vector<PayoutRow> rows;
-    for (const FinancePeriodStat& period : financePeriods(*snapshot(), store().appFilter())) {
+    const auto periods = financePeriods(*snapshot(), store().appFilter());
+    since_ = periods.empty() ? QString() : sinceText({store(), locale()}, periods.back());
+    for (const FinancePeriodStat& period : periods) {
         rows.push_back(payoutRow({store(), locale()}, period, expanded_.contains(period.label)));
         labels_.push_back(period.label);
     }

@@ -18,6 +18,7 @@ class PayoutsView : public vantrell::Screen {
     QML_UNCREATABLE("made by RootView")
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed)
     Q_PROPERTY(vantrell::EmptyState emptyState READ emptyState NOTIFY changed)
+    Q_PROPERTY(QString since READ since NOTIFY changed)
     Q_PROPERTY(vantrell::RowList* rows READ rows CONSTANT)
     Q_PROPERTY(bool canRefetch READ canRefetch NOTIFY canRefetchChanged)
 
@@ -26,6 +27,8 @@ class PayoutsView : public vantrell::Screen {
 
     [[nodiscard]] bool isEmpty() const { return labels_.empty(); }
     [[nodiscard]] EmptyState emptyState() const;
+    /// Since when they go back; empty where that isn't known.
+    [[nodiscard]] QString since() const { return since_; }
     /// Newest first.
     [[nodiscard]] RowList* rows() { return &rows_; }
     /// Opens or closes the row at `place`; other places change nothing.
@@ -41,6 +44,7 @@ class PayoutsView : public vantrell::Screen {
     void refresh() override;
     [[nodiscard]] bool isRow(int place) const;
 
+    QString since_;
     RowList rows_;
     std::vector<std::string> labels_;  ///< of the rows
     std::set<std::string> expanded_;   ///< labels

@@ -62,6 +62,12 @@ FormSection {
             onClicked: section.model.fetchMonth()
         }
     }
+    FormNote {
+        visible: text !== ""
+        text: section.model.monthProblem
+        color: Theme.bad
+        Accessible.role: Accessible.AlertMessage
+    }
     QuestionBox { question: section.model.monthQuestion }
     NavigationRow {
         Layout.fillWidth: true

@@ -71,6 +71,7 @@ void SyncSettings::fetchDayNow() {
 void SyncSettings::setMonth(const QString& month) {
     if (month != month_) {
         month_ = month;
+        monthProblem_.clear();
         Q_EMIT requestsChanged();
     }
 }
@@ -81,8 +82,13 @@ bool SyncSettings::canFetchMonth() const {
 
 void SyncSettings::fetchMonth() {
     const auto typed = parseYearMonth(month_.toStdString());
-    const std::string month = typed ? yearMonthText(*typed) : std::string();
-    const std::int64_t lines = typed ? storedLines(parts_.context, month) : 0;
+    if (!typed) {
+        monthProblem_ = runText(RunFailure{RunFailure::Kind::noMonth});
+        Q_EMIT requestsChanged();
+        return;
+    }
+    const std::string month = yearMonthText(*typed);
+    const std::int64_t lines = storedLines(parts_.context, month);
     if (canFetchMonth() && lines > 0 && month < parts_.store.calendar().monthKey(monthsOfBackfill)) {
         monthQuestion_.ask(onlyCopyQuestion(parts_.locale, monthKeyLabel(parts_.locale, month), lines),
                            {tr("Fetch Anyway"), [this] { fetchMonthNow(); }});

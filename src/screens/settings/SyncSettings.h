@@ -23,6 +23,7 @@ class SyncSettings : public QObject {
     Q_PROPERTY(vantrell::Question* monthQuestion READ monthQuestion CONSTANT)
     Q_PROPERTY(bool canFetchDay READ canFetchDay NOTIFY requestsChanged)
     Q_PROPERTY(QString month READ month WRITE setMonth NOTIFY requestsChanged)
+    Q_PROPERTY(QString monthProblem READ monthProblem NOTIFY requestsChanged)
     Q_PROPERTY(bool canFetchMonth READ canFetchMonth NOTIFY requestsChanged)
 
   public:
@@ -43,7 +44,9 @@ class SyncSettings : public QObject {
 
     [[nodiscard]] QString month() const { return month_; }
     void setMonth(const QString& month);
-    /// No run is under way, and there is a text; whether it is a month the engine says.
+    /// Why nothing was fetched; empty once the text is another.
+    [[nodiscard]] QString monthProblem() const { return monthProblem_; }
+    /// No run is under way, and there is a text, be it a month or not.
     [[nodiscard]] bool canFetchMonth() const;
     /// Likewise.
     Q_INVOKABLE void fetchMonth();
@@ -66,6 +69,7 @@ class SyncSettings : public QObject {
     CivilDate chosenDay_;
     DateField day_;
     QString month_;
+    QString monthProblem_;
     Question dayQuestion_;
     Question monthQuestion_;
 };
