@@ -1,3 +1,4 @@
+#include "FailureWindow.h"
 #include "ProgramFolders.h"
 #include "UserStores.h"
 #include "base/SystemClock.h"
@@ -73,6 +74,7 @@ int run(const ProgramFolders& folders, OwnStore own, InstanceGuard& guard, const
         {.reportService = origins.reportService, .rateService = origins.rateService, .store = own.number});
     if (const auto* failure = std::get_if<StartFailure>(&begun)) {
         std::cerr << failure->text << std::endl;
+        showStartFailure(failure->text, locale, appearance, endSignals);
         return EXIT_FAILURE;
     }
     ImageLoaderSettings icons;

@@ -20,4 +20,8 @@ QUrl mainQml() {
     return QUrl(QStringLiteral("qrc:/qt/qml/Vantrell/Main.qml"));
 }
 
+QUrl startFailureQml() {
+    return QUrl(QStringLiteral("qrc:/qt/qml/Vantrell/StartFailureWindow.qml"));
+}
+
 }  // namespace vantrell

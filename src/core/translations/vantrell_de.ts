@@ -668,6 +668,21 @@
     </message>
 </context>
 <context>
+    <name>StartFailureWindow</name>
+    <message>
+        <source>Nothing was changed. Vantrell ends when you close this window.</source>
+        <translation>Es wurde nichts geändert. Vantrell wird beendet, wenn Sie dieses Fenster schließen.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>StoreWords</name>
     <message>
         <source>The program could not be started once more.</source>
